@@ -1,0 +1,52 @@
+# The library: Numlab.Sig5d.dll with its import libraries, or libNumlab.Sig5d.so; linux32 gets a static one for tests.
+add_library(sig5d_product INTERFACE)
+target_include_directories(sig5d_product INTERFACE include src ${SIG5D_GENERATED})
+target_compile_options(
+    sig5d_product
+    INTERFACE ${SIG5D_COMMON_FLAGS}
+              $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti -fno-threadsafe-statics -fvisibility=hidden>
+              -ffunction-sections -fdata-sections -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -Wall -Wextra
+              -fstack-protector-strong)
+if(SIG5D_SANITIZE)
+    # The runtime knows stacks and threads its own way; the library's guard and lean entry point are not for it.
+    add_compile_options(-fsanitize=${SIG5D_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
+    add_link_options(-fsanitize=${SIG5D_SANITIZE})
+endif()
+
+set(frame_sources "")
+foreach(source ${SIG5D_PLAIN_SOURCES} frame/cpuid.cpp ${SIG5D_INTERNAL_SOURCES})
+    list(APPEND frame_sources ${CMAKE_SOURCE_DIR}/src/${source})
+endforeach()
+list(REMOVE_DUPLICATES frame_sources)
+
+if(SIG5D_STATIC)
+    add_library(sig5d STATIC)
+else()
+    add_library(sig5d SHARED)
+endif()
+target_sources(sig5d PRIVATE ${frame_sources} ${SIG5D_GENERATED}/adapters.cpp ${SIG5D_GENERATED}/dispatch.S)
+set_source_files_properties(${SIG5D_GENERATED}/dispatch.S PROPERTIES OBJECT_DEPENDS ${CMAKE_SOURCE_DIR}/src/frame/stub.inc)
+target_include_directories(sig5d INTERFACE include)
+target_link_libraries(sig5d PRIVATE sig5d_product)
+sig5d_add_variants(sig5d)
+
+if(WIN32)
+    include(${CMAKE_CURRENT_LIST_DIR}/library_windows.cmake)
+elseif(NOT SIG5D_STATIC)
+    set_target_properties(
+        sig5d PROPERTIES OUTPUT_NAME Numlab.Sig5d POSITION_INDEPENDENT_CODE ON LIBRARY_OUTPUT_DIRECTORY
+                                                                               ${CMAKE_BINARY_DIR})
+    foreach(variant ${SIG5D_VARIANTS})
+        if(TARGET sig5d_${variant})
+            set_target_properties(sig5d_${variant} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+        endif()
+    endforeach()
+    target_link_options(
+        sig5d PRIVATE -Wl,--version-script=${SIG5D_GENERATED}/exports.map -Wl,-Bsymbolic -Wl,--gc-sections
+        -Wl,-z,relro,-z,now,-z,noexecstack -Wl,--build-id=none)
+    if(NOT SIG5D_SANITIZE)
+        # Linked as C: plain functions and plain records need no C++ runtime.
+        set_target_properties(sig5d PROPERTIES LINKER_LANGUAGE C)
+        target_link_options(sig5d PRIVATE -Wl,-z,defs)
+    endif()
+endif()

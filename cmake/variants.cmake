@@ -1,0 +1,37 @@
+# The processor variants and their flags: the only place that knows them. Each *.kernels.cpp is compiled once per body;
+# which bodies a file has stands in its source line in api/ (a variant without one uses the nearest lower).
+set(SIG5D_VARIANTS px w7 s8 p8 g9 h9)
+
+# px is the reference that every other body must equal bit for bit: the same source, compiled without vectorisation.
+set(SIG5D_FLAGS_px -fno-tree-vectorize)
+set(SIG5D_FLAGS_w7 "")
+set(SIG5D_FLAGS_s8 -mssse3)
+set(SIG5D_FLAGS_p8 -msse4.2)
+set(SIG5D_FLAGS_g9 -mavx)
+set(SIG5D_FLAGS_h9 -mavx2)
+
+# For all code of the product. No fused multiply-add and no x87 arithmetic, so that all variants and platforms give the
+# same bits; hosts align a 32-bit stack to 4 bytes only, so that functions that need more realign it themselves.
+set(SIG5D_COMMON_FLAGS -O3 -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign)
+
+# sig5d_add_variants(<target>): an object library per variant, each file of SIG5D_KERNEL_SOURCES in each of its bodies.
+function(sig5d_add_variants target)
+    set(level 0)
+    foreach(variant ${SIG5D_VARIANTS})
+        set(sources "")
+        foreach(source ${SIG5D_KERNEL_SOURCES})
+            string(REPLACE "/" "_" key ${source})
+            if(variant IN_LIST SIG5D_BODIES_${key})
+                list(APPEND sources ${CMAKE_SOURCE_DIR}/src/${source})
+            endif()
+        endforeach()
+        if(sources)
+            add_library(sig5d_${variant} OBJECT ${sources})
+            target_link_libraries(sig5d_${variant} PRIVATE sig5d_product)
+            target_compile_definitions(sig5d_${variant} PRIVATE SIG5D_VARIANT=${variant} SIG5D_LEVEL=${level})
+            target_compile_options(sig5d_${variant} PRIVATE ${SIG5D_FLAGS_${variant}})
+            target_sources(${target} PRIVATE $<TARGET_OBJECTS:sig5d_${variant}>)
+        endif()
+        math(EXPR level "${level} + 1")
+    endforeach()
+endfunction()

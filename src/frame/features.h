@@ -1,0 +1,53 @@
+// The feature word, the rule that turns it into a processor variant, and the process-wide choice.
+#pragma once
+#include "frame/cpuid.h"
+
+namespace sig5d {
+
+enum Feature : u64 {
+    FeatureMmx = 0x1,
+    FeatureSse = 0x2,
+    FeatureSse2 = 0x4,
+    FeatureSse3 = 0x8,
+    FeatureSsse3 = 0x10,
+    FeatureMovbe = 0x20,
+    FeatureSse41 = 0x40,
+    FeatureSse42 = 0x80,
+    FeatureAvx = 0x100,
+    FeatureAvxOs = 0x200, // the operating system saves the AVX registers
+    FeatureAes = 0x400,
+    FeaturePclmulqdq = 0x800,
+    FeatureRdrand = 0x2000,
+    FeatureF16c = 0x4000,
+    FeatureAvx2 = 0x8000,
+    FeatureAdx = 0x10000,
+    FeatureRdseed = 0x20000,
+    FeaturePrefetchw = 0x40000,
+    FeatureSha = 0x80000,
+    FeatureAvx512f = 0x100000,
+    FeatureAvx512cd = 0x200000,
+    FeatureAvx512er = 0x400000,
+    FeatureAvx512pf = 0x800000,
+    FeatureAvx512bw = 0x1000000,
+    FeatureAvx512dq = 0x2000000,
+    FeatureAvx512vl = 0x4000000,
+    DoNotCompare = u64(1) << 63 // not a feature: select without asking the processor
+};
+
+// What the rule decides for a requested feature word.
+struct Selection {
+    int variant; // 0 px, 1 w7, 2 s8, 3 p8, 4 g9, 5 h9
+    u64 enabled;
+    Status status;
+};
+
+u64 readFeatures(const Processor& p);
+Selection select(u64 requested); // bit 63 clear; whatever the processor has
+Selection selectAgainst(u64 requested, u64 processor);
+
+} // namespace sig5d
+
+extern "C" {
+extern int sig5d_variant; // -1 until the first call of a primitive
+void sig5d_initialise(); // what the first call of a primitive runs
+}

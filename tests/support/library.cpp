@@ -1,0 +1,52 @@
+#include "support/library.h"
+#include <cstring>
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
+
+namespace support {
+
+const Variant variants[6] = {{"px", 0, 0x3},  {"w7", 1, 0x7},   {"s8", 2, 0x1F},
+                             {"p8", 3, 0xDF}, {"g9", 4, 0x1DF}, {"h9", 5, 0x81DF}};
+
+Entry find(const char* name)
+{
+#ifdef _WIN32
+    static const HMODULE library = LoadLibraryA("Numlab.Sig5d.dll");
+    return reinterpret_cast<Entry>(GetProcAddress(library, name));
+#else
+    return reinterpret_cast<Entry>(dlsym(RTLD_DEFAULT, name));
+#endif
+}
+
+void force(const Variant& v) { ippSetCpuFeatures(v.features | Ipp64u(1) << 63); }
+
+const Variant& current()
+{
+    for (const Variant& v : variants)
+        if (!std::strncmp(ippsGetLibVersion()->targetCpu, v.code, 4)) return v;
+    return variants[0];
+}
+
+std::vector<Variant> supported()
+{
+    static const std::vector<Variant> list = [] {
+        std::vector<Variant> found;
+        for (const Variant& v : variants) {
+            __builtin_cpu_init();
+            const bool has[] = {true,
+                                true,
+                                __builtin_cpu_supports("ssse3") != 0,
+                                __builtin_cpu_supports("sse4.2") != 0,
+                                __builtin_cpu_supports("avx") != 0,
+                                __builtin_cpu_supports("avx2") != 0};
+            if (has[v.index]) found.push_back(v);
+        }
+        return found;
+    }();
+    return list;
+}
+
+} // namespace support

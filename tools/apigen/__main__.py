@@ -1,0 +1,45 @@
+"""Writes the library's boundary from its interface description.
+
+    python3 tools/apigen --api api --out build/gen      the build tree's files
+    python3 tools/apigen --api api --committed .        include/sig5d.h and docs/reference
+"""
+import argparse
+from pathlib import Path
+
+import emit_cpp
+import emit_docs
+import emit_frame
+import emit_header
+import emit_link
+import emit_registry
+from parse import Parser
+
+
+def write(folder, files):
+    """Writes what changed only, so that an unchanged file triggers no rebuild."""
+    for name, text in files.items():
+        path = Path(folder) / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        if not path.exists() or path.read_text() != text:
+            path.write_text(text, newline="\n")
+
+
+def main():
+    options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    options.add_argument("--api", required=True)
+    options.add_argument("--out")
+    options.add_argument("--committed")
+    given = options.parse_args()
+    api = Parser(given.api).read()
+    if given.out:
+        files = emit_frame.frame_files(api)
+        files |= emit_cpp.entries(api)
+        files |= {"dispatch.S": emit_cpp.dispatch(api), "adapters.cpp": emit_cpp.adapters(api)}
+        files |= emit_link.definition_files(api)
+        files |= emit_registry.files(api)
+        write(given.out, files)
+    if given.committed:
+        write(given.committed, {"include/sig5d.h": emit_header.header(api)} | emit_docs.pages(api))
+
+
+main()
