@@ -242,7 +242,8 @@ class Parser:
             notes=said["note"],
             warnings=said.get("warns", "").split(),
             in_place=[p for p in pairs if set(p) <= names],
-            domains={d.split("=")[0].strip(): d.split("=")[1].split() for d in said.get("domain", [])},
+            domains={d.split("=", 1)[0].strip(): d.split("=", 1)[1].split() for d in said.get("domain", [])},
+            moves_bits="moves" in said,
             fixture=said.get("fixture", ""),
             types=[binding[k] for k in "TUVW" if k in binding],
         )

@@ -1,0 +1,24 @@
+// Calls a function of the interface with argument values, by what the registry says of it.
+#pragma once
+#include "checked_call.h"
+#include "registry.h"
+#include <string>
+
+namespace registry {
+
+using Entry = void (*)();
+
+struct Answer {
+    long long status = 0; // the result as an integer: status, count, 64-bit value, pointer
+    double number = 0; // the result of a function that returns a double
+    std::string intrusion; // what the call changed that it must not; empty: nothing
+};
+
+// The plain form, or the argument list of an _Idx form that is written out.
+Answer invoke(Entry entry, const Function& f, const Value* values, int stackPhase = 0);
+// The _Idx form by rule: index k belongs to the k-th array or work buffer.
+Answer invokeIndexed(Entry entry, const Function& f, const Value* values, const int* indexes, int stackPhase = 0);
+
+bool takesIndex(const Arg& a);
+
+} // namespace registry
