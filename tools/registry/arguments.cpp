@@ -1,4 +1,5 @@
 #include "arguments.h"
+#include "fixtures/fixtures.h"
 #include <cstring>
 #include <map>
 #include <string>
@@ -6,7 +7,7 @@
 namespace registry {
 namespace {
 
-std::map<std::string, Fixture>& fixtures()
+std::map<std::string, Fixture>& known()
 {
     static std::map<std::string, Fixture> all;
     return all;
@@ -21,8 +22,10 @@ void* somewhere()
 const Fixture& fixtureOf(const Function& f)
 {
     static const Fixture none;
-    const auto found = fixtures().find(f.fixture);
-    return found == fixtures().end() ? none : found->second;
+    static const bool added = (fixtures::addAll(), true);
+    (void)added;
+    const auto found = known().find(f.fixture);
+    return found == known().end() ? none : found->second;
 }
 
 void measure(Arguments& a)
@@ -74,7 +77,7 @@ bool Arguments::valid() const
     return true;
 }
 
-void addFixture(const char* name, Fixture fixture) { fixtures()[name] = std::move(fixture); }
+void addFixture(const char* name, Fixture fixture) { known()[name] = std::move(fixture); }
 
 bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern)
 {
