@@ -62,6 +62,7 @@ private:
     {
         uintptr_t words[2] = {};
         std::memcpy(words, data, bytes);
+        if (bytes > sizeof(uintptr_t) && firstDouble < 0) firstDouble = static_cast<int>(stack.size());
         for (size_t i = 0; i * sizeof(uintptr_t) < bytes; ++i) stack.push_back(words[i]);
     }
     [[maybe_unused]] int integerCount_ = 0, floatCount_ = 0;

@@ -25,6 +25,7 @@ struct CallWords {
     uintptr_t integers[6] = {}; // registers of x86-64
     double floats[8] = {};
     std::vector<uintptr_t> stack;
+    int firstDouble = -1; // place on the stack of the first 8-byte argument of 32-bit code; -1: none
 };
 CallWords wordsOf(const Function& f, const Value* values);                            // as invoke calls
 CallWords wordsOfIndexed(const Function& f, const Value* values, const int* indexes); // as invokeIndexed calls
