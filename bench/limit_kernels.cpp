@@ -100,7 +100,7 @@ const char* nameOf(Limit::Kind kind)
     return names[kind];
 }
 
-std::vector<Limit> limitsOf(const Setup& setup, const std::vector<int>& widths, Emitter& emitter)
+std::vector<Limit> limitsOf(const Setup& setup, const std::set<int>& widths, Emitter& emitter)
 {
     std::vector<Limit> all;
     const Traffic traffic = trafficOf(setup);

@@ -2,6 +2,7 @@
 #pragma once
 #include "case.h"
 #include "emitter.h"
+#include <set>
 
 namespace bench {
 
@@ -14,6 +15,6 @@ struct Limit {
 const char* nameOf(Limit::Kind kind);
 
 // Several forms of one kind may be given; the fastest is the limit. The emitter owns their code.
-std::vector<Limit> limitsOf(const Setup& setup, const std::vector<int>& widths, Emitter& emitter);
+std::vector<Limit> limitsOf(const Setup& setup, const std::set<int>& widths, Emitter& emitter);
 
 } // namespace bench

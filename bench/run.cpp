@@ -55,7 +55,7 @@ public:
         if (level == Level::tiny && setup_.sameCall)
             limits_.push_back({Limit::call, 0, {"", setup_.sameCall(emitter_.nothing(setup_.poppedBytes)), {}, {}}, 1});
         else
-            limits_ = limitsOf(setup_, {widths_.begin(), widths_.end()}, emitter_);
+            limits_ = limitsOf(setup_, std::set<int>(widths_.begin(), widths_.end()), emitter_);
         for (const Limit& l : limits_) all_.push_back(l.candidate);
     }
 
