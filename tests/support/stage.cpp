@@ -142,19 +142,4 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
 
 bool generallyCallable(const registry::Function& f) { return std::strcmp(f.fixture, "none") != 0; }
 
-std::string nameOf(const registry::Function& f)
-{
-    return std::string(f.name) + (f.index == registry::IndexForm::written ? "_Idx" : "");
-}
-
-registry::Entry entryOf(const registry::Function& f) { return find(nameOf(f).c_str()); }
-
-std::vector<Variant> bodiesOf(const registry::Function& f)
-{
-    std::vector<Variant> found;
-    for (const Variant& v : supported())
-        if (std::strstr(f.bodies, v.code)) found.push_back(v);
-    return found;
-}
-
 } // namespace support

@@ -48,10 +48,5 @@ bool isOutput(const registry::Arg& arg);
 
 // Functions to which the general tests apply: those whose arguments the description or a fixture can build.
 bool generallyCallable(const registry::Function& f);
-registry::Entry entryOf(const registry::Function& f); // the plain form, or the written-out _Idx form
-std::string nameOf(const registry::Function& f);
-
-// The variants that have bodies of their own for this function and that this processor can run; px first.
-std::vector<Variant> bodiesOf(const registry::Function& f);
 
 } // namespace support
