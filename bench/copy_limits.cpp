@@ -66,21 +66,21 @@ using Limit = void (*)(u8*, const u8*, const u8*, size_t);
 #define FENCE_STREAM "sfence\n"
 #define END_16 ""
 #define END_32 "vzeroupper\n"
-#define LIMIT(load, operation, store, w, r)                                                                            \
-    [](u8* d, const u8* a, const u8* b, size_t n) {                                                                    \
-        asm volatile(".p2align 6\n1:\n" EACH(load, w, r) EACH(operation, w, r) EACH(store, w, r)                       \
-                     "add $4*" #w ",%[a]\n add $4*" #w ",%[b]\n add $4*" #w ",%[d]\n cmp %[d],%[end]\n jne 1b\n"       \
-                     FENCE_##store END_##w                                                                                \
-                     : [d] "+r"(d), [a] "+r"(a), [b] "+r"(b)                                                           \
-                     : [end] "r"(d + n)                                                                                \
-                     : "memory", "xmm0", "xmm1", "xmm2", "xmm3", "xmm7");                                              \
+#define LIMIT(load, operation, store, w, r)                                                           \
+    [](u8* d, const u8* a, const u8* b, size_t n) {                                                   \
+        asm volatile(".p2align 6\n1:\n" EACH(load, w, r) EACH(operation, w, r)                        \
+                         EACH(store, w, r) "add $4*" #w ",%[a]\n add $4*" #w ",%[b]\n add $4*" #w     \
+                                           ",%[d]\n cmp %[d],%[end]\n jne 1b\n" FENCE_##store END_##w \
+                     : [d] "+r"(d), [a] "+r"(a), [b] "+r"(b)                                          \
+                     : [end] "r"(d + n)                                                               \
+                     : "memory", "xmm0", "xmm1", "xmm2", "xmm3", "xmm7");                             \
     }
-#define LIMITS(load, operation)                                                                                        \
-    {                                                                                                                  \
-        {LIMIT(load, operation, STORE, 16, xmm), LIMIT(load, operation, STREAM, 16, xmm)},                             \
-        {                                                                                                              \
-            LIMIT(load, operation, STORE, 32, ymm), LIMIT(load, operation, STREAM, 32, ymm)                            \
-        }                                                                                                              \
+#define LIMITS(load, operation)                                                             \
+    {                                                                                       \
+        {LIMIT(load, operation, STORE, 16, xmm), LIMIT(load, operation, STREAM, 16, xmm)},  \
+        {                                                                                   \
+            LIMIT(load, operation, STORE, 32, ymm), LIMIT(load, operation, STREAM, 32, ymm) \
+        }                                                                                   \
     }
 const Limit limits[4][2][2] = {LIMITS(NONE, NONE), LIMITS(LOAD, NONE), LIMITS(LOAD, OR), LIMITS(LOAD, CONSTANT)};
 
@@ -142,17 +142,37 @@ const Case cases[] = {
 void call(const Case& c, support::Entry f, u8* d, const u8* a, const u8* b, int n)
 {
     switch (c.shape) {
-    case unary: reinterpret_cast<Unary>(f)(a, d, n); break;
+    case unary:
+        reinterpret_cast<Unary>(f)(a, d, n);
+        break;
     case zero:
-    case inPlace: reinterpret_cast<InPlace>(f)(d, n); break;
-    case binary: reinterpret_cast<Binary>(f)(a, b, d, n); break;
-    case binaryInPlace: reinterpret_cast<BinaryInPlace>(f)(a, d, n); break;
-    case withInt: reinterpret_cast<WithInt>(f)(a, c.value, d, n); break;
-    case withIntInPlace: reinterpret_cast<WithIntInPlace>(f)(c.value, d, n); break;
-    case setInt: reinterpret_cast<SetInt>(f)(c.value, d, n); break;
-    case setReal: reinterpret_cast<SetReal>(f)(c.value, d, n); break;
-    case setComplex: reinterpret_cast<SetComplex>(f)({1.0, 2.0}, d, n); break;
-    case bits: reinterpret_cast<Bits>(f)(a, c.value, d, 0, 8 * n - 8); break;
+    case inPlace:
+        reinterpret_cast<InPlace>(f)(d, n);
+        break;
+    case binary:
+        reinterpret_cast<Binary>(f)(a, b, d, n);
+        break;
+    case binaryInPlace:
+        reinterpret_cast<BinaryInPlace>(f)(a, d, n);
+        break;
+    case withInt:
+        reinterpret_cast<WithInt>(f)(a, c.value, d, n);
+        break;
+    case withIntInPlace:
+        reinterpret_cast<WithIntInPlace>(f)(c.value, d, n);
+        break;
+    case setInt:
+        reinterpret_cast<SetInt>(f)(c.value, d, n);
+        break;
+    case setReal:
+        reinterpret_cast<SetReal>(f)(c.value, d, n);
+        break;
+    case setComplex:
+        reinterpret_cast<SetComplex>(f)({1.0, 2.0}, d, n);
+        break;
+    case bits:
+        reinterpret_cast<Bits>(f)(a, c.value, d, 0, 8 * n - 8);
+        break;
     }
 }
 bool fills(Shape s) { return s == setInt || s == setReal || s == setComplex || s == zero; }
@@ -165,8 +185,7 @@ int pattern(const Case& c)
 }
 
 // Seconds of one call: enough of them to fill a fraction of a millisecond.
-template <class F>
-double time(size_t bytes, F f)
+template <class F> double time(size_t bytes, F f)
 {
     const size_t calls = 1 + (size_t(1) << 20) / (bytes + 64);
     f();
@@ -193,7 +212,7 @@ void measure(const Case& c, size_t bytes, const char* level, double hertz, u8* p
     std::vector<std::vector<double>> times(peer + 3);
     const int rounds = bytes > (size_t(1) << 24) ? 5 : 21;
     const u8* const first = overwrites(c.shape) ? d : a;
-    const u8* const second = overwrites(c.shape) ? a : b;
+    const u8* const second = overwrites(c.shape) ? a : c.shape == bits ? a + 1 : b;
     for (int round = 0; round < rounds; ++round) {
         for (int w = 0; w < (wide ? 2 : 1) && bytes >= 256; ++w) {
             double best = 1e9;
@@ -236,9 +255,11 @@ int main(int count, char** names)
     const struct {
         const char* name;
         size_t bytes;
-    } levels[] = {{"8", 8}, {"24", 24}, {"96", 96}, {"1K", 1 << 10}, {"L1", 8 << 10}, {"L2", 256 << 10}, {"mem", 96 << 20}};
-    const size_t room = 3 * (levels[6].bytes + 8192);
-    u8* const pool = reinterpret_cast<u8*>((reinterpret_cast<uintptr_t>(std::malloc(room + 4096)) + 4095) / 4096 * 4096);
+    } levels[] = {{"8", 8},        {"24", 24},        {"96", 96},      {"1K", 1 << 10},
+                  {"L1", 8 << 10}, {"L2", 256 << 10}, {"L3", 8 << 20}, {"mem", 96 << 20}};
+    const size_t room = 3 * (levels[7].bytes + 8192);
+    u8* const pool =
+        reinterpret_cast<u8*>((reinterpret_cast<uintptr_t>(std::malloc(room + 4096)) + 4095) / 4096 * 4096);
     for (size_t i = 0; i < room; ++i) pool[i] = static_cast<u8>(i * 7 >> 3);
     const double hertz = clockRate();
     printf("core clock %.2f GHz; bytes written per cycle (short arrays: cycles a call), per cent of the limit,"

@@ -347,7 +347,7 @@ IppStatus SIG5D_CDECL ippsMove_64sc_Idx(const Ipp64sc* pSrc, int srcIdx, Ipp64sc
 IppStatus SIG5D_STDCALL ippsMove_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 
-/* pDst[i] = val. */
+/* pDst[i] = val. Every bit of val arrives, also of a NaN. */
 IppStatus SIG5D_STDCALL ippsSet_16s(Ipp16s val, Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_16s_Idx(Ipp16s val, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSet_32s(Ipp32s val, Ipp32s* pDst, int len);

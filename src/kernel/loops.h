@@ -8,34 +8,21 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 struct Same {
-    template <class V>
-    V operator()(V x) const
-    {
-        return x;
-    }
+    template <class V> V operator()(V x) const { return x; }
 };
 
 #if SIG5D_LEVEL == 0
 
 // d[i] = op(a[i], ...) for 0 <= i < n.
-template <class D, class Op, class... A>
-inline void map(size_t n, D* d, Op op, A... a)
+template <class D, class Op, class... A> inline void map(size_t n, D* d, Op op, A... a)
 {
     for (size_t i = 0; i < n; ++i) d[i] = op(a[i]...);
-}
-
-// map for operations on bits, for which the type of the elements does not matter.
-template <class D, class Op, class... A>
-inline void map_bits(int n, D* d, Op op, const A*... a)
-{
-    map(static_cast<size_t>(n), d, op, a...);
 }
 
 #else
 
 // 8, 4, 2 or 1 bytes in the low end of a register.
-template <int bytes, class T>
-inline Vec<T, 16 / sizeof(T)> load_part(const T* p)
+template <int bytes, class T> inline Vec<T, 16 / sizeof(T)> load_part(const T* p)
 {
     __m128i v;
     if constexpr (bytes == 16) {
@@ -51,8 +38,7 @@ inline Vec<T, 16 / sizeof(T)> load_part(const T* p)
 }
 
 // The low end of a register of any size.
-template <int bytes, class V>
-inline void store_part(void* p, V vector)
+template <int bytes, class V> inline void store_part(void* p, V vector)
 {
     const auto v = reinterpret_cast<Vec<i32, sizeof(V) / 4>>(vector);
     if constexpr (bytes <= 4) {
@@ -64,15 +50,10 @@ inline void store_part(void* p, V vector)
 }
 
 // Any vector, wherever p points.
-template <class V>
-inline void put(void* p, V v)
-{
-    __builtin_memcpy(p, &v, sizeof v);
-}
+template <class V> inline void put(void* p, V v) { __builtin_memcpy(p, &v, sizeof v); }
 
 // Fewer elements than a vector has: the largest power of two of bytes that fits, once from either end.
-template <int bytes, class D, class Op, class... A>
-inline void map_short(size_t n, D* d, Op op, A... a)
+template <int bytes, class D, class Op, class... A> inline void map_short(size_t n, D* d, Op op, A... a)
 {
     constexpr size_t part = bytes / sizeof(D);
     if constexpr (part == 0) {
@@ -87,30 +68,20 @@ inline void map_short(size_t n, D* d, Op op, A... a)
 }
 
 // Elements from d to the next address that is a multiple of the vector's size (as far as elements reach one).
-template <class D>
-inline size_t misalignment(const D* d)
+template <class D> inline size_t misalignment(const D* d)
 {
     return -reinterpret_cast<uintptr_t>(d) % vectorBytes / sizeof(D);
 }
 
 // Where the n elements that a source reads begin in memory.
-template <class T>
-inline const T* lowest(const T* a, size_t)
-{
-    return a;
-}
+template <class T> inline const T* lowest(const T* a, size_t) { return a; }
 
 // Keeps a pointer that the compiler would otherwise turn into an index, and the order of loads and stores around it:
 // stores with an index, or that alternate between cache lines, are slower on some processors.
-template <class P>
-inline void keep(P& p)
-{
-    asm volatile("" : "+r"(p) : : "memory");
-}
+template <class P> inline void keep(P& p) { asm volatile("" : "+r"(p) : : "memory"); }
 
 // Four vectors: all loaded before any is stored.
-template <class D, class Store, class Op, class... A>
-inline void map_four(D*& d, Store write, Op op, A&... a)
+template <class D, class Store, class Op, class... A> inline void map_four(D*& d, Store write, Op op, A&... a)
 {
     constexpr int L = lanes<D>;
     const auto v0 = op(loadn<L>(a)...), v1 = op(loadn<L>(a + L)...);
@@ -148,9 +119,9 @@ inline size_t map_blocks(size_t n, D*& d, Store write, Op op, A&... a)
 //
 // The first and the last vector overlap the others, so that no element is left over: they are computed before anything
 // is stored and stored at the end. Between them the stores are aligned, since stores that cross a cache line take
-// twice as long.
-template <class D, class Op, class... A>
-[[gnu::always_inline]] inline void map(size_t n, D* d, Op op, A... a)
+// twice as long. Always inlined, so that an operation may hold vectors: as arguments of a real function those of 32
+// bytes would leave the upper halves of registers in use, which slows down all code after it.
+template <class D, class Op, class... A> [[gnu::always_inline]] inline void map(size_t n, D* d, Op op, A... a)
 {
     constexpr size_t L = lanes<D>;
     if (n < L) return map_short<vectorBytes / 2>(n, d, op, a...);
@@ -164,11 +135,13 @@ template <class D, class Op, class... A>
         d += skip;
         (void(a += skip), ...);
         size_t left = n - skip;
+        const auto past_caches = [](D* p, auto v) { stream(p, v); };
+        const auto ordinary = [](D* p, auto v) { put(p, v); };
         if (streaming) {
-            left = map_blocks(left, d, [](D* p, auto v) { stream(p, v); }, op, a...);
+            left = map_blocks(left, d, past_caches, op, a...);
             stream_end();
         } else {
-            left = map_blocks(left, d, [](D* p, auto v) { put(p, v); }, op, a...);
+            left = map_blocks(left, d, ordinary, op, a...);
         }
         for (; left > L; left -= L) {
             put(d, op(loadn<L>(a)...));
@@ -184,19 +157,21 @@ template <class D, class Op, class... A>
     put(last, tail);
 }
 
-// map for operations on bits, for which the type of the elements does not matter: one loop over bytes serves all.
-template <class Op, class... A>
-[[gnu::noinline]] void map_bytes(size_t n, u8* d, Op op, A... a)
+#endif
+
+// One loop for all types, where only bits count and not the elements that they make up; in px one by one.
+template <class Op, class... A> [[gnu::noinline]] void map_bytes(size_t n, u8* d, Op op, A... a)
 {
     map(n, d, op, a...);
 }
-template <class D, class Op, class... A>
-inline void map_bits(int n, D* d, Op op, const A*... a)
+template <class D, class Op, class... A> inline void map_bits(int n, D* d, Op op, const A*... a)
 {
+#if SIG5D_LEVEL == 0
+    map(static_cast<size_t>(n), d, op, a...);
+#else
     map_bytes(static_cast<size_t>(n) * sizeof(D), reinterpret_cast<u8*>(d), op, reinterpret_cast<const u8*>(a)...);
-}
-
 #endif
+}
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

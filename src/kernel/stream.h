@@ -12,8 +12,7 @@ namespace {
 
 #if SIG5D_LEVEL > 0
 // p: aligned to the size of the vector.
-template <class V>
-inline void stream(void* p, V v)
+template <class V> inline void stream(void* p, V v)
 {
 #if SIG5D_LEVEL >= 4
     if constexpr (sizeof(V) == 32)

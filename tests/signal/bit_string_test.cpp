@@ -34,7 +34,8 @@ TEST(BitString, EveryPairOfOffsetsAndLength)
                 for (int to = 0; to < 16; ++to)
                     for (int n = 1; n <= 300; n += n < 80 ? 1 : 7) {
                         Bytes result = noise(64, 2), expected = result;
-                        copyBits(source, static_cast<size_t>(from % 8), expected, static_cast<size_t>(to % 8), n, f.most);
+                        copyBits(source, static_cast<size_t>(from % 8), expected, static_cast<size_t>(to % 8), n,
+                                 f.most);
                         call(f.name, source.data(), from, result.data(), to, n);
                         ASSERT_EQ(result, expected) << f.name << ' ' << from << ' ' << to << ' ' << n;
                     }

@@ -8,8 +8,7 @@ namespace {
 
 const int lengths[] = {1, 2, 3, 5, 8, 15, 16, 17, 31, 33, 64, 65, 127, 129, 260, 1025};
 
-template <class T>
-std::vector<T> elements(int n, unsigned seed)
+template <class T> std::vector<T> elements(int n, unsigned seed)
 {
     const Bytes b = noise(static_cast<size_t>(n) * sizeof(T), seed);
     std::vector<T> v(static_cast<size_t>(n));
@@ -18,8 +17,7 @@ std::vector<T> elements(int n, unsigned seed)
 }
 
 // The plain and the in-place form of a function of two arrays, of one and a value, of one.
-template <class T, class F>
-void binary(const std::string& name, F f)
+template <class T, class F> void binary(const std::string& name, F f)
 {
     for (int n : lengths) {
         const auto a = elements<T>(n, 1), b = elements<T>(n, 2);
@@ -33,8 +31,7 @@ void binary(const std::string& name, F f)
         EXPECT_EQ(first, expected) << name << " into its first source, " << n;
     }
 }
-template <class T, class V, class F>
-void withValue(const std::string& name, V value, F f)
+template <class T, class V, class F> void withValue(const std::string& name, V value, F f)
 {
     for (int n : lengths) {
         const auto a = elements<T>(n, 3);
@@ -46,8 +43,7 @@ void withValue(const std::string& name, V value, F f)
         EXPECT_EQ(inPlace, expected) << name << "_I " << +value << ' ' << n;
     }
 }
-template <class T, class F>
-void unary(const std::string& name, F f)
+template <class T, class F> void unary(const std::string& name, F f)
 {
     for (int n : lengths) {
         const auto a = elements<T>(n, 4);
@@ -60,8 +56,7 @@ void unary(const std::string& name, F f)
     }
 }
 
-template <class T>
-void logic(const std::string& type, T value)
+template <class T> void logic(const std::string& type, T value)
 {
     binary<T>("ippsAnd_" + type, [](T x, T y) { return x & y; });
     binary<T>("ippsOr_" + type, [](T x, T y) { return x | y; });
@@ -73,23 +68,20 @@ void logic(const std::string& type, T value)
 }
 
 // By division and multiplication: nothing of the processor's shifts, whose counts wrap around.
-template <class T>
-T left(T x, int count)
+template <class T> T left(T x, int count)
 {
     unsigned long long u = static_cast<unsigned long long>(x);
     for (int i = 0; i < count && i < 64; ++i) u *= 2;
     return static_cast<T>(u);
 }
-template <class T>
-T right(T x, int count)
+template <class T> T right(T x, int count)
 {
     long long v = x;
     for (int i = 0; i < count && i < 64; ++i) v = v >= 0 ? v / 2 : -((1 - v) / 2);
     return static_cast<T>(v);
 }
 
-template <class T>
-void shifts(const std::string& type)
+template <class T> void shifts(const std::string& type)
 {
     for (int count = 0; count < 40; ++count) {
         withValue<T>("ippsLShiftC_" + type, count, [=](T x) { return left(x, count); });
@@ -101,8 +93,7 @@ void shifts(const std::string& type)
     }
 }
 
-template <class T>
-T swapped(T x)
+template <class T> T swapped(T x)
 {
     T y = 0;
     for (size_t i = 0; i < sizeof(T); ++i) y = static_cast<T>(y | (x >> (8 * i) & 0xFF) << (8 * (sizeof(T) - 1 - i)));

@@ -6,8 +6,8 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// The two orders of bits in a byte. Joined drops the first count bits of x and fills up with those of y (0 < count < 8);
-// "from" is a byte without its first count bits, "place" moves the bits of a byte towards its end.
+// The two orders of bits in a byte. Joined drops the first count bits of x and fills up with those of y (0 < count <
+// 8); "from" is a byte without its first count bits, "place" moves the bits of a byte towards its end.
 
 // Bit 0 is the most significant.
 struct MostFirst {
@@ -18,8 +18,7 @@ struct MostFirst {
         int count;
         u8 operator()(u8 x, u8 y) const { return static_cast<u8>(x << count | y >> (8 - count)); }
 #if SIG5D_LEVEL > 0
-        template <class V>
-        V operator()(V x, V y) const
+        template <class V> V operator()(V x, V y) const
         {
             const V high = splatn<sizeof(V)>(static_cast<u8>(0xFF << count)); // the rest came over from neighbours
             return (shift_left_16(x, count) & high) | (shift_right_16<u16>(y, 8 - count) & ~high);
@@ -37,8 +36,7 @@ struct LeastFirst {
         int count;
         u8 operator()(u8 x, u8 y) const { return static_cast<u8>(x >> count | y << (8 - count)); }
 #if SIG5D_LEVEL > 0
-        template <class V>
-        V operator()(V x, V y) const
+        template <class V> V operator()(V x, V y) const
         {
             // This order goes on from byte to byte as in an integer: what crosses a byte inside a lane is right, and
             // what is missing at one end of a lane is there in the other operand.
@@ -49,8 +47,7 @@ struct LeastFirst {
 };
 
 // Writes "count" bits, the first at bit "to" of d, that begin at bit "at" of a; all of them lie in the byte d.
-template <class Order>
-void copy_within_byte(const u8* a, size_t at, u8* d, int to, int count)
+template <class Order> void copy_within_byte(const u8* a, size_t at, u8* d, int to, int count)
 {
     a += at / 8;
     const int skip = static_cast<int>(at % 8);
@@ -62,8 +59,7 @@ void copy_within_byte(const u8* a, size_t at, u8* d, int to, int count)
 
 // Whole bytes of d are made from two neighbours of a each; partial ones at the ends keep their other bits. No byte
 // is touched that has no bit of the string.
-template <class Order>
-void copy_bits(const u8* a, int srcBitOffset, u8* d, int dstBitOffset, int len)
+template <class Order> void copy_bits(const u8* a, int srcBitOffset, u8* d, int dstBitOffset, int len)
 {
     size_t at = static_cast<size_t>(srcBitOffset & 7), n = static_cast<size_t>(len);
     if (const int to = dstBitOffset & 7; to) {
@@ -76,9 +72,9 @@ void copy_bits(const u8* a, int srcBitOffset, u8* d, int dstBitOffset, int len)
     const u8* const first = a + at / 8;
     if (whole) {
         if (at % 8)
-            map(whole, d, typename Order::Joined{static_cast<int>(at % 8)}, first, first + 1);
+            map_bytes(whole, d, typename Order::Joined{static_cast<int>(at % 8)}, first, first + 1);
         else
-            map(whole, d, Same{}, first);
+            map_bytes(whole, d, Same{}, first);
     }
     if (n % 8) copy_within_byte<Order>(first, at % 8 + 8 * whole, d + whole, 0, static_cast<int>(n % 8));
 }

@@ -6,17 +6,12 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T>
-void copy(const T* a, T* d, int n)
-{
-    map_bits(n, d, Same{}, a);
-}
+template <class T> void copy(const T* a, T* d, int n) { map_bits(n, d, Same{}, a); }
 
 // The mirror image of copy: for a destination that overlaps its source and begins behind it.
 #if SIG5D_LEVEL == 0
 
-template <class T>
-void copy_backwards(size_t n, const T* a, T* d)
+template <class T> void copy_backwards(size_t n, const T* a, T* d)
 {
     while (n-- > 0) d[n] = a[n];
 }
@@ -26,7 +21,7 @@ void copy_backwards(size_t n, const T* a, T* d)
 [[gnu::noinline]] void copy_backwards(size_t n, const u8* a, u8* d)
 {
     constexpr size_t L = lanes<u8>;
-    if (n <= 4 * L) return map(n, d, Same{}, a); // loads everything before it stores
+    if (n <= 4 * L) return map_bytes(n, d, Same{}, a); // loads everything before it stores
     const Vec<u8> head = load(a), tail = load(a + (n - L));
     const size_t skip = reinterpret_cast<uintptr_t>(d + n) % L;
     size_t left = n - skip;
@@ -50,16 +45,14 @@ void copy_backwards(size_t n, const T* a, T* d)
     put(d + (n - L), tail);
 }
 
-template <class T>
-void copy_backwards(size_t n, const T* a, T* d)
+template <class T> void copy_backwards(size_t n, const T* a, T* d)
 {
     copy_backwards(n * sizeof(T), reinterpret_cast<const u8*>(a), reinterpret_cast<u8*>(d));
 }
 
 #endif
 
-template <class T>
-void move(const T* a, T* d, int n)
+template <class T> void move(const T* a, T* d, int n)
 {
     const size_t distance = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(a);
     if (distance >= sizeof(T) * static_cast<size_t>(n))
@@ -71,23 +64,12 @@ void move(const T* a, T* d, int n)
 // What map stores again and again: an element, or a vector of them.
 #if SIG5D_LEVEL == 0
 
-template <class T>
-T repeated(T v)
-{
-    return v;
-}
+template <class T> T repeated(T v) { return v; }
 
 #else
 
-template <class T>
-Vec<T> repeated(T v)
-{
-    return splat(v);
-}
-Vec<u64> repeated(c32s v)
-{
-    return splat(static_cast<u64>(static_cast<u32>(v.im)) << 32 | static_cast<u32>(v.re));
-}
+template <class T> Vec<T> repeated(T v) { return splat(v); }
+Vec<u64> repeated(c32s v) { return splat(static_cast<u64>(static_cast<u32>(v.im)) << 32 | static_cast<u32>(v.re)); }
 Vec<f64> repeated(c64f v)
 {
     // Each part for itself: a caller stores them one by one, and to load both at once right after that takes long.
@@ -99,18 +81,13 @@ Vec<f64> repeated(c64f v)
 
 #endif
 
-template <class T>
-[[gnu::noinline]] void fill(size_t n, T* d, T v)
+template <class T> [[gnu::noinline]] void fill(size_t n, T* d, T v)
 {
     const auto all = repeated(v);
     map(n, d, [all] { return all; });
 }
 
-template <class T>
-void set(T v, T* d, int n)
-{
-    fill(static_cast<size_t>(n), d, v);
-}
+template <class T> void set(T v, T* d, int n) { fill(static_cast<size_t>(n), d, v); }
 
 void set(c64f v, c64f* d, int n)
 {
@@ -127,11 +104,7 @@ void set_unchecked(f64 v, f64* d, int idx, int n)
     if (n > 0) set(v, element<sizeof(f64)>(d, idx), n);
 }
 
-template <class T>
-void zero(T* d, int n)
-{
-    set(T{}, d, n);
-}
+template <class T> void zero(T* d, int n) { set(T{}, d, n); }
 
 } // namespace
 #include "entries/signal/elementwise/copy.inc"

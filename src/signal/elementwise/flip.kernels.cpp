@@ -7,8 +7,7 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // An array read from its end on: what map takes for a pointer.
-template <class T>
-struct Backwards {
+template <class T> struct Backwards {
     const T* end;
     Backwards operator+(size_t n) const { return {end - n}; }
     void operator+=(size_t n) { end -= n; }
@@ -17,8 +16,8 @@ struct Backwards {
 
 #if SIG5D_LEVEL == 0
 
-template <class T>
-void flip_in_place(size_t n, T* d)
+template <class T> void flip_apart(size_t n, const T* a, T* d) { map(n, d, Same{}, Backwards<T>{a + n}); }
+template <class T> void flip_in_place(size_t n, T* d)
 {
     for (T *p = d, *q = d + n - 1; p < q; ++p, --q) {
         const T x = *p;
@@ -30,29 +29,24 @@ void flip_in_place(size_t n, T* d)
 #else
 
 // How elements of so many bytes are shuffled; what is longer goes in units of four.
-template <int bytes>
-struct UnitOf {
+template <int bytes> struct UnitOf {
     using type = u32;
 };
-template <>
-struct UnitOf<1> {
+template <> struct UnitOf<1> {
     using type = u8;
 };
-template <>
-struct UnitOf<2> {
+template <> struct UnitOf<2> {
     using type = u16;
 };
 
-template <int group, class V, size_t... i>
-inline V reversed_units(V v, std::index_sequence<i...>)
+template <int group, class V, size_t... i> inline V reversed_units(V v, std::index_sequence<i...>)
 {
     constexpr size_t last = sizeof...(i) / group - 1;
     return __builtin_shufflevector(v, v, ((last - i / group) * group + i % group)...);
 }
 
 // The elements of so many bytes in reverse order.
-template <int bytes, class V>
-inline V reversed(V v)
+template <int bytes, class V> inline V reversed(V v)
 {
 #if SIG5D_LEVEL < 2
     // There is no shuffle of bytes, and none of pairs but within eight bytes.
@@ -73,31 +67,30 @@ inline V reversed(V v)
     }
 }
 
-template <int L, class T>
-inline Vec<u8, L * sizeof(T)> loadn(Backwards<T> a)
+template <int L, class T> inline Vec<u8, L * sizeof(T)> loadn(Backwards<T> a)
 {
     return reversed<sizeof(T)>(loadn<L * sizeof(T)>(reinterpret_cast<const u8*>(a.end - L)));
 }
 
-template <int bytes, class T>
-inline Vec<u8, 16> load_part(Backwards<T> a)
+template <int bytes, class T> inline Vec<u8, 16> load_part(Backwards<T> a)
 {
     const auto v = reversed<sizeof(T)>(load_part<bytes>(reinterpret_cast<const u8*>(a.end) - bytes));
     return reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(v), 16 - bytes));
 }
 
-template <class T>
-inline const T* lowest(Backwards<T> a, size_t n)
+template <class T> inline const T* lowest(Backwards<T> a, size_t n) { return a.end - n; }
+
+template <class T> [[gnu::noinline]] void flip_apart(size_t n, const T* a, T* d)
 {
-    return a.end - n;
+    map(n, d, Same{}, Backwards<T>{a + n});
 }
 
-// From both ends towards the middle. As in map, the outermost vectors are computed first and stored last.
-template <class T>
-[[gnu::noinline]] void flip_in_place(size_t n, T* d)
+// From both ends towards the middle. As in map, the outermost vectors are computed first and stored last; and up to
+// four vectors map loads before it stores, so that it serves for short arrays and for the middle of long ones.
+template <class T> [[gnu::noinline]] void flip_in_place(size_t n, T* d)
 {
     constexpr size_t L = lanes<T>;
-    if (n <= 4 * L) return map(n, d, Same{}, Backwards<T>{d + n}); // loads everything before it stores
+    if (n <= 4 * L) return flip_apart(n, d, d);
     T* const last = d + (n - L);
     const auto head = loadn<L>(Backwards<T>{d + n}), tail = loadn<L>(Backwards<T>{d + L});
     const size_t skip = misalignment(d);
@@ -115,21 +108,19 @@ template <class T>
         q -= 2 * L;
         keep(q);
     }
-    map(left, p, Same{}, Backwards<T>{q}); // at most four vectors
+    flip_apart(left, p, p);
     put(d, head);
     put(last, tail);
 }
 
 #endif
 
-template <class T>
-void flip(const T* a, T* d, int n)
+template <class T> void flip(const T* a, T* d, int n)
 {
-    const size_t count = static_cast<size_t>(n);
     if (a == d)
-        flip_in_place(count, d);
+        flip_in_place(static_cast<size_t>(n), d);
     else
-        map(count, d, Same{}, Backwards<T>{a + count});
+        flip_apart(static_cast<size_t>(n), a, d);
 }
 
 } // namespace

@@ -9,24 +9,20 @@ namespace {
 // The operations, for counts of 1 to one less than the width.
 #if SIG5D_LEVEL == 0
 
-template <class T>
-struct Left {
+template <class T> struct Left {
     int count;
     T operator()(T x) const { return static_cast<T>(x << count); }
 };
-template <class T>
-struct Right {
+template <class T> struct Right {
     int count;
     T operator()(T x) const { return static_cast<T>(x >> count); }
 };
 
 #else
 
-template <class T>
-struct Left {
+template <class T> struct Left {
     int count;
-    template <class V>
-    V operator()(V x) const
+    template <class V> V operator()(V x) const
     {
         if constexpr (sizeof(T) == 4)
             return shift_left<u32>(x, count);
@@ -36,11 +32,9 @@ struct Left {
             return shift_left_16(x, count) & splatn<sizeof(V)>(static_cast<u8>(0xFF << count));
     }
 };
-template <class T>
-struct Right {
+template <class T> struct Right {
     int count;
-    template <class V>
-    V operator()(V x) const
+    template <class V> V operator()(V x) const
     {
         if constexpr (sizeof(T) == 4)
             return shift_right<i32>(x, count);
@@ -53,27 +47,18 @@ struct Right {
 
 #endif
 
+// By one to the right, which no product does for signed lanes of two bytes.
 struct Halved {
-    template <class V>
-    V operator()(V x) const
-    {
-        return x >> 1;
-    }
+    template <class V> V operator()(V x) const { return x >> 1; }
 };
 struct Cleared {
-    template <class V>
-    V operator()(V) const
-    {
-        return V{};
-    }
+    template <class V> V operator()(V) const { return V{}; }
 };
 
-template <class T>
-constexpr int width = 8 * sizeof(T);
+template <class T> constexpr int width = 8 * sizeof(T);
 
 // Bits that leave an element are lost; a count of its width or more leaves none.
-template <class T>
-void shift_left(const T* a, int count, T* d, int n)
+template <class T> void shift_left(const T* a, int count, T* d, int n)
 {
     if (count == 0)
         map_bits(n, d, Same{}, a);
@@ -84,15 +69,14 @@ void shift_left(const T* a, int count, T* d, int n)
 }
 
 // Logical for unsigned types, arithmetic for the others: there a count of the width or more leaves the sign.
-template <class T>
-void shift_right(const T* a, int count, T* d, int n)
+template <class T> void shift_right(const T* a, int count, T* d, int n)
 {
     constexpr bool isSigned = T(-1) < T(0);
     if (isSigned && count >= width<T>) count = width<T> - 1;
+    if constexpr (isSigned && sizeof(T) == 2)
+        if (count == 1) return map(static_cast<size_t>(n), d, Halved{}, a);
     if (count == 0)
         map_bits(n, d, Same{}, a);
-    else if (isSigned && sizeof(T) == 2 && count == 1)
-        map(static_cast<size_t>(n), d, Halved{}, a);
     else if (count < width<T>)
         map(static_cast<size_t>(n), d, Right<T>{count}, a);
     else

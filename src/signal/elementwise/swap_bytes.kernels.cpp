@@ -17,15 +17,13 @@ struct Swapped {
 #else
 
 // The units of each group of so many in reverse order.
-template <size_t group, class V, size_t... i>
-inline V reversed(V v, std::index_sequence<i...>)
+template <size_t group, class V, size_t... i> inline V reversed(V v, std::index_sequence<i...>)
 {
     return __builtin_shufflevector(v, v, (i ^ (group - 1))...);
 }
 
 struct Swapped {
-    template <class V>
-    V operator()(V v) const
+    template <class V> V operator()(V v) const
     {
         constexpr size_t bytes = sizeof(V), group = sizeof(v[0]);
 #if SIG5D_LEVEL == 1
@@ -42,11 +40,7 @@ struct Swapped {
 
 #endif
 
-template <class T>
-void swap_bytes(const T* a, T* d, int n)
-{
-    map(static_cast<size_t>(n), d, Swapped{}, a);
-}
+template <class T> void swap_bytes(const T* a, T* d, int n) { map(static_cast<size_t>(n), d, Swapped{}, a); }
 
 // Elements of three bytes, one at a time.
 inline void swap_plain(size_t n, const u24* a, u24* d)
@@ -79,8 +73,8 @@ void swap_bytes(const u24* a, u24* d, int n)
     size_t left = 3 * static_cast<size_t>(n);
     u8* const last = q + (left - step);
     // The last five elements, in the upper 15 bytes of what is read.
-    const auto tail = swapped_window(reinterpret_cast<Vec<u8, 16>>(
-        _mm_srli_si128(reinterpret_cast<__m128i>(loadn<16>(p + (left - 16))), 1)));
+    const auto tail = swapped_window(
+        reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(loadn<16>(p + (left - 16))), 1)));
     auto v0 = loadn<16>(p);
     for (; left >= 4 * step + 16; left -= 4 * step) { // every window is loaded before its first byte is stored
         const auto v1 = loadn<16>(p + step), v2 = loadn<16>(p + 2 * step), v3 = loadn<16>(p + 3 * step);
