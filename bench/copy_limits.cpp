@@ -50,7 +50,7 @@ using Limit = void (*)(u8*, const u8*, const u8*, size_t);
 #define EACH(part, w, r) part(0, w, r) part(1, w, r) part(2, w, r) part(3, w, r)
 #define NONE(i, w, r)
 #define LOAD(i, w, r) LOAD_##w " " #i "*" #w "(%[a]),%%" #r #i "\n"
-#define OR(i, w, r) OR_##w(#i "*" #w "(%[b])", #r #i) "\n"
+#define OR(i, w, r) LOAD_##w " " #i "*" #w "(%[b]),%%" #r "7\n" CONSTANT(i, w, r)
 #define CONSTANT(i, w, r) OR_##w("%%" #r "7", #r #i) "\n"
 #define STORE(i, w, r) STORE_##w " %%" #r #i "," #i "*" #w "(%[d])\n"
 #define STREAM(i, w, r) STREAM_##w " %%" #r #i "," #i "*" #w "(%[d])\n"
@@ -216,7 +216,7 @@ void measure(const Case& c, size_t bytes, const char* level, double hertz, u8* p
     for (int round = 0; round < rounds; ++round) {
         for (int w = 0; w < (wide ? 2 : 1) && bytes >= 256; ++w) {
             double best = 1e9;
-            for (int way = 0; way < (bytes > (size_t(1) << 20) ? 2 : 1); ++way) {
+            for (int way = 0; way < (bytes > (size_t(1) << 20) && !overwrites(c.shape) ? 2 : 1); ++way) {
                 const Limit limit = limits[pattern(c)][w][way];
                 best = std::min(best, time(bytes, [&] { limit(d, first, second, bytes / 256 * 256); }));
             }
