@@ -297,7 +297,7 @@ typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
-/* pDst[i] = pSrc[i]. Copies bits, front to back. */
+/* pDst[i] = pSrc[i]. Copies element by element, front to back. */
 IppStatus SIG5D_STDCALL ippsCopy_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_16sc(const Ipp16sc* pSrc, Ipp16sc* pDst, int len);
