@@ -6,6 +6,7 @@ namespace support {
 
 using registry::bodiesOf;
 using registry::current;
+using registry::Entry;
 using registry::entryOf;
 using registry::force;
 using registry::nameOf;

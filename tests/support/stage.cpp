@@ -103,6 +103,10 @@ registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int 
         std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
         context += piece;
     }
+    if (a.f.index == registry::IndexForm::only) {
+        const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
+        return registry::invokeIndexed(entry, a.f, a.values.data(), zeros.data(), stackPhase);
+    }
     return registry::invoke(entry, a.f, a.values.data(), stackPhase);
 }
 

@@ -21,7 +21,7 @@ public:
     // Copies the arrays' initial content to their places and sets the pointers. With "shared" the destination of that
     // pair is its source.
     void put(registry::Arguments& a, Place place, const registry::InPlace* shared = nullptr);
-    // The plain form, or the written-out _Idx form.
+    // The plain form, or the _Idx form (with indexes 0) where there is no other.
     registry::Answer call(registry::Arguments& a, registry::Entry entry, int stackPhase = 0);
 
     // What the argument points to now.

@@ -21,7 +21,7 @@ Entry exported(const char* name)
 #endif
 }
 
-std::string nameOf(const Function& f) { return std::string(f.name) + (f.index == IndexForm::written ? "_Idx" : ""); }
+std::string nameOf(const Function& f) { return std::string(f.name) + (f.hasPlain() ? "" : "_Idx"); }
 
 void force(const Variant& v) { ippSetCpuFeatures(v.features | Ipp64u(1) << 63); }
 

@@ -9,7 +9,7 @@
 namespace registry {
 
 Entry exported(const char* name);      // null: no such export
-std::string nameOf(const Function& f); // of the plain form, or of the written-out _Idx form
+std::string nameOf(const Function& f); // of the plain form, or of the _Idx form where there is no other
 inline Entry entryOf(const Function& f) { return exported(nameOf(f).c_str()); }
 
 struct Variant {
