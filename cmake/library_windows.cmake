@@ -11,7 +11,8 @@ set_target_properties(sig5d PROPERTIES PREFIX "" OUTPUT_NAME Numlab.Sig5d IMPORT
                                        ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/link)
 target_link_options(
     sig5d PRIVATE -nostartfiles -nostdlib -Wl,-e,_sig5d_entry_point@12 -Wl,--image-base,0x63c00000
-    -Wl,--no-insert-timestamp -Wl,--dynamicbase,--nxcompat,--no-seh -Wl,--gc-sections -s
+    -Wl,--no-insert-timestamp -Wl,--dynamicbase,--nxcompat,--no-seh -Wl,--disable-auto-import -Wl,--gc-sections -s
+    -Wl,-Map,${CMAKE_BINARY_DIR}/Numlab.Sig5d.map
     ${SIG5D_GENERATED}/exports_link.def)
 target_link_libraries(sig5d PRIVATE gcc msvcrt kernel32)
 
