@@ -73,7 +73,7 @@ Bytes largestExtended(const Identity& id)
 {
     constexpr Bytes kilobyte = 1024;
     Bytes largest = 0;
-    const bool listed = id.maxExtended >= 0x8000001D && (id.leaf(0x80000001).ecx >> 22 & 1);
+    const bool listed = id.maxExtended >= 0x8000001D && id.topologyExtensions();
     if (listed) largest = largestListed(id, 0x8000001D);
     if (largest == 0 && id.maxExtended >= 0x80000005) largest = (id.leaf(0x80000005).ecx >> 24) * kilobyte;
     if (!listed && id.maxExtended >= 0x80000006) {
@@ -88,7 +88,7 @@ Bytes largestExtended(const Identity& id)
 
 CacheSize readCacheSize(const Identity& id)
 {
-    if (!id.processor->identifiable()) return {-1, StsNotSupportedCpu};
+    if (!id.processor.identifiable()) return {-1, StsNotSupportedCpu};
     Bytes largest = 0;
     if (id.intel && id.maxLeaf >= 4)
         largest = largestListed(id, 4);

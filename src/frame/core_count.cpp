@@ -45,8 +45,7 @@ int amdCores(const Identity& id)
     const int count = static_cast<int>(id.leaf(0x80000008).ecx & 0xFF) + 1;
     const u32 version = id.leaf(1).eax;
     const u32 family = (version >> 8 & 15) + (version >> 20 & 0xFF);
-    const bool topologyExtensions = id.leaf(0x80000001).ecx >> 22 & 1;
-    if (family < 0x17 || !topologyExtensions || id.maxExtended < 0x8000001E) return count;
+    if (family < 0x17 || !id.topologyExtensions() || id.maxExtended < 0x8000001E) return count;
     const int threads = static_cast<int>(id.leaf(0x8000001E).ebx >> 8 & 0xFF) + 1;
     return count >= threads ? count / threads : 1;
 }

@@ -53,7 +53,7 @@ const Processor thisProcessor = {identifiable, cpuid, xgetbv, mxcsrMask};
 
 Identity identify(const Processor& p)
 {
-    Identity id{&p};
+    Identity id{p};
     if (!p.identifiable()) return id;
     const CpuidRegs zero = p.cpuid(0, 0);
     id.maxLeaf = zero.eax;
@@ -62,6 +62,7 @@ Identity identify(const Processor& p)
     // Processors without extended leaves answer with the data of another leaf.
     const u32 extended = p.cpuid(0x80000000, 0).eax;
     if (extended >> 16 == 0x8000) id.maxExtended = extended;
+    if (id.maxExtended >= 0x80000001) id.extendedFeatures = p.cpuid(0x80000001, 0).ecx;
     return id;
 }
 

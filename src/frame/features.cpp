@@ -24,7 +24,7 @@ u64 readFeatures(const Identity& id)
     add(one.ecx, 30, FeatureRdrand);
     add(one.ecx, 29, FeatureF16c);
     const bool xgetbvUsable = one.ecx >> 27 & 1;
-    if (xgetbvUsable && (word & FeatureAvx) && (id.processor->xgetbv() & 6) == 6) word |= FeatureAvxOs;
+    if (xgetbvUsable && (word & FeatureAvx) && (id.processor.xgetbv() & 6) == 6) word |= FeatureAvxOs;
     if (id.maxLeaf >= 7) {
         const u32 ebx = id.leaf(7).ebx;
         add(ebx, 5, FeatureAvx2);
@@ -39,7 +39,7 @@ u64 readFeatures(const Identity& id)
         add(ebx, 17, FeatureAvx512dq);
         add(ebx, 31, FeatureAvx512vl);
     }
-    if (id.maxExtended >= 0x80000001) add(id.leaf(0x80000001).ecx, 8, FeaturePrefetchw);
+    add(id.extendedFeatures, 8, FeaturePrefetchw);
     return word;
 }
 
