@@ -99,11 +99,11 @@ CacheSize readCacheSize(const Identity& id)
     return {static_cast<i32>(largest < 0x7FFFFFFF ? largest : 0x7FFFFFFF), StsNoErr};
 }
 
-// Beyond the largest cache, but between 1 and 64 MB: virtual machines report shares of a cache that a core never gets
-// (streaming was faster from about 64 MB on where 480 MB were reported), or hardly any.
+// Beyond the largest cache, but between 1 and 32 MB: virtual machines report the whole of a cache of which a core gets a
+// share (docs/dispatch.md has figures), or hardly any.
 size_t streamBytes(CacheSize largest)
 {
-    constexpr size_t low = size_t(1) << 20, high = size_t(64) << 20;
+    constexpr size_t low = size_t(1) << 20, high = size_t(32) << 20;
     if (largest.bytes <= 0) return ~size_t(0);
     const size_t bytes = static_cast<size_t>(largest.bytes);
     return bytes < low ? low : bytes < high ? bytes : high;

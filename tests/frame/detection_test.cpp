@@ -78,7 +78,7 @@ TEST(Detection, StreamingStartsBeyondTheLargestCacheWithinReason)
     EXPECT_EQ(streamBytes({0, 37}), ~size_t(0));
     EXPECT_EQ(streamBytes({512 << 10, 0}), size_t(1) << 20);
     EXPECT_EQ(streamBytes({8 << 20, 0}), size_t(8) << 20);
-    EXPECT_EQ(streamBytes({480 << 20, 0}), size_t(64) << 20);
+    EXPECT_EQ(streamBytes({480 << 20, 0}), size_t(32) << 20);
 }
 
 namespace {
