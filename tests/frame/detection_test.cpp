@@ -4,6 +4,7 @@
 #include "frame/recorded_processors.h"
 #include "frame/topology.h"
 #include <gtest/gtest.h>
+#include <map>
 #include <random>
 #include <vector>
 
@@ -30,7 +31,7 @@ TEST(Detection, RecordedProcessorsAreToldRight)
 
 TEST(Detection, TheVendorDecidesOnCachesAndCoresButNeverOnTheVariant)
 {
-    Recorded r = recordedProcessors[9];
+    Recorded r = recorded("Core i7-4770");
     ASSERT_EQ(r.variant, 5);
     r.leaves[{0, 0}].ebx = 0x746E6543; // another maker: no leaf 4, no count of cores
     const Identity id = identify(play(r));
@@ -43,7 +44,7 @@ TEST(Detection, TheVendorDecidesOnCachesAndCoresButNeverOnTheVariant)
 
 TEST(Detection, DescriptorsAreReadWhereARegisterHoldsSome)
 {
-    Recorded r = recordedProcessors[2];
+    Recorded r = recorded("Pentium 4");
     auto size = [&r](CpuidRegs two) {
         r.leaves[{2, 0}] = two;
         return readCacheSize(identify(play(r))).bytes;
@@ -55,21 +56,76 @@ TEST(Detection, DescriptorsAreReadWhereARegisterHoldsSome)
     EXPECT_EQ(size({0x00000001, 0xEC000000, 0, 0x00DE0000}), 6 << 20);
 }
 
-TEST(Detection, ACacheBeyondTheIntegersIsTheLargestInteger)
+// Each published descriptor of a data or unified cache, by size; no other says anything.
+TEST(Detection, DescriptorsHaveTheirPublishedSizes)
 {
-    Recorded r = recordedProcessors[5];
-    r.leaves[{4, 1}] = {0x23, 0x03C0003F, 0xFFFFFF, 0}; // 16 GB
+    const std::map<int, std::vector<int>> kilobytes = {
+        {8, {0x0A, 0x66}},
+        {16, {0x0C, 0x0D, 0x10, 0x60, 0x67}},
+        {24, {0x0E}},
+        {32, {0x2C, 0x68}},
+        {96, {0x1A}},
+        {128, {0x1D, 0x39, 0x3B, 0x41, 0x79, 0x81}},
+        {192, {0x3A}},
+        {256, {0x21, 0x3C, 0x42, 0x7A, 0x7E, 0x82}},
+        {384, {0x3D}},
+        {512, {0x22, 0x3E, 0x43, 0x7B, 0x7F, 0x80, 0x83, 0x86, 0xD0}},
+        {1024, {0x23, 0x24, 0x44, 0x78, 0x7C, 0x84, 0x87, 0xD1, 0xD6}},
+        {1536, {0xDC}},
+        {2048, {0x25, 0x45, 0x7D, 0x85, 0x88, 0xD2, 0xD7, 0xE2}},
+        {3072, {0x48, 0x8D, 0xDD}},
+        {4096, {0x29, 0x46, 0x49, 0x89, 0xD8, 0xE3}},
+        {6144, {0x4A, 0x4E, 0xDE}},
+        {8192, {0x47, 0x4B, 0x8A, 0xE4}},
+        {12288, {0x4C, 0xEA}},
+        {16384, {0x4D}},
+        {18432, {0xEB}},
+        {24576, {0xEC}},
+    };
+    std::vector<int> expected(256);
+    for (const auto& [size, codes] : kilobytes)
+        for (int code : codes) expected[static_cast<size_t>(code)] = size << 10;
+    Recorded r = recorded("Pentium 4");
+    for (u32 code = 0; code < 256; ++code) {
+        r.leaves[{2, 0}] = {1, code, 0, 0};
+        EXPECT_EQ(readCacheSize(identify(play(r))).bytes, expected[code]) << std::hex << code;
+    }
+}
+
+TEST(Detection, AListSkipsInstructionCachesAndEndsAtTheLargestInteger)
+{
+    Recorded r = recorded("Core i7-920");
+    r.leaves[{4, 1}] = {0x22, 0x03C0003F, 0xFFFFFF, 0}; // 16 GB
+    EXPECT_EQ(readCacheSize(identify(play(r))).bytes, r.cacheBytes);
+    r.leaves[{4, 1}].eax = 0x23;
     EXPECT_EQ(readCacheSize(identify(play(r))).bytes, 0x7FFFFFFF);
+}
+
+TEST(Detection, OnlyLeavesThatExistCount)
+{
+    Recorded r = recorded("Core i7-4770");
+    r.leaves[{0, 0}].eax = 7;
+    EXPECT_EQ(readFeatures(identify(play(r))), r.word);
+    r.leaves[{0, 0}].eax = 6;
+    EXPECT_EQ(readFeatures(identify(play(r))), r.word & ~FeatureAvx2);
+    r.leaves[{0x80000001, 0}].ecx = 0x100;
+    EXPECT_TRUE(readFeatures(identify(play(r))) & FeaturePrefetchw);
+    for (u32 noMaximum : {0x80000000u, 0xFFFFFFFFu, 0x7FFFFFFFu, 0u}) {
+        r.leaves[{0x80000000, 0}].eax = noMaximum;
+        EXPECT_FALSE(readFeatures(identify(play(r))) & FeaturePrefetchw) << std::hex << noMaximum;
+    }
+    r.leaves[{0, 0}].eax = 0;
+    EXPECT_EQ(readFeatures(identify(play(r))), 0u);
 }
 
 TEST(Detection, DenormalsAreZerosNeedsTheMaskBit)
 {
-    Recorded r = recordedProcessors[3];
+    Recorded r = recorded("Pentium M");
     EXPECT_TRUE(hasDenormalsAreZeros(play(r)));
     r.leaves[{1, 0}].edx &= ~(1u << 24); // no FXSAVE: the mask cannot be read
     EXPECT_FALSE(hasDenormalsAreZeros(play(r)));
-    EXPECT_FALSE(hasDenormalsAreZeros(play(recordedProcessors[1]))); // first processors with SSE
-    EXPECT_FALSE(hasDenormalsAreZeros(play(recordedProcessors[0])));
+    EXPECT_FALSE(hasDenormalsAreZeros(play(recorded("Pentium III")))); // first processors with SSE
+    EXPECT_FALSE(hasDenormalsAreZeros(play(recorded("no CPUID"))));
 }
 
 TEST(Detection, StreamingStartsBeyondTheLargestCacheWithinReason)
@@ -193,7 +249,11 @@ struct Script {
 int play(const Script& s)
 {
     script = s;
-    return averageMhz({[] { return script.ticks[script.tick++]; }, [] { return script.seconds[script.second++]; }});
+    const int mhz = averageMhz(
+        {[] { return script.ticks[script.tick++ % 6]; }, [] { return script.seconds[script.second++ % 9]; }});
+    EXPECT_EQ(script.tick, 6);
+    EXPECT_EQ(script.second, 9);
+    return mhz;
 }
 
 } // namespace
@@ -202,6 +262,8 @@ TEST(Frequency, IsTheAverageOfTwoWholeSecondsInSinglePrecision)
 {
     // Exactly 2599.9999995 MHz; each second rounds to 2.6e9 in single precision.
     EXPECT_EQ(play({{7, 8, 10, 2600000010, 2600000020, 5200000019}, {5, 5, 6, 6, 6, 7, 7, 7, 8}}), 2600);
+    // The sum is rounded, too: 2599.999872 MHz becomes 2600.
+    EXPECT_EQ(play({{0, 1, 0, 2599999744, 0, 2600000000}, {5, 5, 6, 6, 6, 7, 7, 7, 8}}), 2600);
     EXPECT_EQ(play({{0, 9000000000, 0, 1000000000, 0, 2000000000}, {5, 5, 6, 6, 6, 7, 7, 7, 8}}), 1500);
     EXPECT_EQ(play({{0, 1, 0, 4999000000, 0, 5000900000}, {5, 5, 6, 6, 6, 7, 7, 7, 8}}), 4999); // above 32 bits
 }

@@ -177,8 +177,11 @@ const Task tasks[] = {{"race", race},
                       {"selection-compared", selectionCompared},
                       {"cost", cost}};
 
+// A process takes long to start under Wine and with a sanitizer.
 #ifdef _WIN32
-constexpr int processes = 8; // a process takes long to start there
+constexpr int processes = 8;
+#elif defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int processes = 40;
 #else
 constexpr int processes = 200;
 #endif

@@ -70,6 +70,20 @@ const Recorded recordedProcessors[] = {
      .cacheBytes = 512 << 10,
      .cores = 1},
 
+    {.name = "Core 2 Duo, cores by leaf 4",
+     .leaves = {{{0, 0}, intel(10)},
+                {{1, 0}, {0x6F6, 0x00020800, 0xE3BD, 0xBFEBFBFF}},
+                {{4, 0}, {0x04000121, 0x01C0003F, 0x3F, 1}},
+                {{4, 1}, {0x04000122, 0x01C0003F, 0x3F, 1}},
+                {{4, 2}, {0x04004143, 0x03C0003F, 0xFFF, 1}},
+                {{0x80000000, 0}, {0x80000008, 0, 0, 0}},
+                {{0x80000001, 0}, {0, 0, 1, 0x20100800}}},
+     .word = 0x1F,
+     .variant = 2,
+     .enabled = 0x1F,
+     .cacheBytes = 4 << 20,
+     .cores = 2},
+
     {.name = "Core i7-920, SSE4.2",
      .leaves = {{{0, 0}, intel(11)},
                 {{1, 0}, {0x106A5, 0x00100800, 0x0098E3BD, 0xBFEBFBFF}},
@@ -263,6 +277,14 @@ const Recorded recordedProcessors[] = {
      .cores = 192},
 };
 const int recordedProcessorCount = sizeof recordedProcessors / sizeof *recordedProcessors;
+
+const Recorded& recorded(const char* start)
+{
+    for (const Recorded& r : recordedProcessors)
+        if (r.name.rfind(start, 0) == 0) return r;
+    ADD_FAILURE() << start;
+    return recordedProcessors[0];
+}
 
 namespace {
 

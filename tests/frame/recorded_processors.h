@@ -1,4 +1,5 @@
-// Processors by what their identification instructions answer.
+// Processors by what their identification instructions answer: the virtual machine as it answered, the others put
+// together from published values, with the leaves and registers that detection reads.
 #pragma once
 #include "frame/cpuid.h"
 #include <map>
@@ -22,6 +23,7 @@ struct Recorded {
 
 extern const Recorded recordedProcessors[];
 extern const int recordedProcessorCount;
+const Recorded& recorded(const char* start); // the first whose name starts so
 
 // The processor to detect. It fails the running test when it is asked for a leaf that it does not have, twice for the
 // same one, or for anything when it has no CPUID.
