@@ -415,6 +415,57 @@ IppStatus SIG5D_STDCALL ippSetCpuFeatures(Ipp64u cpuFeatures);
 /* The feature word of the last selection; 3 before any. */
 Ipp64u SIG5D_STDCALL ippGetEnabledCpuFeatures(void);
 
+/* ---- FIR filters ---- */
+
+/* TODO */
+IppStatus SIG5D_STDCALL ippsFIRSRGetSize(int tapsLen, int tapsType, int* pSpecSize, int* pBufSize);
+
+/* TODO */
+IppStatus SIG5D_STDCALL ippsFIRSRInit_64f(const Ipp64f* pTaps, int tapsLen, int algType, IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_CDECL ippsFIRSRInit_64f_Idx(const Ipp64f* pTaps, int tapsIdx, int tapsLen, int algType,
+        IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_STDCALL ippsFIRSRInit_64fc(const Ipp64fc* pTaps, int tapsLen, int algType, IppsFIRSpec_64fc* pSpec);
+IppStatus SIG5D_CDECL ippsFIRSRInit_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, int tapsLen, int algType,
+        IppsFIRSpec_64fc* pSpec);
+
+/* pDst[n] = sum over k = 0..tapsLen-1 of taps[k] * x[n-k]. TODO */
+IppStatus SIG5D_STDCALL ippsFIRSR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int numIters, const IppsFIRSpec_64f* pSpec,
+        const Ipp64f* pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRSR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters, const
+        IppsFIRSpec_64f* pSpec, const Ipp64f* pDlySrc, int dlySrcIdx, Ipp64f* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int
+        bufIdx);
+IppStatus SIG5D_STDCALL ippsFIRSR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int numIters, const IppsFIRSpec_64fc*
+        pSpec, const Ipp64fc* pDlySrc, Ipp64fc* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRSR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int numIters,
+        const IppsFIRSpec_64fc* pSpec, const Ipp64fc* pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u*
+        pBuf, int bufIdx);
+
+/* TODO */
+IppStatus SIG5D_STDCALL ippsFIRMRGetSize(int tapsLen, int upFactor, int downFactor, int tapsType, int* pSpecSize, int*
+        pBufSize);
+
+/* TODO */
+IppStatus SIG5D_STDCALL ippsFIRMRInit_64f(const Ipp64f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor,
+        int downPhase, IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_CDECL ippsFIRMRInit_64f_Idx(const Ipp64f* pTaps, int tapsIdx, int tapsLen, int upFactor, int upPhase,
+        int downFactor, int downPhase, IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_STDCALL ippsFIRMRInit_64fc(const Ipp64fc* pTaps, int tapsLen, int upFactor, int upPhase, int
+        downFactor, int downPhase, IppsFIRSpec_64fc* pSpec);
+IppStatus SIG5D_CDECL ippsFIRMRInit_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, int tapsLen, int upFactor, int
+        upPhase, int downFactor, int downPhase, IppsFIRSpec_64fc* pSpec);
+
+/* TODO */
+IppStatus SIG5D_STDCALL ippsFIRMR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int numIters, const IppsFIRSpec_64f* pSpec,
+        const Ipp64f* pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRMR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters, const
+        IppsFIRSpec_64f* pSpec, const Ipp64f* pDlySrc, int dlySrcIdx, Ipp64f* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int
+        bufIdx);
+IppStatus SIG5D_STDCALL ippsFIRMR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int numIters, const IppsFIRSpec_64fc*
+        pSpec, const Ipp64fc* pDlySrc, Ipp64fc* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRMR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int numIters,
+        const IppsFIRSpec_64fc* pSpec, const Ipp64fc* pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u*
+        pBuf, int bufIdx);
+
 #ifdef __cplusplus
 }
 #endif
