@@ -41,7 +41,7 @@ struct Chains {
         for (int j = 0; j < sums; ++j) a[j] = V{} + (1.0 + j);
         for (long i = 0; i < n; ++i) {
 #pragma GCC unroll 16
-            for (int j = 0; j < std::max(products, sums); ++j) {
+            for (int j = 0; j < (products > sums ? products : sums); ++j) {
                 if (j < products) m[j] = m[j] * c;
                 if (j < sums) a[j] = a[j] + c;
             }

@@ -1,8 +1,9 @@
 // The multi-rate filter over a stretch of contiguous inputs: how the groups of outputs are described, and their sums.
 //
 // Each output is one running sum that starts from 0.0 and takes the oldest input first, over the taps that meet an
-// input; so every vector width and every arrangement gives the same bits. Inputs outside an output's window never take
-// part, be they infinite or NaN: where a row of the matrix does not concern all outputs, the products are masked.
+// input; so every vector width and every arrangement gives the same bits. Outside an output's window the matrix has
+// zeros, which add nothing to a running sum (it is never -0.0), unless an input there is infinite or NaN: then the
+// output becomes NaN and is computed again from its window alone.
 #pragma once
 #include "signal/processing/fir_broadcast.h"
 #include "signal/processing/fir_spec.h"
@@ -12,11 +13,11 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // Outputs side by side. Row 0 of the group's matrix belongs to the input `first`, counted from the first input of the
-// period; the outputs take the rows from[] to to[] - 1, entries per double. Rows head to tail - 1 concern all outputs.
+// period; output l has its window in the rows from[l] to to[l] - 1.
 struct Group {
     i32 from[4], to[4];
-    i32 first, rows, head, tail;
-    i32 output; // the first output, counted from the first of the period
+    i32 first, output; // the first output, counted from the first of the period
+    i32 rows;
 };
 constexpr int groupBytes = 64;
 static_assert(sizeof(Group) <= groupBytes);
@@ -40,25 +41,37 @@ void buildGroup(const MultiRateLayout& at, const T* taps, i64 phase, i64 output,
     const int width = static_cast<int>(at.width), rowDoubles = static_cast<int>(at.rowBytes()) / 8;
     *g = {};
     g->output = static_cast<i32>(output);
-    g->tail = static_cast<i32>(at.rows);
     for (int i = 0; i < at.rows * rowDoubles; ++i) rows[i] = 0.0;
     for (int l = 0; l < width; ++l) {
         const i64 q = (output + l) * at.down + phase;
         const i64 oldest = -floorDivide(at.tapsLen - 1 - q, at.up), newest = floorDivide(q, at.up);
         if (l == 0) g->first = static_cast<i32>(oldest);
-        const i32 from = static_cast<i32>(oldest - g->first), to = static_cast<i32>(newest + 1 - g->first);
-        for (int p = 0; p < parts; ++p) {
-            g->from[l * parts + p] = from;
-            g->to[l * parts + p] = to;
-        }
-        for (i32 e = from; e < to; ++e) {
+        g->from[l] = static_cast<i32>(oldest - g->first);
+        g->to[l] = g->rows = static_cast<i32>(newest + 1 - g->first);
+        for (i32 e = g->from[l]; e < g->to[l]; ++e) {
             putTap(taps[q - (g->first + e) * at.up], rows + e * rowDoubles + l * parts, width);
         }
-        if (g->head < from) g->head = from;
-        if (g->tail > to) g->tail = to;
-        g->rows = to;
     }
-    if (g->head > g->tail) g->head = g->tail = g->rows;
+}
+
+// Output l of a group, from the inputs of its window alone.
+template <class T, int doubles>
+void recompute(const Group& g, const f64* rows, const T* x, T* y, int l)
+{
+    constexpr int parts = sizeof(T) / sizeof(f64);
+    f64* sum = reinterpret_cast<f64*>(y + l);
+    for (int p = 0; p < parts; ++p) {
+        f64 s = 0.0;
+        for (int e = g.from[l]; e < g.to[l]; ++e) {
+            const f64* tap = rows + e * parts * doubles + l * parts + p;
+            if constexpr (parts == 1) {
+                s += *tap * x[e];
+            } else {
+                s += tap[0] * x[e].re + tap[doubles] * x[e].im;
+            }
+        }
+        sum[p] = s;
+    }
 }
 
 // Sums of one group in `count` periods at once: `doubles` numbers in vectors of v.
@@ -82,10 +95,9 @@ struct Sums {
 #pragma GCC unroll 4
             for (int k = 0; k < vectors; ++k) sum[r][k] = splatn<v>(0.0);
     }
-    [[gnu::always_inline]] void whole(const f64* rows, const T* x, ptrdiff_t step, int from, int to)
+    [[gnu::always_inline]] void add(const f64* rows, const T* x, ptrdiff_t step, int n)
     {
-        rows += from * rowDoubles;
-        for (int e = from; e < to; ++e, rows += rowDoubles) {
+        for (int e = 0; e < n; ++e, rows += rowDoubles) {
 #pragma GCC unroll 16
             for (int r = 0; r < count; ++r)
 #pragma GCC unroll 4
@@ -93,28 +105,19 @@ struct Sums {
             asm volatile("" ::: "memory"); // inputs are loaded where they are used
         }
     }
-    [[gnu::always_inline]] void masked(const Group& g, const f64* rows, const T* x, ptrdiff_t step, int from, int to)
+    [[gnu::always_inline]] bool anyNan() const
     {
-        rows += from * rowDoubles;
-        for (int e = from; e < to; ++e, rows += rowDoubles) {
-#pragma GCC unroll 4
-            for (int k = 0; k < vectors; ++k) {
-                const V row = splatn<v>(static_cast<f64>(e));
-                const V first = asDoubles(g.from + k * v), end = asDoubles(g.to + k * v);
+        auto nan = sum[0][0] != sum[0][0];
 #pragma GCC unroll 16
-                for (int r = 0; r < count; ++r) {
-                    const V p = product(rows, k, x[e + r * step]);
-                    sum[r][k] += (row >= first) & (row < end) ? p : splatn<v>(0.0);
-                }
-            }
-        }
-    }
-    static V asDoubles(const i32* a)
-    {
+        for (int r = 0; r < count; ++r)
+#pragma GCC unroll 4
+            for (int k = 0; k < vectors; ++k) nan |= sum[r][k] != sum[r][k];
         if constexpr (v == 1) {
-            return static_cast<f64>(*a);
+            return nan;
         } else {
-            return __builtin_convertvector(loadn<v>(a), V);
+            i64 any = 0;
+            for (int i = 0; i < v; ++i) any |= nan[i];
+            return any;
         }
     }
     [[gnu::always_inline]] void put(T* y, ptrdiff_t step) const
@@ -131,10 +134,15 @@ void computeGroup(const Group& g, const f64* rows, const T* x, ptrdiff_t inputs,
 {
     Sums<T, doubles, count> sums;
     sums.clear();
-    sums.masked(g, rows, x, inputs, 0, g.head);
-    sums.whole(rows, x, inputs, g.head, g.tail);
-    sums.masked(g, rows, x, inputs, g.tail, g.rows);
+    sums.add(rows, x, inputs, g.rows);
     sums.put(y, outputs);
+    if (__builtin_expect(sums.anyNan(), false)) {
+        for (int r = 0; r < count; ++r) {
+            for (int l = 0; l < doubles / static_cast<int>(sizeof(T) / sizeof(f64)); ++l) {
+                recompute<T, doubles>(g, rows, x + r * inputs, y + r * outputs, l);
+            }
+        }
+    }
 }
 
 // Periods that are computed together: as many as registers hold the sums of, so that a row is loaded once for all.
