@@ -74,7 +74,7 @@ def nearest_bodies(bodies):
 
 def dispatch(api):
     """Tables and stubs, through the macros of src/frame/stub.inc."""
-    lines = ["/* Generated from api/*.api; not edited. */", '#include "frame/stub.inc"', ""]
+    lines = ["/* Generated from the description in api/; not edited. */", '#include "frame/stub.inc"', ""]
     for f in api.functions:
         if not f.dispatched:
             continue

@@ -62,9 +62,11 @@ def argument(a, args, pool, f, number, out):
     extent = pool.add("long long", f"(long long)({over_values(a.extent, args)})") if given else "nullptr"
     domain, count = "nullptr", 0
     if a.name in f.domains:
-        domain, count = f"domain_{f.name}_{f.index}_{number}", len(f.domains[a.name])
-        out.append(table("double", domain, f.domains[a.name]))
-    flags = [a.const, a.inout, a.optional, a.base == "unsigned int"]
+        values = [pool.add("double", f"double({over_values(v, args)})") for v in f.domains[a.name]]
+        domain, count = f"domain_{f.name}_{f.index}_{number}", len(values)
+        out.append(f"double (*const {domain}[])(const Value*) = {{{', '.join(values)}}};\n")
+    in_extent = not a.pointer and any(re.search(rf"\b{a.name}\b", b.extent) for b in args)
+    flags = [a.const, a.inout, a.optional, a.base == "unsigned int", in_extent]
     size, unit = (a.type.size, a.type.unit) if a.type else (0, 0)
     return (
         f"{{{quoted(a.name)}, Kind::{a.kind}, Element::{element}, {size}, {unit}, "
@@ -88,7 +90,7 @@ def function(f, pool, out):
     def listed(prefix, rows):
         return f"{prefix}_{n}, {len(rows)}" if rows else "nullptr, 0"
 
-    flags = [f.dispatched, f.checks_in_kernel]
+    flags = [f.dispatched, f.checks_in_kernel, f.moves_bits]
     return ", ".join(
         [
             f"{{{quoted(f.name)}, {quoted(f.family)}, {quoted(f.topic)}, Half::{f.half}",

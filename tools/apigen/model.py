@@ -79,7 +79,8 @@ class Function:
     notes: list = field(default_factory=list)
     warnings: list = field(default_factory=list)
     in_place: list = field(default_factory=list)  # (destination, source) pairs that may be one array
-    domains: dict = field(default_factory=dict)  # argument name -> values worth trying
+    domains: dict = field(default_factory=dict)  # argument name -> expressions of values worth trying
+    moves_bits: bool = False  # values are moved, never computed
     fixture: str = ""  # who builds valid arguments for the tests; empty: they follow from the extents
     types: list = field(default_factory=list)
 

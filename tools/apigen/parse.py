@@ -220,17 +220,18 @@ class Parser:
         bodies, dispatched = self.api.sources[self.source]
         index = said.get("idx", "auto")
         names = {a.name for a in args}
+        suffix = part.suffix if part else ""
         pairs = [tuple(p.strip().split("=")) for p in split_list(said.get("in_place", ""))]
         return Function(
             name=full + ("" if form == "plain" else form),
             family=family,
             half=self.half,
             convention=said.get("convention", "cdecl" if self.half == "own" or index == "written" else "stdcall"),
-            returns=said.get("returns", "void" if self.half == "own" else "status"),
+            returns=said.get("returns", "void" if self.half == "own" else "status").replace("{T}", suffix),
             args=args,
             checks=checks,
             checks_in_kernel=own,
-            kernel=said["kernel"],
+            kernel=said["kernel"].replace("{T}", suffix),
             call=call,
             source=self.source,
             bodies=bodies,
@@ -242,7 +243,8 @@ class Parser:
             notes=said["note"],
             warnings=said.get("warns", "").split(),
             in_place=[p for p in pairs if set(p) <= names],
-            domains={d.split("=")[0].strip(): d.split("=")[1].split() for d in said.get("domain", [])},
+            domains={d.split("=", 1)[0].strip(): d.split("=", 1)[1].split() for d in said.get("domain", [])},
+            moves_bits="moves" in said,
             fixture=said.get("fixture", ""),
             types=[binding[k] for k in "TUVW" if k in binding],
         )

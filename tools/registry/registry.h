@@ -6,6 +6,8 @@
 
 namespace registry {
 
+using Entry = void (*)(); // any function of the interface
+
 // One argument's value. Which member counts follows from the argument's kind and type.
 struct Value {
     long long i = 0; // int, unsigned, integer elements, the real part of an integer complex
@@ -28,9 +30,10 @@ struct Arg {
     bool inout; // read before it is written, or written in part
     bool optional; // null is allowed
     bool isUnsigned; // a count of the own half
+    bool inExtent; // a scalar that decides how long arrays are
     long long (*extent)(const Value*); // elements of an array, bytes of a work buffer
     int stackBytes; // on the 32-bit argument stack
-    const double* domain; // values worth trying, may be null
+    double (*const* domain)(const Value*); // values worth trying, over the arguments before it; may be null
     int domainSize;
 };
 
@@ -58,6 +61,7 @@ struct Function {
     IndexForm index;
     bool dispatched; // through a variant table
     bool checksInKernel;
+    bool movesBits; // values are moved, never computed: NaN payloads survive
     const Arg* args;
     int argCount;
     const Check* checks;

@@ -1,0 +1,72 @@
+// Every status of every function: the first failing check decides, and a failure leaves no trace.
+#include "support/stage.h"
+#include <gtest/gtest.h>
+#include <map>
+
+namespace {
+
+using registry::Arguments;
+using registry::Function;
+using registry::Kind;
+
+// Turns a valid set of arguments into a bad one: some pointers null, some scalars out of range.
+void spoil(Arguments& a, registry::Random& random)
+{
+    static const long long odd[] = {0, -1, 1, 2, 3, -7, 5, 100, 1024, 2147483647, -2147483647 - 1};
+    for (int i = 0; i < a.f.argCount; ++i) {
+        const registry::Arg& arg = a.f.args[i];
+        if (!random.oneIn(3)) continue;
+        if (arg.kind == Kind::scalar && registry::isFloating(arg.element)) {
+            static const double numbers[] = {-1, 0, 1, 0.25, 0.5, 7, -1e300, 1e300};
+            a.values[i].re = numbers[random.below(8)];
+            a.values[i].im = numbers[random.below(8)];
+        } else if (arg.kind == Kind::scalar) {
+            a.values[i].i = odd[random.below(sizeof odd / sizeof *odd)];
+        } else if (arg.kind != Kind::index) {
+            a.values[i].p = nullptr;
+        }
+    }
+}
+
+int firstFailing(const Arguments& a)
+{
+    for (int k = 0; k < a.f.checkCount; ++k)
+        if (a.f.checks[k].fails(a.values.data())) return k;
+    return -1;
+}
+
+void tryFunction(const Function& f, support::Stage& stage)
+{
+    registry::Random random(11);
+    std::vector<int> met(static_cast<size_t>(f.checkCount));
+    for (int attempt = 0; attempt < 400; ++attempt) {
+        Arguments a = registry::build(f, random, 16, registry::Pattern::adversarial, 0xABABABABABABABABu);
+        stage.put(a, {});
+        const auto given = a.values;
+        spoil(a, random);
+        const int failing = firstFailing(a);
+        if (failing < 0) continue;
+        ++met[static_cast<size_t>(failing)];
+        const auto answer = stage.call(a, support::entryOf(f));
+        ASSERT_EQ(answer.status, f.checks[failing].status)
+            << support::nameOf(f) << ": check " << f.checks[failing].text << ", attempt " << attempt;
+        ASSERT_EQ(answer.intrusion, "") << support::nameOf(f);
+        ASSERT_EQ(stage.changed(a), "") << support::nameOf(f) << " wrote in spite of " << f.checks[failing].text;
+    }
+    for (int k = 0; k < f.checkCount; ++k)
+        EXPECT_GT(met[static_cast<size_t>(k)], 0) << support::nameOf(f) << ": never first to fail: " << f.checks[k].text;
+}
+
+} // namespace
+
+TEST(Checks, FirstFailingOneDecidesAndNothingIsWritten)
+{
+    support::Stage stage;
+    for (const Function& f : registry::functions()) {
+        if (!f.checkCount || f.result != registry::Result::status || !support::generallyCallable(f)) continue;
+        for (const support::Variant& v : f.dispatched ? support::bodiesOf(f) : std::vector<support::Variant>{support::variants[0]}) {
+            support::force(v);
+            tryFunction(f, stage);
+        }
+    }
+}

@@ -1,0 +1,167 @@
+"""Looks into built objects: what a compiler or linker could get wrong without any test of results noticing.
+
+    python3 tools/objcheck.py --build build/win32 --objdump i686-w64-mingw32-objdump
+
+- No instruction above its variant's level, no fused multiply-add, nothing that a processor of the level lacks.
+- No symbol of a variant's objects that the linker could merge with another variant's.
+- On 32-bit x86: no aligned vector access to the stack in a function that does not align its frame, because hosts keep
+  the stack aligned to 4 bytes only.
+- Every dispatched entry is one load of the index and one indirect jump.
+"""
+import argparse
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+VARIANTS = ["px", "w7", "s8", "p8", "g9", "h9"]
+
+SSE3 = "addsubp[ds] h(add|sub)p[ds] lddqu movddup movs[hl]dup"
+SSSE3 = "pabs[bwd] palignr ph(add|sub)(w|d|sw) pmaddubsw pmulhrsw pshufb psign[bwd]"
+SSE4 = (
+    "blendv?p[ds] dpp[ds] extractps insertps movntdqa mpsadbw packusdw pblendvb pblendw pcmpeqq pextr[bdq] phminposuw "
+    "pinsr[bdq] pmax(sb|sd|ud|uw) pmin(sb|sd|ud|uw) pmov[sz]x\\w+ pmuldq pmulld ptest rounds?[psd]+ crc32\\w? "
+    "pcmp[ei]str[im] pcmpgtq popcnt\\w?"
+)
+AVX2_ONLY = (
+    "vbroadcasti128 vextracti128 vinserti128 vpblendd vpbroadcast[bwdq] vperm(2i128|d|ps|q|pd) vp?gather\\w+ "
+    "vps[rl]l?[al]?v[dq] vpmaskmov[dq]"
+)
+NEVER = (
+    "vfn?m(add|sub|addsub|subadd)\\w+ andn bextr bls(i|r|msk) [lt]zcnt\\w? (sar|shl|shr)x mulx pdep pext rorx bzhi "
+    "movbe\\w? adcx adox v?aes\\w+ v?pclmul\\w+ sha\\w+msg\\w sha\\w+rnds\\w"
+)
+X87 = "f(add|sub|mul|div|ild|istp|sqrt|sin|cos|ptan|patan|yl2x|2xm1|prem|rndint|com|ucom|chs|abs|xch)\\w*"
+
+
+def pattern(words):
+    return re.compile(r"^(?:" + "|".join(words.split()) + r")$")
+
+
+LEGACY = [(2, pattern(SSE3)), (2, pattern(SSSE3)), (3, pattern(SSE4))]
+IS_AVX2, IS_NEVER, IS_X87 = pattern(AVX2_ONLY), pattern(NEVER), pattern(X87)
+
+
+def level_needed(mnemonic, operands):
+    """The lowest variant level that has this instruction; 9: none."""
+    if IS_NEVER.match(mnemonic) or "%zmm" in operands or re.search(r"%[xy]mm(1[6-9]|2\d|3[01])\b|%k[0-7]", operands):
+        return 9
+    if mnemonic.startswith("v") and mnemonic not in ("verr", "verw"):
+        integer_ymm = "%ymm" in operands and mnemonic.startswith(("vp", "vmpsadbw", "vmovntdqa")) and not re.match(
+            r"vpermil|vptest|vperm2f128", mnemonic
+        )
+        register_broadcast = re.match(r"vbroadcasts[sd]", mnemonic) and "(" not in operands
+        return 5 if IS_AVX2.match(mnemonic) or integer_ymm or register_broadcast else 4
+    for level, words in LEGACY:
+        if words.match(mnemonic):
+            return level
+    return 0
+
+
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+def functions(disassembly):
+    """(name, [(mnemonic, operands)]) of every function."""
+    name, body = None, []
+    for line in disassembly.splitlines():
+        head = re.match(r"[0-9a-f]+ <(.+)>:$", line)
+        if head:
+            if name:
+                yield name, body
+            name, body = head[1], []
+            continue
+        code = re.match(r"\s+[0-9a-f]+:\t(\S+)\s*(.*)$", line)
+        if code and name:
+            mnemonic, operands = code[1], code[2]
+            while mnemonic in ("rep", "repz", "repnz", "lock", "notrack", "bnd", "data16", "cs", "ds", "{vex}"):
+                mnemonic, _, operands = operands.partition(" ")
+            body.append((mnemonic, operands))
+    if name:
+        yield name, body
+
+
+def aligned_stack_access(body):
+    return any(
+        re.match(r"v?mov(ap[sd]|dqa)$", m) and re.search(r"\(%e[sb]p", o) for m, o in body
+    ) and not any(m.startswith("and") and re.match(r"\$0xffffff[0-9a-f]0,%esp", o) for m, o in body)
+
+
+class Report:
+    def __init__(self):
+        self.faults = []
+
+    def add(self, path, text):
+        self.faults.append(f"{path.name}: {text}")
+
+
+def check_object(path, level, objdump, bits32, report):
+    for name, body in functions(run(objdump, "-d", "--no-show-raw-insn", str(path))):
+        for mnemonic, operands in body:
+            if level_needed(mnemonic, operands) > level:
+                report.add(path, f"{name}: {mnemonic} {operands} is above {VARIANTS[level]}")
+            if IS_X87.match(mnemonic):
+                report.add(path, f"{name}: x87 instruction {mnemonic}")
+        if bits32 and aligned_stack_access(body):
+            report.add(path, f"{name}: aligned access to a stack that is not aligned")
+
+
+def check_symbols(path, variant, objdump, report):
+    """Weak and link-once symbols are merged across objects: only those in the variant's own namespace are safe."""
+    own = f"sig5d{len(variant)}{variant}"
+    for line in run(objdump, "-t", str(path)).splitlines():
+        elf = re.match(r"[0-9a-f]+ (.{7}) (\S+)\s+[0-9a-f]+ (?:\.hidden )?(.+)$", line)
+        if elf and ("w" in elf[1] or "u" in elf[1][:2]) and elf[2] != "*UND*" and own not in elf[3]:
+            report.add(path, f"shared symbol {elf[3]}")
+    for line in run(objdump, "-h", str(path)).splitlines():
+        if "LINK_ONCE" in line and "COMDAT" in line:
+            symbol = re.search(r"COMDAT (\S+)", line)
+            if symbol and own not in symbol[1]:
+                report.add(path, f"shared symbol {symbol[1]}")
+
+
+def check_stubs(path, objdump, bits32, report):
+    shape = ["mov", "jmp"] if bits32 else ["movslq", "lea", "jmp"]
+    count = 0
+    for name, body in functions(run(objdump, "-d", "--no-show-raw-insn", str(path))):
+        if "initialise_keeping" in name:
+            continue
+        found = [m for m, _ in body[: len(shape)]]
+        if found != shape or not body[len(shape) - 1][1].startswith("*"):
+            report.add(path, f"{name} is no stub: {found}")
+        count += 1
+    if count == 0:
+        report.add(path, "no stubs found")
+    return count
+
+
+def main():
+    options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    options.add_argument("--build", required=True, type=Path)
+    options.add_argument("--objdump", default="objdump")
+    given = options.parse_args()
+    folder = given.build / "CMakeFiles"
+    objects = sorted(p for p in folder.glob("sig5d*.dir/**/*") if p.suffix in (".o", ".obj"))
+    bits32 = "elf32" in (head := run(given.objdump, "-f", str(objects[0]))) or "pe-i386" in head
+    report, checked, stubs = Report(), 0, 0
+    for path in objects:
+        target = path.relative_to(folder).parts[0]
+        if path.name.startswith("dispatch.S"):
+            stubs = check_stubs(path, given.objdump, bits32, report)
+            continue
+        if target == "sig5d_registry.dir" or "version.rc" in path.name:
+            continue
+        variant = target[len("sig5d_") : -len(".dir")]
+        level = VARIANTS.index(variant) if variant in VARIANTS else 0
+        check_object(path, level, given.objdump, bits32, report)
+        if variant in VARIANTS:
+            check_symbols(path, variant, given.objdump, report)
+        checked += 1
+    print(f"{checked} objects, {stubs} stubs, {len(report.faults)} faults")
+    for fault in report.faults[:50]:
+        print(fault)
+    sys.exit(bool(report.faults) or not checked or not stubs)
+
+
+main()

@@ -1,0 +1,40 @@
+// A complete, valid set of arguments for a function, as data that can be placed anywhere in memory: scalars, the extents
+// that follow from them, and the initial bytes of every array.
+#pragma once
+#include "registry.h"
+#include "values.h"
+#include <functional>
+#include <vector>
+
+namespace registry {
+
+struct Arguments {
+    explicit Arguments(const Function& function);
+
+    const Function& f;
+    std::vector<Value> values;
+    std::vector<long long> extent; // of each pointer argument: elements (bytes for buffers and opaque records)
+    std::vector<std::vector<uint8_t>> content; // initial bytes of each pointer argument
+    std::vector<bool> null; // pointer arguments that are null
+
+    size_t bytes(int argument) const;
+    bool valid() const; // no check fails
+};
+
+// Builds what does not follow from the description: filter specifications, states, index lists. Each step is optional
+// and runs after the general one: scalars chosen, extents computed, arrays filled.
+struct Fixture {
+    std::function<void(Arguments&, Random&, long long length)> scalars;
+    std::function<void(Arguments&)> extents;
+    std::function<void(Arguments&, Random&)> contents;
+};
+void addFixture(const char* name, Fixture fixture);
+
+// Scalars that pass all checks, arrays as long as "length" asks for (lengths in extents: that value or, where there are
+// several, values up to it), filled with the pattern. What is only written holds "prefill" again and again.
+Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill);
+
+// Scalars only; false when no valid ones were found.
+bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern);
+
+} // namespace registry

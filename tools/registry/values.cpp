@@ -1,0 +1,148 @@
+#include "values.h"
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace registry {
+namespace {
+
+template <class F>
+F adversarialFloat(Random& r)
+{
+    using L = std::numeric_limits<F>;
+    const F specials[] = {F(0), -F(0), F(1), F(-1), F(0.5), F(-0.5), F(1.5), F(2.5), F(-2.5), L::min(), -L::min(),
+                          L::denorm_min(), -L::denorm_min(), L::max(), L::lowest(), L::infinity(), -L::infinity(),
+                          L::quiet_NaN(), -L::quiet_NaN(), L::epsilon(), F(127.5), F(255.5), F(-128.5), F(32767.5),
+                          F(-32768.5), F(2147483647), F(-2147483648.0), F(4294967296.0), F(9.2233720368547758e18)};
+    switch (r.below(4)) {
+    case 0: return specials[r.below(sizeof specials / sizeof *specials)];
+    case 1: return F(r.below(2001) - 1000) / F(2); // integers and halves
+    case 2: return F((double(r.bits() >> 11) * 0x1p-53 - 0.5) * std::ldexp(1.0, int(r.below(60)) - 30));
+    default: {
+        F any;
+        const uint64_t bits = r.bits();
+        std::memcpy(&any, &bits, sizeof any);
+        return any;
+    }
+    }
+}
+
+template <class F>
+F floating(Random& r, Pattern p)
+{
+    using L = std::numeric_limits<F>;
+    switch (p) {
+    case Pattern::anyBits: {
+        F any;
+        const uint64_t bits = r.bits();
+        std::memcpy(&any, &bits, sizeof any);
+        return any;
+    }
+    case Pattern::adversarial: return adversarialFloat<F>(r);
+    case Pattern::tame: return F(double(r.bits() >> 11) * 0x1p-52 - 1.0);
+    case Pattern::lowest: return L::lowest();
+    default: return L::max();
+    }
+}
+
+template <class I>
+I integer(Random& r, Pattern p)
+{
+    using L = std::numeric_limits<I>;
+    switch (p) {
+    case Pattern::anyBits: return static_cast<I>(r.bits());
+    case Pattern::adversarial: {
+        const I specials[] = {0, 1, 2, 3, I(-1), I(-2), I(-3), L::min(), I(L::min() + 1), L::max(), I(L::max() - 1),
+                              I(L::max() / 2), I(L::max() / 2 + 1)};
+        return r.oneIn(2) ? specials[r.below(sizeof specials / sizeof *specials)] : static_cast<I>(r.bits());
+    }
+    case Pattern::tame: return static_cast<I>(r.below(100));
+    case Pattern::lowest: return L::min();
+    default: return L::max();
+    }
+}
+
+template <class T, class Make>
+void fillWith(uint8_t* bytes, size_t n, Make make)
+{
+    for (size_t i = 0; i < n; ++i) {
+        const T x = make();
+        std::memcpy(bytes + i * sizeof(T), &x, sizeof(T));
+    }
+}
+
+} // namespace
+
+int elementBytes(Element e)
+{
+    switch (e) {
+    case Element::u8:
+    case Element::i8:
+    case Element::bits: return 1;
+    case Element::u16:
+    case Element::i16:
+    case Element::f16: return 2;
+    case Element::u24:
+    case Element::i24: return 3;
+    case Element::c16s:
+    case Element::u32:
+    case Element::i32:
+    case Element::f32: return 4;
+    case Element::c64s:
+    case Element::c64f: return 16;
+    default: return 8;
+    }
+}
+
+bool isFloating(Element e)
+{
+    return e == Element::f32 || e == Element::f64 || e == Element::c32f || e == Element::c64f;
+}
+
+void fill(Random& r, Element e, Pattern p, uint8_t* bytes, size_t n)
+{
+    switch (e) {
+    case Element::f32: return fillWith<float>(bytes, n, [&] { return floating<float>(r, p); });
+    case Element::c32f: return fillWith<float>(bytes, 2 * n, [&] { return floating<float>(r, p); });
+    case Element::f64: return fillWith<double>(bytes, n, [&] { return floating<double>(r, p); });
+    case Element::c64f: return fillWith<double>(bytes, 2 * n, [&] { return floating<double>(r, p); });
+    case Element::i16: return fillWith<int16_t>(bytes, n, [&] { return integer<int16_t>(r, p); });
+    case Element::c16s: return fillWith<int16_t>(bytes, 2 * n, [&] { return integer<int16_t>(r, p); });
+    case Element::i32: return fillWith<int32_t>(bytes, n, [&] { return integer<int32_t>(r, p); });
+    case Element::c32s: return fillWith<int32_t>(bytes, 2 * n, [&] { return integer<int32_t>(r, p); });
+    case Element::i64: return fillWith<int64_t>(bytes, n, [&] { return integer<int64_t>(r, p); });
+    case Element::c64s: return fillWith<int64_t>(bytes, 2 * n, [&] { return integer<int64_t>(r, p); });
+    case Element::i8: return fillWith<int8_t>(bytes, n, [&] { return integer<int8_t>(r, p); });
+    case Element::u16: return fillWith<uint16_t>(bytes, n, [&] { return integer<uint16_t>(r, p); });
+    case Element::u32: return fillWith<uint32_t>(bytes, n, [&] { return integer<uint32_t>(r, p); });
+    default: // the unsigned rest, half floats and 24-bit integers: any bytes are values
+        return fillWith<uint8_t>(bytes, n * static_cast<size_t>(elementBytes(e)), [&] { return integer<uint8_t>(r, p); });
+    }
+}
+
+Value scalar(Random& r, Element e, Pattern p)
+{
+    Value v;
+    switch (e) {
+    case Element::f32: v.re = floating<float>(r, p); break;
+    case Element::f64: v.re = floating<double>(r, p); break;
+    case Element::c64f:
+        v.re = floating<double>(r, p);
+        v.im = floating<double>(r, p);
+        break;
+    case Element::u8: v.i = integer<uint8_t>(r, p); break;
+    case Element::i8: v.i = integer<int8_t>(r, p); break;
+    case Element::u16: v.i = integer<uint16_t>(r, p); break;
+    case Element::i16: v.i = integer<int16_t>(r, p); break;
+    case Element::c32s:
+        v.i = integer<int32_t>(r, p);
+        v.i2 = integer<int32_t>(r, p);
+        break;
+    case Element::i64:
+    case Element::u64: v.i = integer<int64_t>(r, p); break;
+    default: v.i = integer<int32_t>(r, p); break;
+    }
+    return v;
+}
+
+} // namespace registry
