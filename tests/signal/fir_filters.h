@@ -8,10 +8,8 @@
 
 namespace fir {
 
-template <class T>
-struct Functions;
-template <>
-struct Functions<Ipp64f> {
+template <class T> struct Functions;
+template <> struct Functions<Ipp64f> {
     using Spec = IppsFIRSpec_64f;
     static constexpr int type = 19;
     static constexpr auto init = ippsFIRSRInit_64f;
@@ -19,8 +17,7 @@ struct Functions<Ipp64f> {
     static constexpr auto multiInit = ippsFIRMRInit_64f;
     static constexpr auto multiFilter = ippsFIRMR_64f;
 };
-template <>
-struct Functions<Ipp64fc> {
+template <> struct Functions<Ipp64fc> {
     using Spec = IppsFIRSpec_64fc;
     static constexpr int type = 20;
     static constexpr auto init = ippsFIRSRInit_64fc;
@@ -30,8 +27,7 @@ struct Functions<Ipp64fc> {
 };
 
 // A specification and a work buffer of exactly the sizes asked for, with old bytes in them.
-template <class T>
-struct Filter {
+template <class T> struct Filter {
     using F = Functions<T>;
     std::vector<Ipp8u> block, work;
     oracle::Rates rates = {1, 0, 1, 0};
@@ -76,8 +72,7 @@ inline void draw(std::mt19937& g, Ipp64fc& x)
     draw(g, x.re);
     draw(g, x.im);
 }
-template <class T>
-std::vector<T> noise(std::mt19937& g, size_t n)
+template <class T> std::vector<T> noise(std::mt19937& g, size_t n)
 {
     std::vector<T> v(n);
     for (T& x : v) draw(g, x);
@@ -87,8 +82,7 @@ std::vector<T> noise(std::mt19937& g, size_t n)
 inline bool same(Ipp64f a, Ipp64f b) { return !std::memcmp(&a, &b, sizeof a) || (a != a && b != b); }
 inline bool same(Ipp64fc a, Ipp64fc b) { return same(a.re, b.re) && same(a.im, b.im); }
 // The first place where two arrays differ, not counting what a NaN carries; -1: none.
-template <class T>
-int difference(const std::vector<T>& a, const std::vector<T>& b)
+template <class T> int difference(const std::vector<T>& a, const std::vector<T>& b)
 {
     if (a.size() != b.size()) return 0;
     for (size_t i = 0; i < a.size(); ++i)
@@ -96,8 +90,7 @@ int difference(const std::vector<T>& a, const std::vector<T>& b)
     return -1;
 }
 
-template <class T>
-std::vector<T> tail(std::vector<T> history, const std::vector<T>& x)
+template <class T> std::vector<T> tail(std::vector<T> history, const std::vector<T>& x)
 {
     const size_t n = history.size();
     history.insert(history.end(), x.begin(), x.end());

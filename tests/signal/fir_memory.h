@@ -11,7 +11,8 @@
 
 namespace fir {
 
-class Pages {
+class Pages
+{
 public:
     explicit Pages(size_t bytes) : bytes_((bytes + 4095) / 4096 * 4096)
     {
@@ -48,7 +49,8 @@ private:
 };
 
 // A block at any offset from a multiple of 64, with known bytes on both sides.
-class Fenced {
+class Fenced
+{
 public:
     Fenced(int bytes, int offset) : bytes_(bytes), memory_(bytes + 256, fence)
     {

@@ -6,8 +6,8 @@
 using namespace fir;
 namespace {
 
-template <class T>
-class MultiRate : public testing::Test {
+template <class T> class MultiRate : public testing::Test
+{
 protected:
     std::mt19937 g{54321};
 };
@@ -16,10 +16,10 @@ TYPED_TEST_SUITE(MultiRate, Types);
 
 TYPED_TEST(MultiRate, EqualsTheDefinedOrderToTheBit)
 {
-    const oracle::Rates rates[] = {{1, 0, 1, 0},  {2, 0, 1, 0},     {1, 0, 2, 0},      {2, 1, 1, 0},  {1, 0, 2, 1},
-                                   {3, 0, 2, 0},  {3, 2, 2, 1},     {4, 3, 1, 0},      {1, 0, 4, 3},  {5, 4, 7, 0},
-                                   {7, 0, 5, 4},  {6, 2, 6, 3},     {16, 5, 15, 9},    {17, 16, 3, 0}, {19, 0, 40, 39},
-                                   {1, 0, 50, 7}, {50, 49, 1, 0},   {21, 3, 20, 11},   {2, 1, 97, 50}, {15, 1, 16, 0}};
+    const oracle::Rates rates[] = {{1, 0, 1, 0},  {2, 0, 1, 0},   {1, 0, 2, 0},    {2, 1, 1, 0},   {1, 0, 2, 1},
+                                   {3, 0, 2, 0},  {3, 2, 2, 1},   {4, 3, 1, 0},    {1, 0, 4, 3},   {5, 4, 7, 0},
+                                   {7, 0, 5, 4},  {6, 2, 6, 3},   {16, 5, 15, 9},  {17, 16, 3, 0}, {19, 0, 40, 39},
+                                   {1, 0, 50, 7}, {50, 49, 1, 0}, {21, 3, 20, 11}, {2, 1, 97, 50}, {15, 1, 16, 0}};
     for (const auto& r : rates) {
         for (const int taps : {1, 2, 3, 7, 20, 48, 65}) {
             for (const int n : {1, 2, 3, 4, 5, 9, 16, 33, 70}) {
@@ -53,7 +53,8 @@ TYPED_TEST(MultiRate, EqualsTheDefinedOrderToTheBit)
 TYPED_TEST(MultiRate, InfiniteAndNaNSamplesReachTheirOutputsOnly)
 {
     using T = TypeParam;
-    for (const oracle::Rates r : {oracle::Rates{3, 1, 2, 0}, {1, 0, 5, 2}, {4, 0, 1, 0}, {20, 7, 17, 3}, {2, 0, 40, 1}}) {
+    for (const oracle::Rates r :
+         {oracle::Rates{3, 1, 2, 0}, {1, 0, 5, 2}, {4, 0, 1, 0}, {20, 7, 17, 3}, {2, 0, 40, 1}}) {
         const int iterations = 40, taps = 30;
         const auto h = noise<T>(this->g, taps), old = noise<T>(this->g, (taps + r.up - 1) / r.up);
         auto x = noise<T>(this->g, iterations * r.down);
@@ -80,7 +81,8 @@ TYPED_TEST(MultiRate, StreamsMayBeCutAnywhere)
         r.downPhase = static_cast<int>(this->g() % r.down);
         if (r.up == 1 && r.down == 1) continue;
         // Some calls are longer than the blocks of an in-place call.
-        const int taps = 1 + static_cast<int>(this->g() % 60), total = partition % 50 ? 90 : 9000, scale = 1 << this->g() % 14;
+        const int taps = 1 + static_cast<int>(this->g() % 60), total = partition % 50 ? 90 : 9000,
+                  scale = 1 << this->g() % 14;
         const auto h = noise<T>(this->g, taps), x = noise<T>(this->g, total * r.down);
         Filter<T> filter(h, r);
         std::vector<T> whole(total * r.up), y(total * r.up), block, dly(filter.history);
@@ -143,8 +145,8 @@ TYPED_TEST(MultiRate, SpecificationMayBeReadOnlyMovedAndMadeByAnyVariant)
                 support::force(user);
                 Fenced work(static_cast<int>(filter.work.size()), static_cast<int>(this->g() % 64));
                 std::vector<T> y(33 * r.up);
-                ASSERT_EQ(Functions<T>::multiFilter(x.data(), y.data(), 33, reinterpret_cast<const Spec*>(moved), nullptr,
-                                                    nullptr, work.data()),
+                ASSERT_EQ(Functions<T>::multiFilter(x.data(), y.data(), 33, reinterpret_cast<const Spec*>(moved),
+                                                    nullptr, nullptr, work.data()),
                           0);
                 ASSERT_EQ(difference(y, expected), -1) << maker.code << " " << user.code;
                 ASSERT_TRUE(work.intact());
@@ -234,7 +236,8 @@ TEST(MultiRateSizes, NeverWrap)
         const int taps = any(), up = any(), down = any(), type = g() % 2 ? 19 : 20;
         if (up == 1 && down == 1) continue;
         const Wide e = type == 19 ? 8 : 16, l = (Wide(taps) - 1 + up) / up;
-        const Wide spec = 127 + 2 * align64(e * taps), work = (l * 32 + 126) / 128 * 128 + 65599 + align64((l + down) * 16);
+        const Wide spec = 127 + 2 * align64(e * taps),
+                   work = (l * 32 + 126) / 128 * 128 + 65599 + align64((l + down) * 16);
         int specSize = -7, workSize = -7;
         const int status = ippsFIRMRGetSize(taps, up, down, type, &specSize, &workSize);
         if (status) {

@@ -6,8 +6,8 @@
 using namespace fir;
 namespace {
 
-template <class T>
-class SingleRate : public testing::Test {
+template <class T> class SingleRate : public testing::Test
+{
 protected:
     std::mt19937 g{12345};
 };
@@ -174,7 +174,8 @@ TYPED_TEST(SingleRate, SpecificationMayBeReadOnlyMovedAndMadeByAnyVariant)
             Filter<T> filter(h, algType);
             const int size = static_cast<int>(filter.block.size()), offset = static_cast<int>(this->g() % 64);
             Fenced place(size, offset);
-            ASSERT_EQ(Functions<T>::init(h.data(), 150, algType, reinterpret_cast<typename Functions<T>::Spec*>(place.data())),
+            ASSERT_EQ(Functions<T>::init(h.data(), 150, algType,
+                                         reinterpret_cast<typename Functions<T>::Spec*>(place.data())),
                       0);
             ASSERT_TRUE(place.intact());
             Pages pages(size + 640);
@@ -249,7 +250,8 @@ TEST(SingleRateBlocks, OfAnotherTypeAreRefused)
         support::force(v);
         const auto* realAsComplex = reinterpret_cast<const IppsFIRSpec_64fc*>(real.spec());
         const auto* complexAsReal = reinterpret_cast<const IppsFIRSpec_64f*>(complex.spec());
-        EXPECT_EQ(ippsFIRSR_64fc(&x, &y, 1, realAsComplex, nullptr, nullptr, complex.work.data()), ippStsContextMatchErr);
+        EXPECT_EQ(ippsFIRSR_64fc(&x, &y, 1, realAsComplex, nullptr, nullptr, complex.work.data()),
+                  ippStsContextMatchErr);
         EXPECT_EQ(ippsFIRSR_64f(&x.re, &y.re, 1, complexAsReal, nullptr, nullptr, complex.work.data()),
                   ippStsContextMatchErr);
     }

@@ -19,10 +19,8 @@ struct Handle {
 };
 
 // What is called for a type.
-template <class T>
-struct Functions;
-template <>
-struct Functions<Ipp64f> {
+template <class T> struct Functions;
+template <> struct Functions<Ipp64f> {
     using Spec = IppsFIRSpec_64f;
     static constexpr int type = 19;
     static constexpr auto copy = ippsCopy_64f;
@@ -31,8 +29,7 @@ struct Functions<Ipp64f> {
     static constexpr auto multiInit = ippsFIRMRInit_64f;
     static constexpr auto multi = ippsFIRMR_64f;
 };
-template <>
-struct Functions<Ipp64fc> {
+template <> struct Functions<Ipp64fc> {
     using Spec = IppsFIRSpec_64fc;
     static constexpr int type = 20;
     static constexpr auto copy = ippsCopy_64fc;
@@ -56,8 +53,7 @@ void freeHandle(void* pHandle)
     if (pHandle) release(static_cast<Handle*>(pHandle));
 }
 
-template <class T>
-void* delayLine(int n)
+template <class T> void* delayLine(int n)
 {
     T* line = static_cast<T*>(allocateAligned(n * static_cast<int>(sizeof(T))));
     for (int i = 0; line && i < n; ++i) line[i] = T{};
@@ -93,8 +89,7 @@ Status initAlloc(const T* pTaps, int tapsIdx, int tapsLen, H** ppHandle, Sizes s
     return status;
 }
 
-template <class T, class H>
-Status singleInitAlloc(const T* pTaps, int tapsIdx, int tapsLen, int algType, H** ppHandle)
+template <class T, class H> Status singleInitAlloc(const T* pTaps, int tapsIdx, int tapsLen, int algType, H** ppHandle)
 {
     using F = Functions<T>;
     return initAlloc(
@@ -117,8 +112,7 @@ Status multiInitAlloc(const T* pTaps, int tapsIdx, int tapsLen, int up, int upPh
 }
 
 // The next stretch of the handle's stream. The history that the last call left becomes that of this one.
-template <auto filter, class T, class H>
-Status next(const T* src, T* dst, int numIters, H* pHandle)
+template <auto filter, class T, class H> Status next(const T* src, T* dst, int numIters, H* pHandle)
 {
     using F = Functions<T>;
     auto* h = reinterpret_cast<Handle*>(pHandle);
@@ -128,14 +122,12 @@ Status next(const T* src, T* dst, int numIters, H* pHandle)
     return filter(src, dst, numIters, static_cast<typename F::Spec*>(h->spec), in, out, h->buf);
 }
 
-template <class T, class H>
-Status single(const T* pSrc, int srcIdx, T* pDst, int dstIdx, int numIters, H* pHandle)
+template <class T, class H> Status single(const T* pSrc, int srcIdx, T* pDst, int dstIdx, int numIters, H* pHandle)
 {
     return next<Functions<T>::single>(element<sizeof(T)>(pSrc, srcIdx), element<sizeof(T)>(pDst, dstIdx), numIters,
                                       pHandle);
 }
-template <class T, class H>
-Status multi(const T* pSrc, int srcIdx, T* pDst, int dstIdx, int numIters, H* pHandle)
+template <class T, class H> Status multi(const T* pSrc, int srcIdx, T* pDst, int dstIdx, int numIters, H* pHandle)
 {
     return next<Functions<T>::multi>(element<sizeof(T)>(pSrc, srcIdx), element<sizeof(T)>(pDst, dstIdx), numIters,
                                      pHandle);

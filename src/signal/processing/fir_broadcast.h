@@ -8,8 +8,7 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <int w>
-[[gnu::always_inline]] inline Vec<f64, w> broadcast(const f64& x)
+template <int w> [[gnu::always_inline]] inline Vec<f64, w> broadcast(const f64& x)
 {
 #ifdef __AVX__
     if constexpr (w == 4) return __builtin_ia32_vbroadcastsd256(&x);

@@ -14,11 +14,9 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // Arithmetic on w elements of T side by side: Sum accumulates, Tap and Signal are what a product takes.
-template <class T, int w>
-struct Side;
+template <class T, int w> struct Side;
 
-template <int w>
-struct Side<f64, w> {
+template <int w> struct Side<f64, w> {
     static constexpr int width = w;
     using Sum = Vec<f64, w>;
     using Tap = Sum;
@@ -32,8 +30,7 @@ struct Side<f64, w> {
 
 // A complex product is (h.re*x.re - h.im*x.im, h.re*x.im + h.im*x.re): both parts are finished, then added to the sum.
 // The subtraction is written as the addition of the exactly negated product, so that one form serves both parts.
-template <int w>
-struct Side<c64f, w> {
+template <int w> struct Side<c64f, w> {
     static constexpr int width = w;
     using Sum = Vec<f64, 2 * w>;
     using Bits = Vec<i64, 2 * w>;
@@ -69,8 +66,7 @@ struct Side<c64f, w> {
 };
 
 #if SIG5D_LEVEL == 0
-template <>
-struct Side<c64f, 1> {
+template <> struct Side<c64f, 1> {
     static constexpr int width = 1;
     using Sum = c64f;
     using Tap = c64f;
@@ -88,8 +84,7 @@ struct Side<c64f, 1> {
 #endif
 
 // Where a column stands: regularly, but the last one where it is told.
-template <int stride, int columns>
-[[gnu::always_inline]] inline int at(int column, int last)
+template <int stride, int columns> [[gnu::always_inline]] inline int at(int column, int last)
 {
     return column == columns - 1 ? last : column * stride;
 }
@@ -142,8 +137,7 @@ template <class S, int groups, int columns, class T>
 }
 
 // n outputs, n <= columns * width: the smallest block that holds them.
-template <class S, int columns, class T>
-inline void few(const T* x, const T* r, int taps, T* y, int n)
+template <class S, int columns, class T> inline void few(const T* x, const T* r, int taps, T* y, int n)
 {
     constexpr int w = S::width;
     if constexpr (columns == 1 && w > 1) {
@@ -158,27 +152,19 @@ inline void few(const T* x, const T* r, int taps, T* y, int n)
 // The shape of a block, measured: sums, taps and samples of a step fill the registers. Rows that lie 64 bytes apart are
 // avoided in real signals, since all their loads would cross cache lines in the same steps.
 constexpr bool manyRegisters = sizeof(void*) == 8;
-template <class T>
-constexpr int groups = 0;
-template <>
-constexpr int groups<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 2) : 1;
-template <>
-constexpr int groups<c64f> = manyRegisters ? 2 : 1;
-template <class T>
-constexpr int columns = 0;
-template <>
-constexpr int columns<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 5) : 6;
-template <>
-constexpr int columns<c64f> = 5;
+template <class T> constexpr int groups = 0;
+template <> constexpr int groups<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 2) : 1;
+template <> constexpr int groups<c64f> = manyRegisters ? 2 : 1;
+template <class T> constexpr int columns = 0;
+template <> constexpr int columns<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 5) : 6;
+template <> constexpr int columns<c64f> = 5;
 
 template <class T>
 constexpr int widest = vectorBytes > static_cast<int>(sizeof(T)) ? vectorBytes / static_cast<int>(sizeof(T)) : 1;
-template <class T>
-constexpr int outputsOfBlock = groups<T>* columns<T>* widest<T>;
+template <class T> constexpr int outputsOfBlock = groups<T>* columns<T>* widest<T>;
 
 // y[i] = sum of r[k] * x[i + k], i = 0..n-1. x holds n + taps - 1 samples and does not overlap y.
-template <class T>
-void direct(const T* x, const T* r, int taps, T* y, int n)
+template <class T> void direct(const T* x, const T* r, int taps, T* y, int n)
 {
     constexpr int w = widest<T>, rows = groups<T>, all = groups<T> * columns<T>;
     using S = Side<T, w>;

@@ -7,8 +7,7 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T>
-void build(const T* taps, const MultiRateLayout& at, int phase, void* block)
+template <class T> void build(const T* taps, const MultiRateLayout& at, int phase, void* block)
 {
     auto* spec = aligned(static_cast<FirSpec*>(block));
     *spec = {};
@@ -32,8 +31,7 @@ void build(const T* taps, const MultiRateLayout& at, int phase, void* block)
 }
 
 // A stream's work: n iterations from contiguous inputs, the history before them.
-template <class T>
-struct Filter {
+template <class T> struct Filter {
     const FirSpec* spec;
     ptrdiff_t history, up, down, period;
     T *saved, *outputs, *line;

@@ -7,8 +7,7 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T>
-void build(const T* taps, int tapsLen, int algType, bool forMultiRate, void* block)
+template <class T> void build(const T* taps, int tapsLen, int algType, bool forMultiRate, void* block)
 {
     const SingleRateLayout at(tapsLen, sizeof(T), isComplex<T>);
     auto* spec = aligned(static_cast<FirSpec*>(block));
@@ -34,8 +33,7 @@ void build(const T* taps, int tapsLen, int algType, bool forMultiRate, void* blo
 }
 
 // `line` starts with the history and has room for a block. In place a block is taken out before it is overwritten.
-template <class T>
-void filterDirectly(const T* src, T* dst, int n, const FirSpec* spec, T* line)
+template <class T> void filterDirectly(const T* src, T* dst, int n, const FirSpec* spec, T* line)
 {
     const int taps = spec->tapsLen, history = taps - 1;
     const T* reversed = part<const T>(spec, spec->taps);
@@ -59,8 +57,7 @@ void filterDirectly(const T* src, T* dst, int n, const FirSpec* spec, T* line)
 
 // Overlap-save: of the circular convolution of N samples, the history before them first, with the taps, all but the
 // first tapsLen - 1 values are outputs. `line` starts with the history.
-template <class T>
-void filterByFft(const T* src, T* dst, ptrdiff_t n, const FirSpec* spec, T* line, u8* work)
+template <class T> void filterByFft(const T* src, T* dst, ptrdiff_t n, const FirSpec* spec, T* line, u8* work)
 {
     const ptrdiff_t history = spec->tapsLen - 1, size = SingleRateLayout(spec->tapsLen, sizeof(T), isComplex<T>).n;
     const ptrdiff_t advance = size - history;
@@ -92,8 +89,7 @@ inline bool byFft(const FirSpec* spec, int n)
     return spec->algType == 2 || (spec->algType == 0 && spec->tapsLen >= fftTaps && n >= fftSamples);
 }
 
-template <class T>
-void filter(const T* src, T* dst, int n, const FirSpec* spec, const T* dlySrc, T* dlyDst, u8* work)
+template <class T> void filter(const T* src, T* dst, int n, const FirSpec* spec, const T* dlySrc, T* dlyDst, u8* work)
 {
     const int history = spec->tapsLen - 1;
     work = aligned(work);
@@ -119,8 +115,7 @@ Status singleRateSize(int tapsLen, int tapsType, int* pSpecSize, int* pBufSize)
     return StsNoErr;
 }
 
-template <class T>
-Status singleRateInit(const T* pTaps, int tapsLen, int algType, void* pSpec)
+template <class T> Status singleRateInit(const T* pTaps, int tapsLen, int algType, void* pSpec)
 {
     if (tapsLen < 1) return StsSizeErr;
     if (!pTaps || !pSpec) return StsNullPtrErr;

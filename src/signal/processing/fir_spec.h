@@ -26,8 +26,7 @@ namespace {
 
 constexpr i64 align64(i64 bytes) { return (bytes + 63) / 64 * 64; }
 
-template <class P>
-P aligned(P p)
+template <class P> P aligned(P p)
 {
     return reinterpret_cast<P>((reinterpret_cast<uintptr_t>(p) + 63) & ~uintptr_t(63));
 }
@@ -35,15 +34,11 @@ P aligned(P p)
 // What stands in the mark of a block: which filter it is for. A block of another kind has something else there.
 enum FirMark : u32 { singleRate64f = 0x46495213, singleRate64fc, multiRate64f, multiRate64fc };
 
-template <class T>
-constexpr bool isComplex = sizeof(T) == sizeof(c64f);
-template <class T>
-constexpr u32 singleRateMark = !isComplex<T> ? singleRate64f : singleRate64fc;
-template <class T>
-constexpr u32 multiRateMark = !isComplex<T> ? multiRate64f : multiRate64fc;
+template <class T> constexpr bool isComplex = sizeof(T) == sizeof(c64f);
+template <class T> constexpr u32 singleRateMark = !isComplex<T> ? singleRate64f : singleRate64fc;
+template <class T> constexpr u32 multiRateMark = !isComplex<T> ? multiRate64f : multiRate64fc;
 
-template <class T, class P>
-T* part(P* spec, u32 offset)
+template <class T, class P> T* part(P* spec, u32 offset)
 {
     return reinterpret_cast<T*>(reinterpret_cast<uintptr_t>(spec) + offset);
 }
