@@ -32,4 +32,16 @@ void freeAligned(void* block)
     if (block) free(static_cast<void**>(block)[-1]);
 }
 
+namespace {
+
+template <class T> T* allocate(int len)
+{
+    if (len < 1) return nullptr;
+    const i64 bytes = i64(len) * static_cast<int>(sizeof(T));
+    return bytes > INT_MAX ? nullptr : static_cast<T*>(allocateAligned(static_cast<int>(bytes)));
+}
+
+} // namespace
+
+#include "entries/frame/memory.inc"
 } // namespace sig5d

@@ -1,4 +1,5 @@
 #include "arguments.h"
+#include "fixtures/fixtures.h"
 #include <cstring>
 #include <map>
 #include <string>
@@ -6,7 +7,7 @@
 namespace registry {
 namespace {
 
-std::map<std::string, Fixture>& fixtures()
+std::map<std::string, Fixture>& known()
 {
     static std::map<std::string, Fixture> all;
     return all;
@@ -21,8 +22,10 @@ void* somewhere()
 const Fixture& fixtureOf(const Function& f)
 {
     static const Fixture none;
-    const auto found = fixtures().find(f.fixture);
-    return found == fixtures().end() ? none : found->second;
+    static const bool added = (fixtures::addAll(), true);
+    (void)added;
+    const auto found = known().find(f.fixture);
+    return found == known().end() ? none : found->second;
 }
 
 void measure(Arguments& a)
@@ -45,8 +48,8 @@ Value chooseScalar(const Arg& arg, const Value* values, Random& random, long lon
     } else if (arg.element != Element::none) {
         v = scalar(random, arg.element, pattern);
     } else {
-        static const int candidates[] = {0, 1, 2, 3, 7, 8, 15, 16, 17, 31, 32, 33, 100, -1, -2, -8, -16, -31, -32,
-                                         -33, 2147483647, -2147483647 - 1};
+        static const int candidates[] = {0,  1,   2,  3,  7,  8,   15,  16,  17,  31,         32,
+                                         33, 100, -1, -2, -8, -16, -31, -32, -33, 2147483647, -2147483647 - 1};
         v.i = candidates[random.below(sizeof candidates / sizeof *candidates)];
     }
     return v;
@@ -74,7 +77,7 @@ bool Arguments::valid() const
     return true;
 }
 
-void addFixture(const char* name, Fixture fixture) { fixtures()[name] = std::move(fixture); }
+void addFixture(const char* name, Fixture fixture) { known()[name] = std::move(fixture); }
 
 bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern)
 {
@@ -114,6 +117,11 @@ Arguments build(const Function& f, Random& random, long long length, Pattern pat
     }
     if (fixtureOf(f).contents) fixtureOf(f).contents(a, random);
     return a;
+}
+
+void release(const Arguments& a)
+{
+    if (fixtureOf(a.f).release) fixtureOf(a.f).release(a);
 }
 
 } // namespace registry

@@ -74,8 +74,9 @@ Status initAlloc(const T* pTaps, int tapsIdx, int tapsLen, H** ppHandle, Sizes s
     const T* taps = element_or_null<sizeof(T)>(pTaps, tapsIdx);
     int specSize = 0, bufSize = 0;
     if (const Status refused = sizes(&specSize, &bufSize)) {
-        const Status status = init(taps, nullptr); // what it finds before it misses the block
-        return status == StsNullPtrErr ? refused : status;
+        // For the status alone: what has no size is refused there as well, before the block is touched.
+        const Status status = init(taps, reinterpret_cast<typename Functions<T>::Spec*>(ppHandle));
+        return status ? status : refused;
     }
     auto* h = static_cast<Handle*>(malloc(sizeof(Handle)));
     if (!h) return StsNoMemErr;

@@ -30,14 +30,21 @@ void firstHistory(const T* given, T* d, ptrdiff_t length)
     }
 }
 
-// The last `length` inputs in chronological order, after n new ones.
+// Forward into an array that overlaps what is copied.
+template <class T>
+void slide(const T* a, T* d, ptrdiff_t n)
+{
+    for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
+}
+
+// The last `length` inputs in chronological order, after n new ones; d may be history.
 template <class T>
 void nextHistory(const T* history, const T* src, ptrdiff_t n, T* d, ptrdiff_t length)
 {
     if (n >= length) {
         copy(src + n - length, d, length);
     } else {
-        copy(history + n, d, length - n);
+        slide(history + n, d, length - n);
         copy(src, d + length - n, n);
     }
 }

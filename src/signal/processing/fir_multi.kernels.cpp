@@ -21,13 +21,11 @@ void build(const T* taps, const MultiRateLayout& at, int phase, void* block)
     spec->groups = static_cast<i32>(at.groups);
     spec->width = static_cast<i32>(at.width);
     spec->rows = static_cast<i32>(at.rows);
-    spec->groupTable = static_cast<u32>(at.groupTable());
-    spec->matrices = static_cast<u32>(at.matrices());
     copy(taps, part<T>(spec, spec->taps), at.tapsLen);
     for (i64 i = 0; i < at.groups; ++i) {
         const i64 last = at.period * at.up - at.width; // where the last group starts
         const i64 output = i * at.width < last ? i * at.width : last;
-        auto* group = part<Group>(spec, static_cast<u32>(at.groupTable() + i * groupBytes));
+        auto* group = part<Group>(spec, static_cast<u32>(polyphaseTable + i * groupBytes));
         auto* rows = part<f64>(spec, static_cast<u32>(at.matrices() + i * at.rows * at.rowBytes()));
         buildGroup(at, taps, phase, output, group, rows);
     }
@@ -88,7 +86,7 @@ struct Filter {
                 const ptrdiff_t m = n - i < block ? n - i : block;
                 copy(data + i * down, line + history, m * down);
                 runLine(data + i * up, m);
-                copy(line + m * down, line, history);
+                slide(line + m * down, line, history);
             }
         } else {
             for (ptrdiff_t i = (n - 1) / block * block; i >= 0; i -= block) {
@@ -129,11 +127,11 @@ Status multiRateSize(int tapsLen, int upFactor, int downFactor, int tapsType, in
     if (tapsLen < 1) return StsFIRLenErr;
     const int e = tapBytes(tapsType);
     if (!e) return StsDataTypeErr;
-    const bool same = upFactor == 1 && downFactor == 1;
+    const bool same = upFactor == 1 && downFactor == 1, complex = isComplexType(tapsType);
     if (upFactor < 1 || downFactor < 1) return StsFIRMRFactorErr;
     if (!pSpecSize || !pBufSize) return StsNullPtrErr;
-    const FirSizes sizes = same ? SingleRateLayout(tapsLen, e).sizes()
-                                : MultiRateLayout(tapsLen, upFactor, downFactor, e, isComplex(tapsType)).sizes();
+    const FirSizes sizes = same ? SingleRateLayout(tapsLen, e, complex).sizes()
+                                : MultiRateLayout(tapsLen, upFactor, downFactor, e, complex).sizes();
     if (!sizes.fit()) return same ? StsSizeErr : StsFIRLenErr;
     sizes.store(pSpecSize, pBufSize);
     return StsNoErr;
@@ -148,11 +146,11 @@ Status multiRateInit(const T* pTaps, int tapsLen, int upFactor, int upPhase, int
     if (upPhase < 0 || upPhase >= upFactor || downPhase < 0 || downPhase >= downFactor) return StsFIRMRPhaseErr;
     if (!pTaps || !pSpec) return StsNullPtrErr;
     if (upFactor == 1 && downFactor == 1) {
-        if (!SingleRateLayout(tapsLen, sizeof(T)).sizes().fit()) return StsSizeErr;
+        if (!SingleRateLayout(tapsLen, sizeof(T), isComplex<T>).sizes().fit()) return StsSizeErr;
         buildSingleRate(pTaps, tapsLen, 0, true, pSpec);
         return StsNoErr;
     }
-    const MultiRateLayout at(tapsLen, upFactor, downFactor, sizeof(T), sizeof(T) == sizeof(c64f));
+    const MultiRateLayout at(tapsLen, upFactor, downFactor, sizeof(T), isComplex<T>);
     if (!at.sizes().fit()) return StsFIRLenErr;
     build(pTaps, at, downPhase - upPhase, pSpec);
     return StsNoErr;

@@ -19,7 +19,6 @@ struct Group {
     i32 first, output; // the first output, counted from the first of the period
     i32 rows;
 };
-constexpr int groupBytes = 64;
 static_assert(sizeof(Group) <= groupBytes);
 
 inline i64 floorDivide(i64 a, i64 b) { return (a - (a % b < 0 ? b : 0)) / b; }
@@ -156,8 +155,8 @@ void computePeriods(const FirSpec* spec, const T* x, T* y, ptrdiff_t periods)
     const ptrdiff_t outputs = ptrdiff_t(spec->period) * spec->upFactor;
     const ptrdiff_t matrix = ptrdiff_t(spec->rows) * Sums<T, doubles, 1>::rowDoubles;
     for (; periods >= count; periods -= count, x += count * inputs, y += count * outputs) {
-        const u8* table = part<const u8>(spec, spec->groupTable);
-        const f64* rows = part<const f64>(spec, spec->matrices);
+        const u8* table = part<const u8>(spec, polyphaseTable);
+        const f64* rows = reinterpret_cast<const f64*>(table + ptrdiff_t(spec->groups) * groupBytes);
         for (int i = 0; i < spec->groups; ++i, table += groupBytes, rows += matrix) {
             const Group& g = *reinterpret_cast<const Group*>(table);
             computeGroup<T, doubles, count>(g, rows, x + g.first, inputs, y + g.output, outputs);

@@ -2,6 +2,7 @@
 // the Init functions use the same layout; all sizes are computed in 64 bits and refused when they are no int.
 #pragma once
 #include "frame/types.h"
+#include "signal/processing/fft.h"
 
 namespace sig5d::SIG5D_VARIANT {
 
@@ -11,13 +12,13 @@ struct FirSpec {
     i32 tapsLen;
     u32 taps; // single rate: the taps in reversed order; multi-rate: a copy in the given order
     u32 mark;
-    i32 algType;             // 0 automatic, 1 direct, 2 by FFT
-    i32 singleRate;          // 1: made for the multi-rate filter with both factors 1
-    u32 transform, spectrum; // unless algType is 1
+    i32 algType;         // 0 automatic, 1 direct, 2 by FFT
+    i32 singleRate;      // 1: made for the multi-rate filter with both factors 1
+    u32 plan, spectrum;  // unless algType is 1
+    u32 fftWork, values; // in the work buffer
     // multi-rate
     i32 upFactor, downFactor;
     i32 period, groups, width, rows;
-    u32 groupTable, matrices;
 };
 static_assert(sizeof(FirSpec) <= 64);
 
@@ -35,9 +36,11 @@ P aligned(P p)
 enum FirMark : u32 { singleRate64f = 0x46495213, singleRate64fc, multiRate64f, multiRate64fc };
 
 template <class T>
-constexpr u32 singleRateMark = sizeof(T) == 8 ? singleRate64f : singleRate64fc;
+constexpr bool isComplex = sizeof(T) == sizeof(c64f);
 template <class T>
-constexpr u32 multiRateMark = sizeof(T) == 8 ? multiRate64f : multiRate64fc;
+constexpr u32 singleRateMark = !isComplex<T> ? singleRate64f : singleRate64fc;
+template <class T>
+constexpr u32 multiRateMark = !isComplex<T> ? multiRate64f : multiRate64fc;
 
 template <class T, class P>
 T* part(P* spec, u32 offset)
@@ -51,7 +54,7 @@ constexpr int tapBytes(int tapsType)
     return tapsType == 13 ? 4 : tapsType == 14 || tapsType == 19 ? 8 : tapsType == 20 ? 16 : 0;
 }
 
-constexpr bool isComplex(int tapsType) { return tapsType == 14 || tapsType == 20; }
+constexpr bool isComplexType(int tapsType) { return tapsType == 14 || tapsType == 20; }
 
 constexpr i64 maxInt = 0x7fffffff;
 
@@ -70,27 +73,41 @@ struct FirSizes {
 constexpr int blockBytes = 32768;
 
 // A single-rate filter: the taps, and for the method by FFT a transform of N values (twice the smallest power of two
-// above the number of taps) and the spectrum of the taps.
+// above the number of taps) with the spectrum of the taps.
 struct SingleRateLayout {
     i64 tapsLen, e; // e: bytes of an element
-    int fftOrder;
+    FftKind kind;
+    int order;
     i64 n;
 
-    SingleRateLayout(int taps, int elementBytes)
-        : tapsLen(taps), e(elementBytes), fftOrder(32 - __builtin_clz(static_cast<u32>(taps)) + 1),
-          n(i64(1) << fftOrder)
+    SingleRateLayout(int taps, int elementBytes, bool complex)
+        : tapsLen(taps), e(elementBytes), kind(complex ? FftKind::complex : FftKind::real),
+          order(32 - __builtin_clz(static_cast<u32>(taps)) + 1), n(i64(1) << order)
     {
     }
-    // In the block, from the head.
-    i64 taps() const { return 64; }
-    i64 transform() const { return taps() + align64(tapsLen * e); }
-    i64 spectrum() const { return transform() + 0; }
-    // In the work buffer, from its first multiple of 64.
-    i64 transformBlock() const { return align64(2 * tapsLen * e) + blockBytes + align64(2 * (tapsLen - 1) * e); }
-    i64 transformWork() const { return transformBlock() + n * e; }
+    // Orders without a transform belong to sizes that are no int in any case.
+    i64 planBytes() const { return order > fftMaxOrder ? maxInt : fftPlanBytes(kind, FftSpectrum::unordered, order); }
+    // With 64 bytes for the start of the work buffer.
+    i64 fftBytes() const { return order > fftMaxOrder ? maxInt : fftWorkBytes(kind, order) + 64; }
 
-    FirSizes sizes() const { return {align64(tapsLen * e) + 127 + n * e, transformWork() + 63}; }
+    // In the block, from the head. The work area serves to transform the taps.
+    i64 taps() const { return 64; }
+    i64 plan() const { return taps() + align64(tapsLen * e); }
+    i64 planWork() const { return plan() + planBytes(); }
+    i64 spectrum() const { return planWork() + fftBytes(); }
+
+    // In the work buffer, from its first multiple of 64: the history and a block of an in-place call, the work area of
+    // the transform, the values of a transform.
+    i64 fftWork() const { return align64(2 * tapsLen * e) + blockBytes + align64(2 * (tapsLen - 1) * e); }
+    i64 values() const { return fftWork() + fftBytes() - 64; }
+
+    FirSizes sizes() const
+    {
+        return {align64(tapsLen * e) + 127 + n * e + planBytes() + fftBytes(), fftWork() + fftBytes() + n * e};
+    }
 };
+
+constexpr int polyphaseTable = 64, groupBytes = 64; // where the descriptions of the groups start, what each takes
 
 // A multi-rate filter. Output j is the sum of taps[q - i*up] * x[i] over all inputs i, q = j*down + downPhase -
 // upPhase.
@@ -122,10 +139,9 @@ struct MultiRateLayout {
     i64 rowBytes() const { return width * (complex ? 32 : 8); }
 
     // In the block, from the head.
-    i64 groupTable() const { return 64; }
-    i64 matrices() const { return groupTable() + groups * 64; }
-    i64 stateBytes() const { return groups * (64 + rows * rowBytes()); }
-    i64 taps() const { return groupTable() + align64(stateBytes()); }
+    i64 stateBytes() const { return groups * (groupBytes + rows * rowBytes()); }
+    i64 matrices() const { return polyphaseTable + groups * groupBytes; }
+    i64 taps() const { return polyphaseTable + align64(stateBytes()); }
 
     // In the work buffer, from its first multiple of 64: a copy of the history, the outputs of a period, then a line
     // with the history and the inputs of a block.
