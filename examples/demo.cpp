@@ -148,9 +148,11 @@ public:
             while (done > 0) fs::remove(folder_ / names_[--done]);
             throw;
         }
-        std::printf("Files      ");
-        for (const fs::path& name : names_) std::printf(" %s", shown(folder_ / name).c_str());
-        std::printf("\n");
+        const char* heading = "Files";
+        for (const fs::path& name : names_) {
+            std::printf("%-12s%s\n", heading, shown(folder_ / name).c_str());
+            heading = "";
+        }
         names_.clear();
     }
 
