@@ -33,8 +33,7 @@ inline void putTap(c64f h, f64* row, int width)
     row[2 * width + 1] = h.re;
 }
 
-template <class T>
-void buildGroup(const MultiRateLayout& at, const T* taps, i64 phase, i64 output, Group* g, f64* rows)
+template <class T> void buildGroup(const MultiRateLayout& at, const T* taps, i64 phase, i64 output, Group* g, f64* rows)
 {
     constexpr int parts = sizeof(T) / sizeof(f64);
     const int width = static_cast<int>(at.width), rowDoubles = static_cast<int>(at.rowBytes()) / 8;
@@ -55,7 +54,7 @@ void buildGroup(const MultiRateLayout& at, const T* taps, i64 phase, i64 output,
 
 // Output l of a group, from the inputs of its window alone.
 template <class T, int doubles>
-void recompute(const Group& g, const f64* rows, const T* x, T* y, int l)
+[[gnu::noinline, gnu::cold]] void recompute(const Group& g, const f64* rows, const T* x, T* y, int l)
 {
     constexpr int parts = sizeof(T) / sizeof(f64);
     f64* sum = reinterpret_cast<f64*>(y + l);
@@ -74,8 +73,7 @@ void recompute(const Group& g, const f64* rows, const T* x, T* y, int l)
 }
 
 // Sums of one group in `count` periods at once: `doubles` numbers in vectors of v.
-template <class T, int doubles, int count>
-struct Sums {
+template <class T, int doubles, int count> struct Sums {
     static constexpr int v = doubles < lanes<f64> ? doubles : lanes<f64>, vectors = doubles / v;
     static constexpr int rowDoubles = doubles * static_cast<int>(sizeof(T) / sizeof(f64));
     using V = Vec<f64, v>;
@@ -146,10 +144,9 @@ void computeGroup(const Group& g, const f64* rows, const T* x, ptrdiff_t inputs,
 
 // Periods that are computed together: as many as registers hold the sums of, so that a row is loaded once for all.
 template <class T, int doubles>
-constexpr int together = (sizeof(void*) == 8 ? 8 : 4) / (doubles > lanes<f64> ? doubles / lanes<f64> : 1);
+constexpr int together = (sizeof(void*) == 8 ? 8 : 6) / (doubles > lanes<f64> ? doubles / lanes<f64> : 1);
 
-template <class T, int doubles, int count>
-void computePeriods(const FirSpec* spec, const T* x, T* y, ptrdiff_t periods)
+template <class T, int doubles, int count> void computePeriods(const FirSpec* spec, const T* x, T* y, ptrdiff_t periods)
 {
     const ptrdiff_t inputs = ptrdiff_t(spec->period) * spec->downFactor;
     const ptrdiff_t outputs = ptrdiff_t(spec->period) * spec->upFactor;
@@ -163,13 +160,12 @@ void computePeriods(const FirSpec* spec, const T* x, T* y, ptrdiff_t periods)
         }
     }
     if constexpr (count > 1) {
-        if (periods > 0) computePeriods<T, doubles, count / 2>(spec, x, y, periods);
+        if (periods > 0) computePeriods<T, doubles, count - 1>(spec, x, y, periods); // the rest at once
     }
 }
 
 // Whole periods: x stands at their first input and has the history before it.
-template <class T>
-void computePeriods(const FirSpec* spec, const T* x, T* y, ptrdiff_t periods)
+template <class T> void computePeriods(const FirSpec* spec, const T* x, T* y, ptrdiff_t periods)
 {
     constexpr int parts = sizeof(T) / sizeof(f64);
     if (spec->width > 1) {
