@@ -221,8 +221,7 @@ void demonstrate(const fs::path& input, const fs::path& folder)
     outputs.add("bandpass.wav", [&](const fs::path& file) { writeWav(file, filtered.wav); });
     outputs.add("resampled.wav", [&](const fs::path& file) { writeWav(file, resampled.wav); });
     outputs.add("spectrum.svg", [&](const fs::path& file) {
-        writeSvg(file, {"Spectrum of " + name + " before and after the band-pass", about, before, after, bandTaps, rate,
-                        band.low, band.high});
+        writeSvg(file, {name, about, before, after, bandTaps, rate, band.low, band.high});
     });
     outputs.commit();
 }

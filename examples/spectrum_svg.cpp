@@ -37,6 +37,16 @@ std::string escaped(const std::string& text)
     return out;
 }
 
+// The heading has room for some forty characters of a name; a longer one (in UTF-8) loses its middle.
+std::string elided(const std::string& name)
+{
+    std::vector<std::size_t> characters;
+    for (std::size_t i = 0; i < name.size(); ++i)
+        if ((name[i] & 0xC0) != 0x80) characters.push_back(i);
+    if (characters.size() <= 36) return name;
+    return name.substr(0, characters[20]) + "\u2026" + name.substr(characters[characters.size() - 15]);
+}
+
 std::string textAt(double x, double y, const char* kind, const std::string& text)
 {
     return format("<text x='%.1f' y='%.1f' class='%s'>", x, y, kind) + escaped(text) + "</text>\n";
@@ -139,10 +149,13 @@ void writeSvg(const std::filesystem::path& file, const SpectrumPicture& p)
     std::string svg = format("<svg xmlns='http://www.w3.org/2000/svg' width='%.0f' height='%.0f' viewBox='0 0 %.0f "
                              "%.0f' role='img'>\n",
                              width, height, width, height);
-    svg += "<title>" + escaped(p.title) + "</title>\n";
+    const auto title = [](const std::string& name) {
+        return "Spectrum of " + name + " before and after the band-pass";
+    };
+    svg += "<title>" + escaped(title(p.recording)) + "</title>\n";
     svg += style;
     svg += format("<rect width='%.0f' height='%.0f' fill='#fff'/>\n", width, height);
-    svg += textAt(left, 34, "title", p.title) + textAt(left, 58, "note", p.subtitle);
+    svg += textAt(left, 34, "title", title(elided(p.recording))) + textAt(left, 58, "note", p.subtitle);
     const double x1 = axes.x(p.passLow), x2 = axes.x(p.passHigh);
     svg +=
         format("<rect x='%.1f' y='%.1f' width='%.1f' height='%.1f' fill='#fbf3e6'/>\n", x1, top, x2 - x1, bottom - top);

@@ -6,7 +6,7 @@
 #include <vector>
 
 struct SpectrumPicture {
-    std::string title, subtitle; // UTF-8
+    std::string recording, subtitle; // its name and a note, UTF-8
     const Spectrum& before;
     const Spectrum& after;
     const std::vector<double>& taps; // at the recording's sample rate

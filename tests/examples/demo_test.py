@@ -126,7 +126,7 @@ class GoodFiles(Case):
         frames = pcm([x for pair in zip(left, right) for x in pair])
         extensible = fmt(EXTENSIBLE, 2, 44100, extra=struct.pack("<HHI", 22, 16, 3) + PCM_GUID)
         data = riff(chunk(b"LIST", b"odd"), extensible, chunk(b"fact", b"x" * 5), chunk(b"data", frames), b"trail")
-        name = "Gr\u00fc\u00dfe & \u00d6l.wav"
+        name = "Gr\u00fc\u00dfe & \u00d6l, " + 20 * "\u00e4\u20ac" + ".wav"
         stdout, (header, band), (new_header, slow) = self.results(data + b"after the end", name)
         self.assertEqual(header, (2, 2, 44100, 9001))
         self.assertEqual(new_header, (2, 2, 29400, 6001))
@@ -138,7 +138,10 @@ class GoodFiles(Case):
         self.assertGone(band[0], 44100, 8000, 0.2)
         self.assertTone(slow[0], 29400, 8000, 0.2)
         self.assertIn(name, stdout)
-        self.assertIn(name, xml.parse(self.path("out", "spectrum.svg")).getroot()[0].text)
+        svg = xml.parse(self.path("out", "spectrum.svg")).getroot()
+        self.assertIn(name, svg[0].text)
+        heading = next(t.text for t in svg.iter("{http://www.w3.org/2000/svg}text"))
+        self.assertRegex(heading, f"^Spectrum of {name[:20]}\u2026{re.escape(name[-15:])} before and after")  # has room
 
     def test_rounds_and_clips(self):
         """A square wave at full scale overshoots once its upper harmonics are gone."""
