@@ -127,7 +127,7 @@ std::string Stage::changed(const registry::Arguments& a) const
 {
     for (size_t i = 0; i < spots_.size(); ++i) {
         const Spot& s = spots_[i];
-        if (s.own && std::memcmp(s.own, a.content[i].data(), a.content[i].size())) return a.f.args[i].name;
+        if (s.own && !a.content[i].empty() && std::memcmp(s.own, a.content[i].data(), a.content[i].size())) return a.f.args[i].name;
     }
     return strayWrite(a);
 }
