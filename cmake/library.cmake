@@ -15,7 +15,7 @@ if(SIG5D_SANITIZE)
 endif()
 
 set(frame_sources "")
-foreach(source ${SIG5D_PLAIN_SOURCES} frame/cpuid.cpp ${SIG5D_INTERNAL_SOURCES})
+foreach(source ${SIG5D_PLAIN_SOURCES} frame/cpuid.cpp frame/cache.cpp ${SIG5D_INTERNAL_SOURCES})
     list(APPEND frame_sources ${CMAKE_SOURCE_DIR}/src/${source})
 endforeach()
 list(REMOVE_DUPLICATES frame_sources)

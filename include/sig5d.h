@@ -297,11 +297,13 @@ typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
-/* pDst[i] = pSrc[i]. Copies bits, front to back. Arrays that overlap otherwise than exactly are for ippsMove. */
+/* pDst[i] = pSrc[i]. Copies element by element, front to back. */
 IppStatus SIG5D_STDCALL ippsCopy_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_16sc(const Ipp16sc* pSrc, Ipp16sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_16sc_Idx(const Ipp16sc* pSrc, int srcIdx, Ipp16sc* pDst, int dstIdx, int len);
+IppStatus SIG5D_CDECL ippsCopy_1u_Idx(const Ipp8u* pSrc, int srcIdx, int srcBitOffset, Ipp8u* pDst, int dstIdx, int
+        dstBitOffset, int len);
 IppStatus SIG5D_STDCALL ippsCopy_32f(const Ipp32f* pSrc, Ipp32f* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_32f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_32fc(const Ipp32fc* pSrc, Ipp32fc* pDst, int len);
@@ -345,7 +347,7 @@ IppStatus SIG5D_CDECL ippsMove_64sc_Idx(const Ipp64sc* pSrc, int srcIdx, Ipp64sc
 IppStatus SIG5D_STDCALL ippsMove_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 
-/* pDst[i] = val. */
+/* pDst[i] = val. Every bit of val arrives, also of a NaN. */
 IppStatus SIG5D_STDCALL ippsSet_16s(Ipp16s val, Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_16s_Idx(Ipp16s val, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSet_32s(Ipp32s val, Ipp32s* pDst, int len);
@@ -359,7 +361,7 @@ IppStatus SIG5D_CDECL ippsSet_64fc_Idx(Ipp64fc val, Ipp64fc* pDst, int dstIdx, i
 IppStatus SIG5D_STDCALL ippsSet_8u(Ipp8u val, Ipp8u* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_8u_Idx(Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
 
-/* pDst[i] = 0. */
+/* pDst[i] = 0. All bits are cleared: +0 in floating-point elements. */
 IppStatus SIG5D_STDCALL ippsZero_16s(Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsZero_16s_Idx(Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsZero_32s(Ipp32s* pDst, int len);
@@ -373,8 +375,7 @@ IppStatus SIG5D_CDECL ippsZero_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsZero_8u(Ipp8u* pDst, int len);
 IppStatus SIG5D_CDECL ippsZero_8u_Idx(Ipp8u* pDst, int dstIdx, int len);
 
-/* pDst[i] = pSrc[len-1-i]. Reverses the order of the elements. Arrays that overlap otherwise than exactly are not
-   supported. */
+/* pDst[i] = pSrc[len-1-i]. Reverses the order of the elements. */
 IppStatus SIG5D_STDCALL ippsFlip_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
 IppStatus SIG5D_STDCALL ippsFlip_16u_I(Ipp16u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsFlip_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
@@ -395,6 +396,173 @@ IppStatus SIG5D_STDCALL ippsFlip_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
 IppStatus SIG5D_STDCALL ippsFlip_8u_I(Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsFlip_8u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsFlip_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+
+/* bit(pDst, dstBitOffset + i) = bit(pSrc, srcBitOffset + i). Copies len bits. Bit 0 of a byte is the most
+   significant (mask 0x80), bit 7 the least significant. */
+IppStatus SIG5D_STDCALL ippsCopyLE_1u(const Ipp8u* pSrc, int srcBitOffset, Ipp8u* pDst, int dstBitOffset, int len);
+IppStatus SIG5D_CDECL ippsCopyLE_1u_Idx(const Ipp8u* pSrc, int srcIdx, int srcBitOffset, Ipp8u* pDst, int dstIdx, int
+        dstBitOffset, int len);
+
+/* bit(pDst, dstBitOffset + i) = bit(pSrc, srcBitOffset + i). Copies len bits. Bit 0 of a byte is the least
+   significant (mask 0x01), bit 7 the most significant. */
+IppStatus SIG5D_STDCALL ippsCopyBE_1u(const Ipp8u* pSrc, int srcBitOffset, Ipp8u* pDst, int dstBitOffset, int len);
+IppStatus SIG5D_CDECL ippsCopyBE_1u_Idx(const Ipp8u* pSrc, int srcIdx, int srcBitOffset, Ipp8u* pDst, int dstIdx, int
+        dstBitOffset, int len);
+
+/* ---- Logic, shifts and byte order ---- */
+
+/* pDst[i] = pSrc1[i] & pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsAnd_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAnd_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAnd_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAnd_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAnd_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAnd_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAnd_8u(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAnd_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAnd_8u_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u* pDst,
+        int dstIdx, int len);
+
+/* pDst[i] = pSrc1[i] | pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsOr_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsOr_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOr_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsOr_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u* pDst,
+        int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOr_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsOr_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOr_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsOr_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u* pDst,
+        int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOr_8u(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsOr_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOr_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsOr_8u_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u* pDst, int
+        dstIdx, int len);
+
+/* pDst[i] = pSrc1[i] ^ pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsXor_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsXor_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXor_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsXor_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXor_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsXor_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXor_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsXor_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXor_8u(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsXor_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXor_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsXor_8u_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u* pDst,
+        int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] & val. */
+IppStatus SIG5D_STDCALL ippsAndC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAndC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAndC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAndC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAndC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAndC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAndC_8u(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAndC_8u_I(Ipp8u val, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_8u_I_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAndC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] | val. */
+IppStatus SIG5D_STDCALL ippsOrC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsOrC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsOrC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOrC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsOrC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsOrC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOrC_8u(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsOrC_8u_I(Ipp8u val, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_8u_I_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsOrC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] ^ val. */
+IppStatus SIG5D_STDCALL ippsXorC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsXorC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsXorC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXorC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsXorC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsXorC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXorC_8u(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsXorC_8u_I(Ipp8u val, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_8u_I_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsXorC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
+
+/* pDst[i] = ~pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsNot_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsNot_16u_I(Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsNot_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsNot_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsNot_32u(const Ipp32u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsNot_32u_I(Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsNot_32u_I_Idx(Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsNot_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsNot_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsNot_8u_I(Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsNot_8u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsNot_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] << val. Bits that leave the element are lost; nothing saturates. */
+IppStatus SIG5D_STDCALL ippsLShiftC_16s(const Ipp16s* pSrc, int val, Ipp16s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_16s_I(int val, Ipp16s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_16s_I_Idx(int val, Ipp16s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_16s_Idx(const Ipp16s* pSrc, int srcIdx, int val, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_32s(const Ipp32s* pSrc, int val, Ipp32s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_32s_I(int val, Ipp32s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_32s_I_Idx(int val, Ipp32s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_32s_Idx(const Ipp32s* pSrc, int srcIdx, int val, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_8u(const Ipp8u* pSrc, int val, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_8u_I(int val, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_8u_I_Idx(int val, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_8u_Idx(const Ipp8u* pSrc, int srcIdx, int val, Ipp8u* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] >> val. 16s and 32s shift arithmetically (floor of the division by 2^val), 8u logically. */
+IppStatus SIG5D_STDCALL ippsRShiftC_16s(const Ipp16s* pSrc, int val, Ipp16s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_16s_I(int val, Ipp16s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_16s_I_Idx(int val, Ipp16s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_16s_Idx(const Ipp16s* pSrc, int srcIdx, int val, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_32s(const Ipp32s* pSrc, int val, Ipp32s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_32s_I(int val, Ipp32s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_32s_I_Idx(int val, Ipp32s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_32s_Idx(const Ipp32s* pSrc, int srcIdx, int val, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_8u(const Ipp8u* pSrc, int val, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_8u_I(int val, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_8u_I_Idx(int val, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_8u_Idx(const Ipp8u* pSrc, int srcIdx, int val, Ipp8u* pDst, int dstIdx, int len);
+
+/* byte k of pDst[i] = byte (size-1-k) of pSrc[i]. Reverses the order of the 2, 3, 4 or 8 bytes of each element. */
+IppStatus SIG5D_STDCALL ippsSwapBytes_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSwapBytes_16u_I(Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSwapBytes_24u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSwapBytes_24u_I(Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_24u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_24u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSwapBytes_32u(const Ipp32u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSwapBytes_32u_I(Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_32u_I_Idx(Ipp32u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSwapBytes_64u(const Ipp64u* pSrc, Ipp64u* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSwapBytes_64u_I(Ipp64u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_64u_I_Idx(Ipp64u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp64u* pDst, int dstIdx, int len);
 
 /* ---- Status texts, processor variants, version ---- */
 

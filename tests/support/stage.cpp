@@ -103,6 +103,10 @@ registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int 
         std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
         context += piece;
     }
+    if (a.f.index == registry::IndexForm::only) {
+        const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
+        return registry::invokeIndexed(entry, a.f, a.values.data(), zeros.data(), stackPhase);
+    }
     return registry::invoke(entry, a.f, a.values.data(), stackPhase);
 }
 
@@ -141,20 +145,5 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
 }
 
 bool generallyCallable(const registry::Function& f) { return std::strcmp(f.fixture, "none") != 0; }
-
-std::string nameOf(const registry::Function& f)
-{
-    return std::string(f.name) + (f.index == registry::IndexForm::written ? "_Idx" : "");
-}
-
-registry::Entry entryOf(const registry::Function& f) { return find(nameOf(f).c_str()); }
-
-std::vector<Variant> bodiesOf(const registry::Function& f)
-{
-    std::vector<Variant> found;
-    for (const Variant& v : supported())
-        if (std::strstr(f.bodies, v.code)) found.push_back(v);
-    return found;
-}
 
 } // namespace support
