@@ -1,10 +1,6 @@
 // 32 elements and the word of their bits: bit i of the word is a[i] != 0.
 #pragma once
-#include "kernel/vec.h"
-#include <stddef.h>
-#if SIG5D_LEVEL > 0
-#include <immintrin.h>
-#endif
+#include "kernel/loops.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -28,88 +24,101 @@ template <class T> inline void unpack_word(u32 word, T* d) { unpack_word(word, d
 
 #else
 
-// Packing. A register of bytes, one for each element: -1 where the element is zero. Wider elements are compared and
-// narrowed with saturation, which keeps 0 and -1.
-#if SIG5D_LEVEL >= 5
-using Flags = __m256i;
-template <class T> inline Flags zero_lanes(const T* a, int k)
+// Lanes that are zero become -1. Wider ones are narrowed to bytes with saturation, which keeps 0 and -1, so that a word
+// is the complement of the bytes' signs.
+template <class T> inline auto zero_lanes(const T* a, int k)
 {
-    return reinterpret_cast<Flags>(load(a + k * lanes<T>) == 0);
+    return reinterpret_cast<Vec<long long>>(load(a + k * lanes<T>) == 0);
 }
-inline Flags zero_flags(const u8* a) { return zero_lanes(a, 0); }
-inline Flags zero_flags(const i16* a)
+
+#if SIG5D_LEVEL >= 5
+
+inline __m256i zero_bytes(const u8* a) { return zero_lanes(a, 0); }
+inline __m256i zero_bytes(const i16* a)
 {
-    const Flags x = _mm256_packs_epi16(zero_lanes(a, 0), zero_lanes(a, 1));
+    const __m256i x = _mm256_packs_epi16(zero_lanes(a, 0), zero_lanes(a, 1));
     return _mm256_permute4x64_epi64(x, 0xD8); // packing works in 16-byte halves
 }
-inline Flags zero_flags(const i32* a)
+inline __m256i zero_bytes(const i32* a)
 {
-    const Flags x = _mm256_packs_epi32(zero_lanes(a, 0), zero_lanes(a, 1));
-    const Flags y = _mm256_packs_epi32(zero_lanes(a, 2), zero_lanes(a, 3));
-    const Flags order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
+    const __m256i x = _mm256_packs_epi32(zero_lanes(a, 0), zero_lanes(a, 1));
+    const __m256i y = _mm256_packs_epi32(zero_lanes(a, 2), zero_lanes(a, 3));
+    const __m256i order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
     return _mm256_permutevar8x32_epi32(_mm256_packs_epi16(x, y), order);
 }
-template <class T> inline u32 pack_word(const T* a) { return ~static_cast<u32>(_mm256_movemask_epi8(zero_flags(a))); }
-#else
-using Flags = __m128i;
-template <class T> inline Flags zero_lanes(const T* a, int k)
+template <class T> inline u32 pack_word(const T* a) { return ~static_cast<u32>(_mm256_movemask_epi8(zero_bytes(a))); }
+
+// Each byte of the word in eight lanes, of which each keeps a bit of its own.
+inline void unpack_word(u32 word, u8* d)
 {
-    return reinterpret_cast<Flags>(load(a + k * lanes<T>) == 0);
+    const __m256i byte = _mm256_setr_epi64x(0, 0x0101010101010101, 0x0202020202020202, 0x0303030303030303);
+    const __m256i bit = _mm256_set1_epi64x(static_cast<long long>(0x8040201008040201));
+    const __m256i x = _mm256_and_si256(_mm256_shuffle_epi8(_mm256_set1_epi32(static_cast<int>(word)), byte), bit);
+    put(d, _mm256_min_epu8(x, _mm256_set1_epi8(1)));
 }
-inline Flags zero_flags(const u8* a) { return zero_lanes(a, 0); }
-inline Flags zero_flags(const i16* a) { return _mm_packs_epi16(zero_lanes(a, 0), zero_lanes(a, 1)); }
-inline Flags zero_flags(const i32* a)
+inline void unpack_word(u32 word, i16* d)
 {
-    const Flags x = _mm_packs_epi32(zero_lanes(a, 0), zero_lanes(a, 1));
-    const Flags y = _mm_packs_epi32(zero_lanes(a, 2), zero_lanes(a, 3));
-    return _mm_packs_epi16(x, y);
+    const __m128i bit = _mm_setr_epi16(1, 2, 4, 8, 16, 32, 64, 128);
+    for (int k = 0; k < 2; ++k) {
+        const __m256i byte = _mm256_setr_m128i(_mm_set1_epi16(static_cast<short>(0x8000 + 2 * k)),
+                                               _mm_set1_epi16(static_cast<short>(0x8001 + 2 * k)));
+        const __m256i x = _mm256_shuffle_epi8(_mm256_set1_epi32(static_cast<int>(word)), byte);
+        put(d + 16 * k, _mm256_min_epi16(_mm256_and_si256(x, _mm256_setr_m128i(bit, bit)), _mm256_set1_epi16(1)));
+    }
+}
+inline void unpack_word(u32 word, i32* d)
+{
+    const Vec<u32> lane = {0, 1, 2, 3, 4, 5, 6, 7};
+    for (u32 k = 0; k < 4; ++k) put(d + 8 * k, splat(word) >> (lane + 8 * k) & 1);
+}
+
+#else
+
+inline __m128i zero_bytes(const u8* a) { return zero_lanes(a, 0); }
+inline __m128i zero_bytes(const i16* a) { return _mm_packs_epi16(zero_lanes(a, 0), zero_lanes(a, 1)); }
+inline __m128i zero_bytes(const i32* a)
+{
+    return _mm_packs_epi16(_mm_packs_epi32(zero_lanes(a, 0), zero_lanes(a, 1)),
+                           _mm_packs_epi32(zero_lanes(a, 2), zero_lanes(a, 3)));
 }
 template <class T> inline u32 pack_word(const T* a)
 {
-    const int low = _mm_movemask_epi8(zero_flags(a)), high = _mm_movemask_epi8(zero_flags(a + 16));
+    const int low = _mm_movemask_epi8(zero_bytes(a)), high = _mm_movemask_epi8(zero_bytes(a + 16));
     return ~(static_cast<u32>(high) << 16 | static_cast<u32>(low));
 }
-#endif
 
-// Unpacking. Every lane gets the word, or the part of it that fits, with its bit in it; the k-th register of the word.
-template <class U> inline Vec<U> lane_bits(int k)
+inline void unpack_word(u32 word, u8* d)
 {
-    constexpr int bits = 8 * sizeof(U);
-    Vec<U> v;
-    for (int i = 0; i < lanes<U>; ++i) v[i] = static_cast<U>(U(1) << (k * lanes<U> + i) % bits);
-    return v;
+    const __m128i bit = _mm_set1_epi64x(static_cast<long long>(0x8040201008040201)), one = _mm_set1_epi8(1);
+    __m128i x = _mm_cvtsi32_si128(static_cast<int>(word));
+    x = _mm_unpacklo_epi8(x, x);
+    x = _mm_unpacklo_epi16(x, x); // each byte four times
+    put(d, _mm_min_epu8(_mm_and_si128(_mm_shuffle_epi32(x, 0x50), bit), one));
+    put(d + 16, _mm_min_epu8(_mm_and_si128(_mm_shuffle_epi32(x, 0xFA), bit), one));
 }
-inline Vec<u32> spread(u32 word, int, u32) { return splat(word); }
-inline Vec<u16> spread(u32 word, int k, u16) { return splat(static_cast<u16>(word >> k * lanes<u16> / 16 * 16)); }
-#if SIG5D_LEVEL >= 5
-inline Vec<u8> spread(u32 word, int, u8)
+inline void unpack_word(u32 word, i16* d)
 {
-    const __m256i bytes = _mm256_setr_epi64x(0, 0x0101010101010101, 0x0202020202020202, 0x0303030303030303);
-    return reinterpret_cast<Vec<u8>>(_mm256_shuffle_epi8(_mm256_set1_epi32(static_cast<int>(word)), bytes));
+    const __m128i all = _mm_cvtsi32_si128(static_cast<int>(word)), twice = _mm_unpacklo_epi16(all, all);
+    const auto half = [&](i16* to, __m128i x) { // shifts to the sign the bit of each lane, then to the lowest
+        const __m128i low = _mm_setr_epi16(-32768, 16384, 8192, 4096, 2048, 1024, 512, 256);
+        const __m128i high = _mm_setr_epi16(128, 64, 32, 16, 8, 4, 2, 1);
+        put(to, _mm_srli_epi16(_mm_mullo_epi16(x, low), 15));
+        put(to + 8, _mm_srli_epi16(_mm_mullo_epi16(x, high), 15));
+    };
+    half(d, _mm_shuffle_epi32(twice, 0x00));
+    half(d + 16, _mm_shuffle_epi32(twice, 0x55));
 }
-#else
-inline Vec<u8> spread(u32 word, int k, u8)
+inline void unpack_word(u32 word, i32* d)
 {
-    __m128i v = _mm_cvtsi32_si128(static_cast<int>(word));
-    v = _mm_unpacklo_epi8(v, v);
-    v = _mm_unpacklo_epi16(v, v); // each byte four times
-    return reinterpret_cast<Vec<u8>>(k == 0 ? _mm_shuffle_epi32(v, 0x50) : _mm_shuffle_epi32(v, 0xFA));
-}
-#endif
-
-template <class U> inline void unpack_lanes(u32 word, U* d)
-{
-#pragma GCC unroll 8
-    for (int k = 0; k < 32 / lanes<U>; ++k) {
-        const Vec<U> bits = lane_bits<U>(k);
-        const auto isSet = (spread(word, k, U{}) & bits) == bits;
-        store(d + k * lanes<U>, reinterpret_cast<Vec<U>>(isSet) & splat(U(1)));
+    const __m128i all = _mm_set1_epi32(static_cast<int>(word));
+    __m128i bit = _mm_setr_epi32(1, 2, 4, 8);
+    for (int k = 0; k < 8; ++k) {
+        put(d + 4 * k, _mm_srli_epi32(_mm_cmpeq_epi32(_mm_and_si128(all, bit), bit), 31));
+        bit = _mm_slli_epi32(bit, 4);
     }
 }
-inline void unpack_word(u32 word, u8* d) { unpack_lanes(word, d); }
-inline void unpack_word(u32 word, i16* d) { unpack_lanes(word, reinterpret_cast<u16*>(d)); }
-inline void unpack_word(u32 word, i32* d) { unpack_lanes(word, reinterpret_cast<u32*>(d)); }
 
+#endif
 #endif
 
 } // namespace

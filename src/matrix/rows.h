@@ -1,8 +1,6 @@
-// Runs of elements within rows: copied, exchanged, set to zero. Strided matrices are walked row by row around them.
+// Runs of elements within rows: copied, exchanged, set to zero. Matrices are walked row by row around them.
 #pragma once
-#include "kernel/vec.h"
-#include <stddef.h>
-#include <stdint.h>
+#include "kernel/loops.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -23,7 +21,7 @@ template <class T> inline void exchange_in_order(T* a, T* b, size_t n)
 
 #if SIG5D_LEVEL == 0
 
-template <class T> inline void copy_run(const T* a, T* d, size_t n) { copy_in_order(a, d, n); }
+template <class T> inline void copy_run(const T* a, T* d, size_t n, bool) { copy_in_order(a, d, n); }
 template <class T> inline void exchange_runs(T* a, T* b, size_t n) { exchange_in_order(a, b, n); }
 template <class T> inline void zero_run(T* d, size_t n)
 {
@@ -32,110 +30,104 @@ template <class T> inline void zero_run(T* d, size_t n)
 
 #else
 
-// So many bytes as one value.
-template <int bytes> struct Piece {
-    using type = Vec<u8, bytes>;
-};
-template <> struct Piece<8> {
-    using type = u64;
-};
-template <> struct Piece<4> {
-    using type = u32;
-};
-template <> struct Piece<2> {
-    using type = u16;
-};
-template <> struct Piece<1> {
-    using type = u8;
-};
+inline void copy_bytes(size_t n, const u8* a, u8* d) { map(n, d, Same{}, a); }
 
-template <int bytes> struct Bytes {
-    typename Piece<bytes>::type v;
-    static Bytes load(const u8* p)
-    {
-        Bytes x;
-        __builtin_memcpy(&x.v, p, bytes);
-        return x;
-    }
-    void store(u8* p) const { __builtin_memcpy(p, &v, bytes); }
-};
-
-struct Copy {
-    const u8* a;
-    u8* d;
-    template <int w> using Values = Bytes<w>;
-    template <int w> Bytes<w> load(size_t i) const { return Bytes<w>::load(a + i); }
-    template <int w> void store(size_t i, Bytes<w> x) const { x.store(d + i); }
-};
-
-struct Exchange {
-    u8 *a, *d;
-    template <int w> struct Values {
-        Bytes<w> a, d;
-    };
-    template <int w> Values<w> load(size_t i) const { return {Bytes<w>::load(a + i), Bytes<w>::load(d + i)}; }
-    template <int w> void store(size_t i, Values<w> x) const
-    {
-        x.d.store(a + i);
-        x.a.store(d + i);
-    }
-};
-
-struct Zero {
-    u8* d;
-    template <int w> using Values = Bytes<w>;
-    template <int w> Bytes<w> load(size_t) const
-    {
-        Bytes<w> none;
-        none.v = typename Piece<w>::type{};
-        return none;
-    }
-    template <int w> void store(size_t i, Bytes<w> x) const { x.store(d + i); }
-};
-
-// Applies the operation to n bytes, w at a time. The first and the last w overlap the others, so that nothing is left
-// over: they are loaded before anything is stored, and stored at the end. Between them the stores are aligned.
-template <int w, class Op> inline void cover(size_t n, Op op)
+// The runs have nothing in common.
+[[gnu::noinline]] void copy_bytes_past_caches(size_t n, const u8* a, u8* d)
 {
-    if (n < w) {
-        if constexpr (w > 1) cover<w / 2>(n, op);
-        return;
-    }
-    const auto head = op.template load<w>(0), tail = op.template load<w>(n - w);
-    if constexpr (w == vectorBytes) {
-        size_t i = w;
-        if (n > 8 * w) i = w - reinterpret_cast<uintptr_t>(op.d) % w;
-        for (; i + 4 * w <= n; i += 4 * w) {
-            const auto x0 = op.template load<w>(i), x1 = op.template load<w>(i + w);
-            const auto x2 = op.template load<w>(i + 2 * w), x3 = op.template load<w>(i + 3 * w);
-            op.template store<w>(i, x0);
-            op.template store<w>(i + w, x1);
-            op.template store<w>(i + 2 * w, x2);
-            op.template store<w>(i + 3 * w, x3);
-        }
-        for (; i + w < n; i += w) op.template store<w>(i, op.template load<w>(i));
-    }
-    op.template store<w>(0, head);
-    op.template store<w>(n - w, tail);
+    const size_t skip = misalignment(d) + vectorBytes;
+    copy_bytes(skip, a, d);
+    const u8* from = a + skip;
+    u8* to = d + skip;
+    const size_t left = map_blocks(
+        n - skip, to, [](u8* p, auto v) { stream(p, v); }, Same{}, from);
+    stream_end();
+    copy_bytes(left, from, to);
 }
 
 // The order of elements shows only where the destination begins inside the source.
-template <class T> inline void copy_run(const T* a, T* d, size_t n)
+template <class T> inline void copy_run(const T* a, T* d, size_t n, bool pastCaches)
 {
     const size_t distance = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(a), bytes = n * sizeof(T);
+    const auto from = reinterpret_cast<const u8*>(a);
+    const auto to = reinterpret_cast<u8*>(d);
     if (distance < bytes && distance) return copy_in_order(a, d, n);
-    cover<vectorBytes>(bytes, Copy{reinterpret_cast<const u8*>(a), reinterpret_cast<u8*>(d)});
+    if (pastCaches && apart(a, d, bytes)) return copy_bytes_past_caches(bytes, from, to);
+    copy_bytes(bytes, from, to);
 }
+
+template <int bytes> inline auto piece(const u8* p)
+{
+    if constexpr (bytes > 16)
+        return loadn<bytes>(p);
+    else
+        return load_part<bytes>(p);
+}
+
+// Rows of at most two vectors, for which a call each would cost more than the copy. The matrices have nothing in
+// common.
+template <int bytes> void copy_short_rows(size_t rows, size_t n, const u8* a, u8* d, size_t aStep, size_t dStep)
+{
+    if constexpr (bytes > 1)
+        if (n < bytes) return copy_short_rows<bytes / 2>(rows, n, a, d, aStep, dStep);
+    for (; rows; --rows) {
+        const auto head = piece<bytes>(a), tail = piece<bytes>(a + (n - bytes));
+        store_part<bytes>(d, head);
+        store_part<bytes>(d + (n - bytes), tail);
+        a += aStep;
+        d += dStep;
+    }
+}
+
+template <int bytes> inline void exchange_short(size_t n, u8* a, u8* b)
+{
+    if (n >= bytes) {
+        const auto aHead = load_part<bytes>(a), aTail = load_part<bytes>(a + (n - bytes));
+        const auto bHead = load_part<bytes>(b), bTail = load_part<bytes>(b + (n - bytes));
+        store_part<bytes>(a, bHead);
+        store_part<bytes>(a + (n - bytes), bTail);
+        store_part<bytes>(b, aHead);
+        store_part<bytes>(b + (n - bytes), aTail);
+    } else if constexpr (bytes > 1) {
+        exchange_short<bytes / 2>(n, a, b);
+    }
+}
+
+// As in map, the last vectors overlap the others: they are loaded first and stored at the end.
+inline void exchange_bytes(size_t n, u8* a, u8* b)
+{
+    constexpr size_t L = vectorBytes;
+    if (n < L) return exchange_short<L / 2>(n, a, b);
+    const Vec<u8> aTail = load(a + (n - L)), bTail = load(b + (n - L));
+    size_t k = 0;
+    for (; k + 2 * L <= n; k += 2 * L) {
+        const Vec<u8> a0 = load(a + k), a1 = load(a + k + L), b0 = load(b + k), b1 = load(b + k + L);
+        put(a + k, b0);
+        put(a + k + L, b1);
+        put(b + k, a0);
+        put(b + k + L, a1);
+    }
+    if (k + L <= n) {
+        const Vec<u8> a0 = load(a + k);
+        put(a + k, load(b + k));
+        put(b + k, a0);
+    }
+    put(a + (n - L), bTail);
+    put(b + (n - L), aTail);
+}
+
 template <class T> inline void exchange_runs(T* a, T* b, size_t n)
 {
     const size_t distance = reinterpret_cast<uintptr_t>(b) - reinterpret_cast<uintptr_t>(a), bytes = n * sizeof(T);
     if (distance == 0) return;
     if (distance < bytes || -distance < bytes) return exchange_in_order(a, b, n);
-    cover<vectorBytes>(bytes, Exchange{reinterpret_cast<u8*>(a), reinterpret_cast<u8*>(b)});
+    exchange_bytes(bytes, reinterpret_cast<u8*>(a), reinterpret_cast<u8*>(b));
 }
+
 template <class T> inline void zero_run(T* d, size_t n)
 {
-    cover<vectorBytes>(n * sizeof(T), Zero{reinterpret_cast<u8*>(d)});
+    const Vec<u8> none{};
+    map(n * sizeof(T), reinterpret_cast<u8*>(d), [none] { return none; });
 }
 
 #endif

@@ -1,5 +1,6 @@
 // Copies of blocks between matrices of different row strides.
 #include "frame/entry.h"
+#include "matrix/extent.h"
 #include "matrix/rows.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -8,12 +9,22 @@ namespace {
 // d(i, j) = a(i, j), in increasing order of i and, within it, of j.
 template <class T> void copy_block(const T* a, T* d, size_t rows, size_t cols, size_t aStride, size_t dStride)
 {
+    if (!rows || !cols) return;
+    constexpr size_t size = sizeof(T);
     if (aStride == cols && dStride == cols) { // no gaps: one run
         cols *= rows;
-        rows = rows > 0;
+        rows = 1;
     }
+#if SIG5D_LEVEL > 0
+    if (cols <= 2 * vectorBytes / size &&
+        disjoint(a, extent(rows, cols, aStride, size), d, extent(rows, cols, dStride, size)))
+        return copy_short_rows<vectorBytes>(rows, cols * size, reinterpret_cast<const u8*>(a), reinterpret_cast<u8*>(d),
+                                            aStride * size, dStride * size);
+#endif
+    // Rows that begin and end within a cache line are worth it only when they are long.
+    const bool pastCaches = cols >= 4096 / size && streamingPays(u64(rows) * cols * size);
     for (size_t i = 0; i < rows; ++i) {
-        copy_run(a, d, cols);
+        copy_run(a, d, cols, pastCaches);
         a += aStride;
         d += dStride;
     }

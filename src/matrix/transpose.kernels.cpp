@@ -1,5 +1,6 @@
 // Transposes and conjugate transposes.
 #include "frame/entry.h"
+#include "matrix/extent.h"
 #include "matrix/transpose_square.h"
 #include "matrix/transpose_tiles.h"
 
@@ -43,12 +44,10 @@ inline bool any_order(const void* src, const void* dst, size_t rows, size_t cols
                       size_t size)
 {
     if (dStride < rows && cols > 1) return false;
-    const u64 a = reinterpret_cast<uintptr_t>(src), d = reinterpret_cast<uintptr_t>(dst);
-    const u64 aEnd = a + (u64(rows - 1) * aStride + cols) * size, dEnd = d + (u64(cols - 1) * dStride + rows) * size;
-    if (aEnd <= d || dEnd <= a) return true;
+    if (disjoint(src, extent(rows, cols, aStride, size), dst, extent(cols, rows, dStride, size))) return true;
     if (aStride != dStride || aStride < u64(rows) + cols) return false;
-    const size_t step = aStride * size, distance = static_cast<size_t>(d - a), back = static_cast<size_t>(a - d);
-    const size_t column = d >= a ? distance % step : step - back % step;
+    const uintptr_t a = reinterpret_cast<uintptr_t>(src), d = reinterpret_cast<uintptr_t>(dst);
+    const size_t step = aStride * size, column = d >= a ? (d - a) % step : step - (a - d) % step;
     return column >= cols * size && column + rows * size <= step;
 }
 

@@ -97,29 +97,46 @@ template <int width> inline Reg<width> conjugate(Reg<width> x)
     return reinterpret_cast<Reg<width>>(reinterpret_cast<Words>(x) ^ sign);
 }
 
-// Column k of the block becomes r[k]. Every 16-byte half of the registers is a square of its own, in which interleaving
-// the first half of the registers with the second, again and again, brings each element to its mirror image.
+// Interleaving the first half of the registers with the second, again and again, transposes squares of as many
+// elements.
+template <int size, int width, int n> inline void interleave(Reg<width> (&r)[n])
+{
+#pragma GCC unroll 4
+    for (int done = 1; done < n; done *= 2) {
+        Reg<width> t[n];
+#pragma GCC unroll 8
+        for (int k = 0; k < n / 2; ++k) {
+            t[2 * k] = low<size>(r[k], r[k + n / 2]);
+            t[2 * k + 1] = high<size>(r[k], r[k + n / 2]);
+        }
+#pragma GCC unroll 16
+        for (int k = 0; k < n; ++k) r[k] = t[k];
+    }
+}
+
+// Columns of a block that are made at a time: all, or half of them where there are eight registers only.
+template <int size> constexpr int portion = sizeof(void*) == 4 && size == 1 ? 8 : 16 / size;
+
+// r[k] becomes column k, or column k of the second half, of the block at a.
 template <int size, int width, bool conj>
-inline void load_transposed(Reg<width> (&r)[16 / size], const u8* a, size_t aStep)
+inline void load_columns(Reg<width> (&r)[portion<size>], const u8* a, size_t aStep, [[maybe_unused]] bool secondHalf)
 {
     constexpr int n = 16 / size;
+    if constexpr (portion<size> == n) {
 #pragma GCC unroll 16
-    for (int k = 0; k < n; ++k) r[k] = load_rows<width>(a + k * aStep, n * aStep);
-    if constexpr (n > 1) {
-#pragma GCC unroll 4
-        for (int done = 1; done < n; done *= 2) {
-            Reg<width> t[n];
+        for (int k = 0; k < n; ++k) r[k] = load_rows<width>(a + k * aStep, n * aStep);
+    } else {
 #pragma GCC unroll 8
-            for (int k = 0; k < n / 2; ++k) {
-                t[2 * k] = low<size>(r[k], r[k + n / 2]);
-                t[2 * k + 1] = high<size>(r[k], r[k + n / 2]);
-            }
-#pragma GCC unroll 16
-            for (int k = 0; k < n; ++k) r[k] = t[k];
+        for (int k = 0; k < n / 2; ++k) {
+            const auto x = load_rows<width>(a + k * aStep, n * aStep);
+            const auto y = load_rows<width>(a + (k + n / 2) * aStep, n * aStep);
+            r[k] = secondHalf ? high<size>(x, y) : low<size>(x, y);
         }
-    } else if constexpr (conj) {
-        r[0] = conjugate<width>(r[0]);
     }
+    if constexpr (n > 1)
+        interleave<size, width>(r);
+    else if constexpr (conj)
+        r[0] = conjugate<width>(r[0]);
 }
 
 #endif

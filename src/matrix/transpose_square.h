@@ -26,26 +26,26 @@ template <int width> inline Reg<width> mask_from(int bytes)
 template <int size, int width, bool conj, int side, bool partly>
 inline void exchange_squares(u8* p, u8* q, size_t step, int skip)
 {
-    constexpr int C = 16 / size, R = width / size;
+    constexpr int C = 16 / size, R = width / size, P = portion<size>;
     Reg<width> x[side][side / R];
 #pragma GCC unroll 4
-    for (int i = 0; i < side; i += C)
+    for (int i = 0; i < side; i += P)
 #pragma GCC unroll 4
         for (int j = 0; j < side; j += R) {
-            Reg<width> r[C];
-            load_transposed<size, width, conj>(r, p + j * step + i * size, step);
+            Reg<width> r[P];
+            load_columns<size, width, conj>(r, p + j * step + i / C * 16, step, i % C != 0);
 #pragma GCC unroll 16
-            for (int k = 0; k < C; ++k) x[i + k][j / R] = r[k];
+            for (int k = 0; k < P; ++k) x[i + k][j / R] = r[k];
         }
     if (p != q) {
 #pragma GCC unroll 4
-        for (int i = 0; i < side; i += C)
+        for (int i = 0; i < side; i += P)
 #pragma GCC unroll 4
             for (int j = 0; j < side; j += R) {
-                Reg<width> r[C];
-                load_transposed<size, width, conj>(r, q + j * step + i * size, step);
+                Reg<width> r[P];
+                load_columns<size, width, conj>(r, q + j * step + i / C * 16, step, i % C != 0);
 #pragma GCC unroll 16
-                for (int k = 0; k < C; ++k)
+                for (int k = 0; k < P; ++k)
                     if (!partly || i + k >= skip) put(p + (i + k) * step + j * size, r[k]);
             }
     }

@@ -28,7 +28,7 @@ template <int size, int width, bool conj, int columns, bool wholeLines>
 inline void transpose_walk(In<size> a, Out<size> d, size_t steps, size_t aMove, size_t dMove, const u8* lastA,
                            u8* lastD)
 {
-    constexpr int C = 16 / size, R = width / size, count = wholeLines ? lineBytes / width : 1;
+    constexpr int C = 16 / size, R = width / size, P = portion<size>, count = wholeLines ? lineBytes / width : 1;
     while (steps) {
         if (wholeLines) {
 #pragma GCC unroll 16
@@ -38,11 +38,11 @@ inline void transpose_walk(In<size> a, Out<size> d, size_t steps, size_t aMove, 
 #pragma GCC unroll 4
         for (int block = 0; block < count; ++block)
 #pragma GCC unroll 4
-            for (int g = 0; g < columns; g += C) {
-                Reg<width> x[C];
-                load_transposed<size, width, conj>(x, a.at(block * R, g), a.step);
+            for (int g = 0; g < columns; g += P) {
+                Reg<width> x[P];
+                load_columns<size, width, conj>(x, a.at(block * R, g / C * C), a.step, g % C != 0);
 #pragma GCC unroll 16
-                for (int k = 0; k < C; ++k) put(d.at(g + k, block * R), x[k]);
+                for (int k = 0; k < P; ++k) put(d.at(g + k, block * R), x[k]);
             }
         a.p += aMove;
         d.p += dMove;

@@ -22,7 +22,7 @@ void copy_lower_triangle(const T* src, T* dst, unsigned rows, unsigned cols, uns
                          int diagonal)
 {
     for_lower(rows, cols, diagonal, [=](size_t i, size_t first, size_t n) {
-        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n);
+        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n, false);
     });
 }
 template <class T>
@@ -30,7 +30,7 @@ void copy_upper_triangle(const T* src, T* dst, unsigned rows, unsigned cols, uns
                          int diagonal)
 {
     for_upper(rows, cols, diagonal, [=](size_t i, size_t first, size_t n) {
-        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n);
+        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n, false);
     });
 }
 template <class T> void zero_lower_triangle(T* a, unsigned rows, unsigned cols, unsigned stride, int diagonal)
