@@ -585,6 +585,47 @@ IppStatus SIG5D_STDCALL ippSetCpuFeatures(Ipp64u cpuFeatures);
 /* The feature word of the last selection, with the features that the variant needs; 3 before any. */
 Ipp64u SIG5D_STDCALL ippGetEnabledCpuFeatures(void);
 
+/* ---- Aligned memory ---- */
+
+/* An array of len elements at a 64-byte boundary, or null: len is below 1, the array has more than 2147483579
+   bytes, or the heap has no such block. The elements are not cleared. `ippsFree` releases it. */
+Ipp32s* SIG5D_STDCALL ippsMalloc_32s(int len);
+Ipp32s* SIG5D_CDECL ippsMalloc_32s_Idx(int len);
+Ipp32sc* SIG5D_STDCALL ippsMalloc_32sc(int len);
+Ipp32sc* SIG5D_CDECL ippsMalloc_32sc_Idx(int len);
+Ipp64f* SIG5D_STDCALL ippsMalloc_64f(int len);
+Ipp64f* SIG5D_CDECL ippsMalloc_64f_Idx(int len);
+Ipp64fc* SIG5D_STDCALL ippsMalloc_64fc(int len);
+Ipp64fc* SIG5D_CDECL ippsMalloc_64fc_Idx(int len);
+
+/* Releases an array from ippsMalloc; null is ignored. Any other pointer is undefined. */
+void SIG5D_STDCALL ippsFree(void* ptr);
+void SIG5D_CDECL ippsFree_Idx(void* ptr);
+
+/* ---- Processor and thread queries ---- */
+
+/* The processor's time-stamp counter. */
+Ipp64u SIG5D_STDCALL ippGetCpuClocks(void);
+
+/* The rate of the time-stamp counter in MHz, measured over two seconds of calendar time. */
+IppStatus SIG5D_STDCALL ippGetCpuFreqMhz(int* pMhz);
+
+/* The size in bytes of the processor's largest data or unified cache, read once per process. */
+IppStatus SIG5D_STDCALL ippGetMaxCacheSizeB(int* pSizeByte);
+
+/* The number of cores of a processor package; 1 where the processor does not tell, never less. */
+int SIG5D_STDCALL ippGetNumCoresOnDie(void);
+
+/* Stores 1 and returns `ippStsNoOperation`: the library starts no threads. */
+IppStatus SIG5D_STDCALL ippGetNumThreads(int* pNumThr);
+
+/* Does nothing and returns `ippStsNoOperation`: the library starts no threads. */
+IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
+
+/* Makes the calling thread's SSE and AVX arithmetic read denormal numbers as zeros (value not 0) or as they are
+   (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
+IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
+
 /* ---- Matrices: transpose, sub-matrices, exchanges, triangles ---- */
 
 /* dst(j, i) = src(i, j), that is dst[j*dstStride+i] = src[i*srcStride+j]. Rows and columns are those of the
@@ -876,46 +917,6 @@ void SIG5D_STDCALL SetValcToPtr(Ipp64fc* p, const Ipp64fc* value);
 
 /* *p = value. */
 void SIG5D_STDCALL SetValIToPtr(Ipp32s* p, Ipp32s value);
-/* ---- Aligned memory ---- */
-
-/* An array of len elements at a 64-byte boundary, or null: len is below 1, the array has more than 2147483579
-   bytes, or the heap has no such block. The elements are not cleared. `ippsFree` releases it. */
-Ipp32s* SIG5D_STDCALL ippsMalloc_32s(int len);
-Ipp32s* SIG5D_CDECL ippsMalloc_32s_Idx(int len);
-Ipp32sc* SIG5D_STDCALL ippsMalloc_32sc(int len);
-Ipp32sc* SIG5D_CDECL ippsMalloc_32sc_Idx(int len);
-Ipp64f* SIG5D_STDCALL ippsMalloc_64f(int len);
-Ipp64f* SIG5D_CDECL ippsMalloc_64f_Idx(int len);
-Ipp64fc* SIG5D_STDCALL ippsMalloc_64fc(int len);
-Ipp64fc* SIG5D_CDECL ippsMalloc_64fc_Idx(int len);
-
-/* Releases an array from ippsMalloc; null is ignored. Any other pointer is undefined. */
-void SIG5D_STDCALL ippsFree(void* ptr);
-void SIG5D_CDECL ippsFree_Idx(void* ptr);
-
-/* ---- Processor and thread queries ---- */
-
-/* The processor's time-stamp counter. */
-Ipp64u SIG5D_STDCALL ippGetCpuClocks(void);
-
-/* The rate of the time-stamp counter in MHz, measured over two seconds of calendar time. */
-IppStatus SIG5D_STDCALL ippGetCpuFreqMhz(int* pMhz);
-
-/* The size in bytes of the processor's largest data or unified cache, read once per process. */
-IppStatus SIG5D_STDCALL ippGetMaxCacheSizeB(int* pSizeByte);
-
-/* The number of cores of a processor package; 1 where the processor does not tell, never less. */
-int SIG5D_STDCALL ippGetNumCoresOnDie(void);
-
-/* Stores 1 and returns `ippStsNoOperation`: the library starts no threads. */
-IppStatus SIG5D_STDCALL ippGetNumThreads(int* pNumThr);
-
-/* Does nothing and returns `ippStsNoOperation`: the library starts no threads. */
-IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
-
-/* Makes the calling thread's SSE and AVX arithmetic read denormal numbers as zeros (value not 0) or as they are
-   (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
-IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
 
 #ifdef __cplusplus
 }

@@ -15,7 +15,7 @@ template <class T> void bit_pack(const T* src, unsigned offset, unsigned end, u3
     for (const u32 whole = n / 32 < nWords ? n / 32 : nWords; w < whole; ++w) words[w] = pack_word(a + size_t(w) * 32);
     for (u32 m = 32; w < nWords; ++w) {
         const u64 start = u64(m) * w;
-        if (start + m > n) m = static_cast<u32>(n - start);
+        if (start + m > n) m = start < n ? static_cast<u32>(n - start) : 0;
         words[w] = pack_word(a + start, m);
     }
 }

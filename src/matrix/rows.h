@@ -1,6 +1,7 @@
 // Runs of elements within rows: copied, exchanged, set to zero. Matrices are walked row by row around them.
 #pragma once
 #include "kernel/loops.h"
+#include "matrix/overlap.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -8,7 +9,10 @@ namespace {
 // d[k] = a[k], k increasing: what overlapping runs must get.
 template <class T> inline void copy_in_order(const T* a, T* d, size_t n)
 {
-    for (size_t k = 0; k < n; ++k) d[k] = a[k];
+    for (size_t k = 0; k < n; ++k) {
+        d[k] = a[k];
+        one_by_one();
+    }
 }
 template <class T> inline void exchange_in_order(T* a, T* b, size_t n)
 {
@@ -16,6 +20,7 @@ template <class T> inline void exchange_in_order(T* a, T* b, size_t n)
         const T x = a[k];
         a[k] = b[k];
         b[k] = x;
+        one_by_one();
     }
 }
 

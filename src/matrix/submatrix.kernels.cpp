@@ -1,6 +1,5 @@
 // Copies of blocks between matrices of different row strides.
 #include "frame/entry.h"
-#include "matrix/extent.h"
 #include "matrix/rows.h"
 
 namespace sig5d::SIG5D_VARIANT {

@@ -1,6 +1,6 @@
 // Transposes and conjugate transposes.
 #include "frame/entry.h"
-#include "matrix/extent.h"
+#include "matrix/overlap.h"
 #include "matrix/transpose_square.h"
 #include "matrix/transpose_tiles.h"
 
@@ -23,7 +23,10 @@ template <bool conj, class T>
 void transpose_in_order(const T* a, T* d, size_t rows, size_t cols, size_t aStride, size_t dStride)
 {
     for (size_t i = 0; i < rows; ++i)
-        for (size_t j = 0; j < cols; ++j) d[j * dStride + i] = moved<conj>(a[i * aStride + j]);
+        for (size_t j = 0; j < cols; ++j) {
+            d[j * dStride + i] = moved<conj>(a[i * aStride + j]);
+            one_by_one();
+        }
 }
 
 template <bool conj, class T> void transpose_square_in_order(T* a, size_t n, size_t stride)
@@ -34,6 +37,7 @@ template <bool conj, class T> void transpose_square_in_order(T* a, size_t n, siz
             const T x = a[j * stride + i], y = a[i * stride + j];
             a[i * stride + j] = moved<conj>(x);
             a[j * stride + i] = moved<conj>(y);
+            one_by_one();
         }
     }
 }

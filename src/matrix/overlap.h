@@ -1,4 +1,4 @@
-// What part of the memory a matrix takes, and whether two share some.
+// What part of the memory a matrix takes, whether two share some, and what is done then.
 #pragma once
 #include "frame/types.h"
 #include <stddef.h>
@@ -19,6 +19,10 @@ inline bool disjoint(const void* p, u64 pBytes, const void* q, u64 qBytes)
     const u64 a = reinterpret_cast<uintptr_t>(p), b = reinterpret_cast<uintptr_t>(q);
     return a + pBytes <= b || b + qBytes <= a;
 }
+
+// After each move of a loop whose order can be seen. The compiler would make vectors of elements that it takes to
+// overlap as wholes or not at all; at odd addresses they may overlap in part.
+inline void one_by_one() { asm volatile("" : : : "memory"); }
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT
