@@ -58,10 +58,11 @@ inline bool any_order(const void* src, const void* dst, size_t rows, size_t cols
 template <bool conj, class T>
 void transposed(const T* a, T* d, size_t rows, size_t cols, size_t aStride, size_t dStride)
 {
-    if (!rows || !cols) return;
+    if (!cols) return;
 #if SIG5D_LEVEL > 0
     constexpr int size = sizeof(T);
-    if (any_order(a, d, rows, cols, aStride, dStride, size))
+    if (rows >= smallestBlock<size> && cols >= smallestBlock<size> &&
+        any_order(a, d, rows, cols, aStride, dStride, size))
         return transpose_apart<size, conj>({reinterpret_cast<const u8*>(a), aStride * size},
                                            {reinterpret_cast<u8*>(d), dStride * size}, rows, cols);
 #endif

@@ -1,7 +1,7 @@
 // Transposing in registers. A block is as many rows as elements fit a register, and 16 bytes of each: its columns
 // become whole registers. Pointers are to bytes and steps between rows are in bytes; "size" is that of an element.
 #pragma once
-#include "kernel/vec.h"
+#include "kernel/stream.h"
 #include <stddef.h>
 #include <stdint.h>
 #if SIG5D_LEVEL > 0

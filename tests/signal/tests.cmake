@@ -3,8 +3,10 @@ sig5d_test(elementwise_bits signal/copy_test.cpp signal/logic_test.cpp signal/bi
 # Kernels compiled for this test alone, which sets when they stream.
 foreach(width 16 32)
     set(elementwise ${CMAKE_SOURCE_DIR}/src/signal/elementwise)
+    set(matrix ${CMAKE_SOURCE_DIR}/src/matrix)
     add_library(sig5d_stream${width} OBJECT ${elementwise}/copy.kernels.cpp ${elementwise}/logic.kernels.cpp
-                                            ${elementwise}/flip.kernels.cpp)
+                                            ${elementwise}/flip.kernels.cpp ${matrix}/submatrix.kernels.cpp
+                                            ${matrix}/transpose.kernels.cpp)
     target_link_libraries(sig5d_stream${width} PRIVATE sig5d_product)
 endforeach()
 target_compile_definitions(sig5d_stream16 PRIVATE SIG5D_VARIANT=stream16 SIG5D_LEVEL=1)
