@@ -732,7 +732,8 @@ void SIG5D_CDECL ResizeMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int ro
 void SIG5D_CDECL ResizeMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride);
 
-/* a(row1, k) and a(row2, k) exchanged for k < cols. */
+/* a(row1, k) and a(row2, k) exchanged for k < cols. A row exchanged with itself stays as it is. Bits are moved,
+   both parts of complex elements together. */
 void SIG5D_CDECL RowExchange(Ipp64f* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int stride);
 void SIG5D_CDECL RowExchange_16s(Ipp16s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
         stride);
@@ -753,7 +754,8 @@ void SIG5D_CDECL RowExchangec(Ipp64fc* a, unsigned int row1, unsigned int row2, 
 void SIG5D_CDECL RowExchangec_Idx(Ipp64fc* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
         unsigned int stride);
 
-/* a(k, col1) and a(k, col2) exchanged for k < rows. */
+/* a(k, col1) and a(k, col2) exchanged for k < rows. A column exchanged with itself stays as it is. Bits are moved,
+   both parts of complex elements together. */
 void SIG5D_CDECL ColExchange(Ipp64f* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int stride);
 void SIG5D_CDECL ColExchange_16s(Ipp16s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
         stride);
