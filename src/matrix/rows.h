@@ -50,14 +50,15 @@ inline void copy_bytes(size_t n, const u8* a, u8* d) { map(n, d, Same{}, a); }
     copy_bytes(left, from, to);
 }
 
-// The order of elements shows only where the destination begins inside the source.
+// The order of elements shows only where the destination begins inside the source. A run goes past the caches if the
+// caller writes more than they hold and if it is so long that the lines at its ends, written in part, do not count.
 template <class T> inline void copy_run(const T* a, T* d, size_t n, bool pastCaches)
 {
     const size_t distance = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(a), bytes = n * sizeof(T);
     const auto from = reinterpret_cast<const u8*>(a);
     const auto to = reinterpret_cast<u8*>(d);
     if (distance < bytes && distance) return copy_in_order(a, d, n);
-    if (pastCaches && apart(a, d, bytes)) return copy_bytes_past_caches(bytes, from, to);
+    if (pastCaches && bytes >= 4096 && apart(a, d, bytes)) return copy_bytes_past_caches(bytes, from, to);
     copy_bytes(bytes, from, to);
 }
 

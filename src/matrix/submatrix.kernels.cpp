@@ -20,8 +20,7 @@ template <class T> void copy_block(const T* a, T* d, size_t rows, size_t cols, s
         return copy_short_rows<vectorBytes>(rows, cols * size, reinterpret_cast<const u8*>(a), reinterpret_cast<u8*>(d),
                                             aStride * size, dStride * size);
 #endif
-    // Rows that begin and end within a cache line are worth it only when they are long.
-    const bool pastCaches = cols >= 4096 / size && streamingPays(u64(rows) * cols * size);
+    const bool pastCaches = streamingPays(u64(rows) * cols * size);
     for (size_t i = 0; i < rows; ++i) {
         copy_run(a, d, cols, pastCaches);
         a += aStride;

@@ -21,16 +21,18 @@ template <class T>
 void copy_lower_triangle(const T* src, T* dst, unsigned rows, unsigned cols, unsigned srcStride, unsigned dstStride,
                          int diagonal)
 {
+    const bool pastCaches = streamingPays(u64(rows) * cols * sizeof(T) / 2);
     for_lower(rows, cols, diagonal, [=](size_t i, size_t first, size_t n) {
-        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n, false);
+        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n, pastCaches);
     });
 }
 template <class T>
 void copy_upper_triangle(const T* src, T* dst, unsigned rows, unsigned cols, unsigned srcStride, unsigned dstStride,
                          int diagonal)
 {
+    const bool pastCaches = streamingPays(u64(rows) * cols * sizeof(T) / 2);
     for_upper(rows, cols, diagonal, [=](size_t i, size_t first, size_t n) {
-        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n, false);
+        copy_run(src + (i * srcStride + first), dst + (i * dstStride + first), n, pastCaches);
     });
 }
 template <class T> void zero_lower_triangle(T* a, unsigned rows, unsigned cols, unsigned stride, int diagonal)
