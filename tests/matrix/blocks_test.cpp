@@ -36,14 +36,14 @@ TEST(SubMatrix, BlocksAnywhereAndNothingElse)
                     const unsigned dstStride = r.below(3) ? dstCol + cols + r.below(9) : cols;
                     const size_t src = place(r.below(40), t.bytes);
                     const size_t dst = 64 + (size_t(23) * srcStride + 720) * t.bytes + place(r.below(40), t.bytes);
-                    Bytes memory = noise(dst + (size_t(23) * dstStride + 720) * t.bytes), expected = memory;
+                    Bytes memory = filled(dst + (size_t(23) * dstStride + 720) * t.bytes), expected = memory;
                     const size_t from = src + (size_t(srcRow) * srcStride + srcCol) * t.bytes;
                     const size_t to = dst + (size_t(dstRow) * dstStride + dstCol) * t.bytes;
                     copyBlock(expected, from, to, rows, cols, srcStride, dstStride, t.bytes);
                     callOwn(named("CopySubMatrix", t), (const void*)&memory[src], (void*)&memory[dst], srcRow, srcCol,
                             dstRow, dstCol, rows, cols, srcStride, dstStride);
                     ASSERT_TRUE(memory == expected) << t.suffix << ' ' << rows << 'x' << cols;
-                    memory = noise(memory.size(), 2);
+                    memory = filled(memory.size());
                     expected = memory;
                     copyBlock(expected, from, to, rows, cols, srcStride, dstStride, t.bytes);
                     callOwn(named("ResizeMatrix", t), (const void*)&memory[from], (void*)&memory[to], rows, cols,
@@ -64,7 +64,7 @@ TEST(SubMatrix, OverlapsInTheOrderOfRowsAndElements)
                 const unsigned srcStride = r.below(160), dstStride = r.below(2) ? srcStride : r.below(160);
                 const unsigned nearby = static_cast<unsigned>(t.bytes) * (r.below(2) ? 40 : 160);
                 const size_t from = place(r.below(nearby), t.bytes), dst = place(r.below(nearby), t.bytes);
-                Bytes memory = noise(300 + (size_t(9) * 160 + 400) * t.bytes), expected = memory;
+                Bytes memory = filled(300 + (size_t(9) * 160 + 400) * t.bytes), expected = memory;
                 copyBlock(expected, from, dst, rows, cols, srcStride, dstStride, t.bytes);
                 callOwn(named("ResizeMatrix", t), (const void*)&memory[from], (void*)&memory[dst], rows, cols,
                         srcStride, dstStride);
@@ -83,7 +83,7 @@ TEST(Exchange, RowsAndColumns)
                 for (const auto& [x, y] : {std::pair(0u, 1u), {3u, 1u}, {2u, 2u}, {0u, 4u}}) {
                     const size_t at = place(r.below(40), t.bytes);
                     const unsigned rowStride = n + r.below(5), colStride = 5 + r.below(70);
-                    Bytes memory = noise(100 + (size_t(5) * rowStride + size_t(n) * colStride + n) * t.bytes);
+                    Bytes memory = filled(100 + (size_t(5) * rowStride + size_t(n) * colStride + n) * t.bytes);
                     Bytes expected = memory;
                     for (size_t k = 0; k < n; ++k)
                         swapElements(expected, at + (x * rowStride + k) * t.bytes, at + (y * rowStride + k) * t.bytes,
@@ -120,7 +120,7 @@ TEST(Triangle, CopiedAndCleared)
                         const size_t src = place(r.below(40), t.bytes);
                         const size_t end = src + size_t(rows) * srcStride * t.bytes;
                         const size_t dst = (end + 15) / 16 * 16 + place(r.below(40), t.bytes);
-                        Bytes memory = noise(dst + 40 + size_t(rows) * dstStride * t.bytes), copied = memory,
+                        Bytes memory = filled(dst + 40 + size_t(rows) * dstStride * t.bytes), copied = memory,
                               cleared = memory;
                         for (size_t i = 0; i < rows; ++i)
                             for (size_t j = 0; j < cols; ++j)

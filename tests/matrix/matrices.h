@@ -14,6 +14,14 @@ struct Type {
 };
 inline const Type types[] = {{"", 8}, {"_32s", 4}, {"_16s", 2}, {"_8u", 1}, {"c", 16}};
 
+// Memory full of noise, the same each time: made once, since the tests need it by the gigabyte.
+inline Bytes filled(size_t n)
+{
+    static Bytes all;
+    if (all.size() < n) all = support::noise(2 * n);
+    return Bytes(all.begin(), all.begin() + static_cast<long>(n));
+}
+
 inline void copyElement(Bytes& memory, size_t from, size_t to, size_t bytes)
 {
     unsigned char x[16];

@@ -33,7 +33,7 @@ void flipSign(Bytes& memory, size_t element) { memory[element + 15] ^= 0x80; }
 
 void expectTransposed(const Transpose& t, const Shape& s, size_t size)
 {
-    Bytes memory = noise(size), expected = memory;
+    Bytes memory = filled(size), expected = memory;
     for (size_t i = 0; i < s.rows; ++i)
         for (size_t j = 0; j < s.cols; ++j) {
             const size_t to = s.dst + (j * s.dstStride + i) * t.bytes;
@@ -56,7 +56,7 @@ void expectApart(const Transpose& t, unsigned rows, unsigned cols, unsigned srcS
 void expectSquare(const Transpose& t, unsigned n, unsigned stride, size_t at)
 {
     const size_t last = n ? size_t(n - 1) * (stride > 1 ? stride : 1) + n : 0;
-    Bytes memory = noise(at + last * t.bytes + 40), expected = memory;
+    Bytes memory = filled(at + last * t.bytes + 40), expected = memory;
     const auto element = [&](size_t i, size_t j) { return at + (i * stride + j) * t.bytes; };
     for (size_t i = 0; i < n; ++i) {
         if (t.conjugate) flipSign(expected, element(i, i));
