@@ -626,6 +626,300 @@ IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
    (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
 IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
 
+/* ---- Matrices: transpose, sub-matrices, exchanges, triangles ---- */
+
+/* dst(j, i) = src(i, j), that is dst[j*dstStride+i] = src[i*srcStride+j]. Rows and columns are those of the
+   source; the destination receives cols rows of rows elements. Bits are moved. */
+void SIG5D_CDECL TransposeMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+
+/* dst(j, i) = conj(src(i, j)). The conjugate transpose. Conjugation inverts the sign bit of the imaginary part:
+   +0.0 becomes -0.0, a NaN keeps its payload. */
+void SIG5D_CDECL AdjungateMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL AdjungateMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+
+/* a(i, j) and a(j, i) exchanged for i > j. Transposes in place; the diagonal is not touched. */
+void SIG5D_CDECL TransposeSquareMatrix(Ipp64f* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_16s(Ipp16s* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_16s_Idx(Ipp16s* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_32s(Ipp32s* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_32s_Idx(Ipp32s* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_8u(Ipp8u* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_8u_Idx(Ipp8u* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_Idx(Ipp64f* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrixc(Ipp64fc* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrixc_Idx(Ipp64fc* a, int aIdx, unsigned int n, unsigned int stride);
+
+/* a(i, j) = conj(old a(j, i)). The conjugate transpose in place: every element, the diagonal too, gets the
+   conjugate of its mirror image. */
+void SIG5D_CDECL AdjungateSquareMatrixc(Ipp64fc* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL AdjungateSquareMatrixc_Idx(Ipp64fc* a, int aIdx, unsigned int n, unsigned int stride);
+
+/* dst(dstRow+i, dstCol+j) = src(srcRow+i, srcCol+j). Copies a block of rows x cols elements; elements of the
+   destination outside the block keep their contents. */
+void SIG5D_CDECL CopySubMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int srcRow, unsigned int srcCol, unsigned int
+        dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int srcRow, unsigned int srcCol, unsigned
+        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int srcRow, unsigned int srcCol, unsigned
+        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int srcRow, unsigned int srcCol, unsigned int
+        dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int srcRow, unsigned int srcCol, unsigned
+        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+
+/* dst(i, j) = src(i, j). Copies the top left block of a matrix into one of another row stride. Nothing is filled:
+   a caller that grows a matrix passes the old size and sets the new elements itself, one that shrinks it passes
+   the new size. */
+void SIG5D_CDECL ResizeMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+
+/* a(row1, k) and a(row2, k) exchanged for k < cols. A row exchanged with itself stays as it is. Bits are moved,
+   both parts of complex elements together. */
+void SIG5D_CDECL RowExchange(Ipp64f* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int stride);
+void SIG5D_CDECL RowExchange_16s(Ipp16s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchange_32s(Ipp32s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchange_32s_Idx(Ipp32s* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchange_8u(Ipp8u* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchange_8u_Idx(Ipp8u* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchange_Idx(Ipp64f* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchangec(Ipp64fc* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchangec_Idx(Ipp64fc* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+
+/* a(k, col1) and a(k, col2) exchanged for k < rows. A column exchanged with itself stays as it is. Bits are moved,
+   both parts of complex elements together. */
+void SIG5D_CDECL ColExchange(Ipp64f* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int stride);
+void SIG5D_CDECL ColExchange_16s(Ipp16s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchange_32s(Ipp32s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchange_32s_Idx(Ipp32s* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchange_8u(Ipp8u* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchange_8u_Idx(Ipp8u* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchange_Idx(Ipp64f* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchangec(Ipp64fc* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchangec_Idx(Ipp64fc* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+
+/* dst(i, j) = src(i, j) for j < i, and for j = i when diagonal is not 0. The matrix need not be square. Elements
+   outside the triangle keep their contents. */
+void SIG5D_CDECL LowerTriangle(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTrianglec(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+
+/* dst(i, j) = src(i, j) for j > i, and for j = i when diagonal is not 0. The matrix need not be square. Elements
+   outside the triangle keep their contents. */
+void SIG5D_CDECL UpperTriangle(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTrianglec(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+
+/* a(i, j) = 0 for j < i, and for j = i when diagonal is not 0. Sets all bits to zero: +0.0 in floating-point
+   matrices. */
+void SIG5D_CDECL ZeroLowerTriangle(Ipp64f* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_32s(Ipp32s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_32s_Idx(Ipp32s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_8u(Ipp8u* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_8u_Idx(Ipp8u* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
+        int diagonal);
+void SIG5D_CDECL ZeroLowerTrianglec(Ipp64fc* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+
+/* a(i, j) = 0 for j > i, and for j = i when diagonal is not 0. Sets all bits to zero: +0.0 in floating-point
+   matrices. */
+void SIG5D_CDECL ZeroUpperTriangle(Ipp64f* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_32s(Ipp32s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_32s_Idx(Ipp32s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_8u(Ipp8u* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_8u_Idx(Ipp8u* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
+        int diagonal);
+void SIG5D_CDECL ZeroUpperTrianglec(Ipp64fc* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+
+/* ---- Bit packing and pointer access ---- */
+
+/* bit i of words[w] = src[offset+32*w+i] != 0. Packs one bit an element, the first into the lowest bit. Bits
+   beyond `end` are 0. */
+void SIG5D_CDECL BitPack_16s(const Ipp16s* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
+        nWords);
+void SIG5D_CDECL BitPack_16s_Idx(const Ipp16s* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
+        int wordsIdx, unsigned int nWords);
+void SIG5D_CDECL BitPack_32s(const Ipp32s* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
+        nWords);
+void SIG5D_CDECL BitPack_32s_Idx(const Ipp32s* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
+        int wordsIdx, unsigned int nWords);
+void SIG5D_CDECL BitPack_8u(const Ipp8u* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
+        nWords);
+void SIG5D_CDECL BitPack_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
+        int wordsIdx, unsigned int nWords);
+
+/* dst[offset+i] = bit i%32 of words[i/32]. Writes 1 or 0 for each bit, the lowest first. `reserved` is ignored. */
+void SIG5D_CDECL BitUnpack_16s(const Ipp32u* words, unsigned int reserved, Ipp16s* dst, unsigned int offset, unsigned
+        int n);
+void SIG5D_CDECL BitUnpack_16s_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp16s* dst, int dstIdx,
+        unsigned int offset, unsigned int n);
+void SIG5D_CDECL BitUnpack_32s(const Ipp32u* words, unsigned int reserved, Ipp32s* dst, unsigned int offset, unsigned
+        int n);
+void SIG5D_CDECL BitUnpack_32s_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp32s* dst, int dstIdx,
+        unsigned int offset, unsigned int n);
+void SIG5D_CDECL BitUnpack_8u(const Ipp32u* words, unsigned int reserved, Ipp8u* dst, unsigned int offset, unsigned
+        int n);
+void SIG5D_CDECL BitUnpack_8u_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp8u* dst, int dstIdx,
+        unsigned int offset, unsigned int n);
+
+/* *out = *p. */
+void SIG5D_STDCALL GetValFromPtr(const Ipp64f* p, Ipp64f* out);
+
+/* the result is *p. */
+Ipp64f SIG5D_STDCALL GetValFromPtrf(const Ipp64f* p);
+
+/* *out = *p. */
+void SIG5D_STDCALL GetValcFromPtr(const Ipp64fc* p, Ipp64fc* out);
+
+/* *out = *p. */
+void SIG5D_STDCALL GetValIFromPtr(const Ipp32s* p, Ipp32s* out);
+
+/* *p = value. */
+void SIG5D_STDCALL SetValToPtr(Ipp64f* p, Ipp64f value);
+
+/* *p = *value. */
+void SIG5D_STDCALL SetValcToPtr(Ipp64fc* p, const Ipp64fc* value);
+
+/* *p = value. */
+void SIG5D_STDCALL SetValIToPtr(Ipp32s* p, Ipp32s value);
+
 /* ---- FIR filters ---- */
 
 /* The bytes of a specification and of a work buffer for a single-rate filter of tapsLen taps. tapsType is 19 for

@@ -19,6 +19,15 @@ BODIES(ippsSet_64fc, (Ipp64fc, Ipp64fc*, int))
 BODIES(ippsXor_8u, (const Ipp8u*, const Ipp8u*, Ipp8u*, int))
 BODIES(ippsNot_8u_I, (Ipp8u*, int))
 BODIES(ippsFlip_16u, (const Ipp16u*, Ipp16u*, int))
+#define OWN_BODIES(name, arguments)                              \
+    extern "C" void SIG5D_CDECL sig5d_stream16_##name arguments; \
+    extern "C" void SIG5D_CDECL sig5d_stream32_##name arguments;
+using Size = unsigned;
+OWN_BODIES(ResizeMatrix_8u, (const Ipp8u*, Ipp8u*, Size, Size, Size, Size))
+OWN_BODIES(TransposeMatrix_8u, (const Ipp8u*, Ipp8u*, Size, Size, Size, Size))
+OWN_BODIES(TransposeMatrix_16s, (const Ipp16s*, Ipp16s*, Size, Size, Size, Size))
+OWN_BODIES(TransposeMatrix, (const Ipp64f*, Ipp64f*, Size, Size, Size, Size))
+OWN_BODIES(AdjungateMatrixc, (const Ipp64fc*, Ipp64fc*, Size, Size, Size, Size))
 
 using support::Bytes;
 using support::noise;
@@ -86,6 +95,54 @@ TEST_P(Stream, FillsAndFlips)
             (reinterpret_cast<const Ipp16u*>(a.data()), reinterpret_cast<Ipp16u*>(&d[to]), static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
         }
+}
+
+TEST_P(Stream, BlocksOfLongRows)
+{
+    const Bytes a = noise(5 * 4500), before = noise(5 * 4600, 2);
+    for (Size cols : {4096u, 4111u, 4290u})
+        for (size_t to : {0u, 1u, 17u, 40u}) {
+            Bytes d = before, expected = before;
+            for (size_t i = 0; i < 4; ++i) std::copy_n(&a[3 + i * 4400], cols, &expected[to + i * 4501]);
+            PICK(ResizeMatrix_8u)(&a[3], &d[to], 4, cols, 4400, 4501);
+            ASSERT_EQ(d, expected) << cols << ' ' << to;
+        }
+}
+
+namespace {
+
+// Rows of the result are a multiple of a cache line apart, as streaming asks for; results begin anywhere in a line.
+template <class T, class F> void streamsTransposed(F transpose, bool conjugate)
+{
+    const Size line = 64 / sizeof(T);
+    for (Size rows : {2 * line, 2 * line + 1, 3 * line - 1, 5 * line + 3, 7 * line})
+        for (Size cols : {400 / Size(sizeof(T)) + 16, 24577 / rows / Size(sizeof(T)) + 17})
+            for (size_t shift : {size_t(0), sizeof(T), 48 + sizeof(T)}) {
+                const size_t stride = 9 * line;
+                const Bytes a = noise(sizeof(T) * rows * (cols + 3));
+                Bytes d = noise(sizeof(T) * stride * cols + 192, 2);
+                const size_t at = -reinterpret_cast<uintptr_t>(d.data()) % 64 + shift;
+                Bytes expected = d;
+                for (size_t i = 0; i < rows; ++i)
+                    for (size_t j = 0; j < cols; ++j) {
+                        const size_t to = at + (j * stride + i) * sizeof(T);
+                        std::copy_n(&a[(i * (cols + 3) + j) * sizeof(T)], sizeof(T), &expected[to]);
+                        if (conjugate) expected[to + 15] ^= 0x80;
+                    }
+                transpose(reinterpret_cast<const T*>(a.data()), reinterpret_cast<T*>(&d[at]), rows, cols, cols + 3,
+                          static_cast<Size>(stride));
+                ASSERT_TRUE(d == expected) << sizeof(T) << " bytes, " << rows << 'x' << cols << ' ' << shift;
+            }
+}
+
+} // namespace
+
+TEST_P(Stream, Transposes)
+{
+    streamsTransposed<Ipp8u>(PICK(TransposeMatrix_8u), false);
+    streamsTransposed<Ipp16s>(PICK(TransposeMatrix_16s), false);
+    streamsTransposed<Ipp64f>(PICK(TransposeMatrix), false);
+    streamsTransposed<Ipp64fc>(PICK(AdjungateMatrixc), true);
 }
 
 INSTANTIATE_TEST_SUITE_P(Widths, Stream, testing::Values(16, 32), testing::PrintToStringParamName());
