@@ -103,7 +103,9 @@ registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int 
         std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
         context += piece;
     }
-    return registry::invoke(entry, a.f, a.values.data(), stackPhase);
+    if (a.f.index != registry::IndexForm::only) return registry::invoke(entry, a.f, a.values.data(), stackPhase);
+    const std::vector<int> zero(static_cast<size_t>(a.f.argCount));
+    return registry::invokeIndexed(entry, a.f, a.values.data(), zero.data(), stackPhase);
 }
 
 std::string Stage::strayWrite(const registry::Arguments& a) const
@@ -147,7 +149,10 @@ std::string nameOf(const registry::Function& f)
     return std::string(f.name) + (f.index == registry::IndexForm::written ? "_Idx" : "");
 }
 
-registry::Entry entryOf(const registry::Function& f) { return find(nameOf(f).c_str()); }
+registry::Entry entryOf(const registry::Function& f)
+{
+    return find(f.hasPlain() ? f.name : (std::string(f.name) + "_Idx").c_str());
+}
 
 std::vector<Variant> bodiesOf(const registry::Function& f)
 {
