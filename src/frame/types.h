@@ -5,8 +5,10 @@
 // Symbols are hidden unless they say otherwise; the DLL's export table is a list of its own.
 #ifdef __ELF__
 #define SIG5D_EXPORT __attribute__((visibility("default")))
+#define SIG5D_HIDDEN __attribute__((visibility("hidden")))
 #else
 #define SIG5D_EXPORT
+#define SIG5D_HIDDEN
 #endif
 
 namespace sig5d {

@@ -2,6 +2,7 @@
 // a plain loop does not serve. In px a vector has one element, so that the same source is the plain reference.
 #pragma once
 #include "frame/types.h"
+#include <utility>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -48,16 +49,18 @@ inline void store(T* p, Vec<T> v)
     storen<lanes<T>>(p, v);
 }
 
+template <class T, int... i>
+inline Vec<T, sizeof...(i)> splat_lanes(T x, std::integer_sequence<int, i...>)
+{
+    return Vec<T, sizeof...(i)>{(void(i), x)...};
+}
 template <int n, class T>
 inline Vec<T, n> splatn(T x)
 {
-    if constexpr (n == 1) {
+    if constexpr (n == 1)
         return x;
-    } else {
-        Vec<T, n> v;
-        for (int i = 0; i < n; ++i) v[i] = x;
-        return v;
-    }
+    else
+        return splat_lanes(x, std::make_integer_sequence<int, n>{});
 }
 template <class T>
 inline Vec<T> splat(T x)

@@ -1,26 +1,18 @@
-// The library under test: its exports by name, and a forced processor variant.
+// The library under test, in the tests' own words.
 #pragma once
-#include "sig5d.h"
-#include <cstdint>
-#include <ostream>
-#include <vector>
+#include "variants.h"
 
 namespace support {
 
-using Entry = void (*)();
-
-Entry find(const char* name); // null: not exported
-
-struct Variant {
-    const char* code;
-    int index;
-    Ipp64u features; // what selects it
-};
-extern const Variant variants[6];
-inline void PrintTo(const Variant& v, std::ostream* out) { *out << v.code; }
-
-void force(const Variant& v); // whatever the processor has
-const Variant& current(); // the variant that answers
-std::vector<Variant> supported(); // those that this processor can run
+using registry::bodiesOf;
+using registry::current;
+using registry::Entry;
+using registry::entryOf;
+using registry::force;
+using registry::nameOf;
+using registry::supported;
+using registry::Variant;
+using registry::variants;
+inline registry::Entry find(const char* name) { return registry::exported(name); }
 
 } // namespace support

@@ -103,9 +103,11 @@ registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int 
         std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
         context += piece;
     }
-    if (a.f.index != registry::IndexForm::only) return registry::invoke(entry, a.f, a.values.data(), stackPhase);
-    const std::vector<int> zero(static_cast<size_t>(a.f.argCount));
-    return registry::invokeIndexed(entry, a.f, a.values.data(), zero.data(), stackPhase);
+    if (a.f.index == registry::IndexForm::only) {
+        const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
+        return registry::invokeIndexed(entry, a.f, a.values.data(), zeros.data(), stackPhase);
+    }
+    return registry::invoke(entry, a.f, a.values.data(), stackPhase);
 }
 
 std::string Stage::strayWrite(const registry::Arguments& a) const
@@ -143,23 +145,5 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
 }
 
 bool generallyCallable(const registry::Function& f) { return std::strcmp(f.fixture, "none") != 0; }
-
-std::string nameOf(const registry::Function& f)
-{
-    return std::string(f.name) + (f.index == registry::IndexForm::written ? "_Idx" : "");
-}
-
-registry::Entry entryOf(const registry::Function& f)
-{
-    return find(f.hasPlain() ? f.name : (std::string(f.name) + "_Idx").c_str());
-}
-
-std::vector<Variant> bodiesOf(const registry::Function& f)
-{
-    std::vector<Variant> found;
-    for (const Variant& v : supported())
-        if (std::strstr(f.bodies, v.code)) found.push_back(v);
-    return found;
-}
 
 } // namespace support

@@ -21,7 +21,7 @@ public:
     // Copies the arrays' initial content to their places and sets the pointers. With "shared" the destination of that
     // pair is its source.
     void put(registry::Arguments& a, Place place, const registry::InPlace* shared = nullptr);
-    // The plain form, or the written-out _Idx form; where only that by rule exists, with indexes of 0.
+    // The plain form, or the _Idx form (with indexes 0) where there is no other.
     registry::Answer call(registry::Arguments& a, registry::Entry entry, int stackPhase = 0);
 
     // What the argument points to now.
@@ -48,10 +48,5 @@ bool isOutput(const registry::Arg& arg);
 
 // Functions to which the general tests apply: those whose arguments the description or a fixture can build.
 bool generallyCallable(const registry::Function& f);
-registry::Entry entryOf(const registry::Function& f); // the plain form; the _Idx form where there is no plain one
-std::string nameOf(const registry::Function& f);
-
-// The variants that have bodies of their own for this function and that this processor can run; px first.
-std::vector<Variant> bodiesOf(const registry::Function& f);
 
 } // namespace support

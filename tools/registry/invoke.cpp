@@ -1,18 +1,17 @@
 #include "invoke.h"
 #include <cstring>
-#include <vector>
 
 namespace registry {
 namespace {
 
-// Argument words in the order of the platform's convention.
-class Words {
+class Words : public CallWords
+{
 public:
     void integer(uintptr_t value)
     {
 #ifdef __x86_64__
         if (integerCount_ < 6) {
-            call.integers[integerCount_++] = value;
+            integers[integerCount_++] = value;
             return;
         }
 #endif
@@ -22,7 +21,7 @@ public:
     {
 #ifdef __x86_64__
         if (floatCount_ < 8) {
-            call.floats[floatCount_++] = value;
+            floats[floatCount_++] = value;
             return;
         }
 #endif
@@ -58,14 +57,12 @@ public:
             raw(&value, sizeof value);
     }
 
-    CheckedCall call = {};
-    std::vector<uintptr_t> stack;
-
 private:
     void raw(const void* data, size_t bytes)
     {
         uintptr_t words[2] = {};
         std::memcpy(words, data, bytes);
+        if (bytes > sizeof(uintptr_t) && firstDouble < 0) firstDouble = static_cast<int>(stack.size());
         for (size_t i = 0; i * sizeof(uintptr_t) < bytes; ++i) stack.push_back(words[i]);
     }
     [[maybe_unused]] int integerCount_ = 0, floatCount_ = 0;
@@ -75,16 +72,25 @@ void add(Words& w, const Arg& a, const Value& v)
 {
     if (a.kind != Kind::scalar && a.kind != Kind::index) return w.integer(reinterpret_cast<uintptr_t>(v.p));
     switch (a.element) {
-    case Element::f64: return w.floating(v.re);
-    case Element::f32: return w.single(static_cast<float>(v.re));
-    case Element::c64f: return w.complex(v.re, v.im);
+    case Element::f64:
+        return w.floating(v.re);
+    case Element::f32:
+        return w.single(static_cast<float>(v.re));
+    case Element::c64f:
+        return w.complex(v.re, v.im);
     case Element::u64:
-    case Element::i64: return w.wide(v.i);
-    case Element::c32s: return w.wide((v.i & 0xFFFFFFFFLL) | v.i2 << 32);
-    case Element::u8: return w.integer(static_cast<uint8_t>(v.i));
-    case Element::u16: return w.integer(static_cast<uint16_t>(v.i));
-    case Element::i16: return w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(static_cast<int16_t>(v.i))));
-    default: return w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(static_cast<int32_t>(v.i))));
+    case Element::i64:
+        return w.wide(v.i);
+    case Element::c32s:
+        return w.wide((v.i & 0xFFFFFFFFLL) | v.i2 << 32);
+    case Element::u8:
+        return w.integer(static_cast<uint8_t>(v.i));
+    case Element::u16:
+        return w.integer(static_cast<uint16_t>(v.i));
+    case Element::i16:
+        return w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(static_cast<int16_t>(v.i))));
+    default:
+        return w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(static_cast<int32_t>(v.i))));
     }
 }
 
@@ -116,9 +122,13 @@ std::string intrusionOf(const CheckedCall& c, uintptr_t poppedBytes, bool return
     return said;
 }
 
-Answer run(Entry entry, const Function& f, Words& w, int phase, bool standardCall)
+Answer run(Entry entry, const Function& f, const CallWords& w, int phase, bool standardCall)
 {
-    CheckedCall& c = w.call;
+    CheckedCall c = {};
+#ifdef __x86_64__
+    std::memcpy(c.integers, w.integers, sizeof c.integers);
+    std::memcpy(c.floats, w.floats, sizeof c.floats);
+#endif
     const bool returnsFloat = f.result == Result::f64;
     c.entry = entry;
     c.words = w.stack.data();
@@ -140,11 +150,20 @@ Answer run(Entry entry, const Function& f, Words& w, int phase, bool standardCal
     std::memcpy(&wide, c.result, sizeof wide);
     switch (f.result) {
     case Result::status:
-    case Result::i32: answer.status = static_cast<int32_t>(wide); break;
-    case Result::u32: answer.status = static_cast<uint32_t>(wide); break;
-    case Result::u64: answer.status = wide; break;
-    case Result::pointer: answer.status = static_cast<long long>(c.result[0]); break;
-    default: break;
+    case Result::i32:
+        answer.status = static_cast<int32_t>(wide);
+        break;
+    case Result::u32:
+        answer.status = static_cast<uint32_t>(wide);
+        break;
+    case Result::u64:
+        answer.status = wide;
+        break;
+    case Result::pointer:
+        answer.status = static_cast<long long>(c.result[0]);
+        break;
+    default:
+        break;
     }
     return answer;
 }
@@ -153,21 +172,31 @@ Answer run(Entry entry, const Function& f, Words& w, int phase, bool standardCal
 
 bool takesIndex(const Arg& a) { return a.kind == Kind::array || a.kind == Kind::work; }
 
-Answer invoke(Entry entry, const Function& f, const Value* values, int stackPhase)
+CallWords wordsOf(const Function& f, const Value* values)
 {
     Words w;
     for (int i = 0; i < f.argCount; ++i) add(w, f.args[i], values[i]);
-    return run(entry, f, w, stackPhase, f.standardCall);
+    return w;
 }
 
-Answer invokeIndexed(Entry entry, const Function& f, const Value* values, const int* indexes, int stackPhase)
+CallWords wordsOfIndexed(const Function& f, const Value* values, const int* indexes)
 {
     Words w;
     for (int i = 0, k = 0; i < f.argCount; ++i) {
         add(w, f.args[i], values[i]);
         if (takesIndex(f.args[i])) w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(indexes[k++])));
     }
-    return run(entry, f, w, stackPhase, false);
+    return w;
+}
+
+Answer invoke(Entry entry, const Function& f, const Value* values, int stackPhase)
+{
+    return run(entry, f, wordsOf(f, values), stackPhase, f.standardCall);
+}
+
+Answer invokeIndexed(Entry entry, const Function& f, const Value* values, const int* indexes, int stackPhase)
+{
+    return run(entry, f, wordsOfIndexed(f, values, indexes), stackPhase, false);
 }
 
 } // namespace registry

@@ -3,14 +3,13 @@
 #include "checked_call.h"
 #include "registry.h"
 #include <string>
+#include <vector>
 
 namespace registry {
 
-using Entry = void (*)();
-
 struct Answer {
-    long long status = 0; // the result as an integer: status, count, 64-bit value, pointer
-    double number = 0; // the result of a function that returns a double
+    long long status = 0;  // the result as an integer: status, count, 64-bit value, pointer
+    double number = 0;     // the result of a function that returns a double
     std::string intrusion; // what the call changed that it must not; empty: nothing
 };
 
@@ -20,5 +19,15 @@ Answer invoke(Entry entry, const Function& f, const Value* values, int stackPhas
 Answer invokeIndexed(Entry entry, const Function& f, const Value* values, const int* indexes, int stackPhase = 0);
 
 bool takesIndex(const Arg& a);
+
+// Where the platform's convention puts the arguments of a call.
+struct CallWords {
+    uintptr_t integers[6] = {}; // registers of x86-64
+    double floats[8] = {};
+    std::vector<uintptr_t> stack;
+    int firstDouble = -1; // place on the stack of the first 8-byte argument of 32-bit code; -1: none
+};
+CallWords wordsOf(const Function& f, const Value* values);                            // as invoke calls
+CallWords wordsOfIndexed(const Function& f, const Value* values, const int* indexes); // as invokeIndexed calls
 
 } // namespace registry

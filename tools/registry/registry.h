@@ -6,6 +6,8 @@
 
 namespace registry {
 
+using Entry = void (*)(); // any function of the interface
+
 // One argument's value. Which member counts follows from the argument's kind and type.
 struct Value {
     long long i = 0; // int, unsigned, integer elements, the real part of an integer complex

@@ -1,4 +1,4 @@
-#include "support/library.h"
+#include "variants.h"
 #include <cstring>
 #ifdef _WIN32
 #include <windows.h>
@@ -6,12 +6,12 @@
 #include <dlfcn.h>
 #endif
 
-namespace support {
+namespace registry {
 
 const Variant variants[6] = {{"px", 0, 0x3},  {"w7", 1, 0x7},   {"s8", 2, 0x1F},
                              {"p8", 3, 0xDF}, {"g9", 4, 0x1DF}, {"h9", 5, 0x81DF}};
 
-Entry find(const char* name)
+Entry exported(const char* name)
 {
 #ifdef _WIN32
     static const HMODULE library = LoadLibraryA("Numlab.Sig5d.dll");
@@ -20,6 +20,8 @@ Entry find(const char* name)
     return reinterpret_cast<Entry>(dlsym(RTLD_DEFAULT, name));
 #endif
 }
+
+std::string nameOf(const Function& f) { return std::string(f.name) + (f.hasPlain() ? "" : "_Idx"); }
 
 void force(const Variant& v) { ippSetCpuFeatures(v.features | Ipp64u(1) << 63); }
 
@@ -49,4 +51,12 @@ std::vector<Variant> supported()
     return list;
 }
 
-} // namespace support
+std::vector<Variant> bodiesOf(const Function& f)
+{
+    std::vector<Variant> found;
+    for (const Variant& v : supported())
+        if (std::strstr(f.bodies, v.code)) found.push_back(v);
+    return found;
+}
+
+} // namespace registry

@@ -1,0 +1,179 @@
+// Loops over whole arrays that many kernels share. An operation is a small record with a templated call operator, so
+// that one expression serves single elements (in px) and vectors of any width.
+#pragma once
+#include "kernel/stream.h"
+#include "kernel/vec.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+struct Same {
+    template <class V> V operator()(V x) const { return x; }
+};
+
+#if SIG5D_LEVEL == 0
+
+// d[i] = op(a[i], ...) for 0 <= i < n.
+template <class D, class Op, class... A> inline void map(size_t n, D* d, Op op, A... a)
+{
+    for (size_t i = 0; i < n; ++i) d[i] = op(a[i]...);
+}
+
+#else
+
+// 8, 4, 2 or 1 bytes in the low end of a register.
+template <int bytes, class T> inline Vec<T, 16 / sizeof(T)> load_part(const T* p)
+{
+    __m128i v;
+    if constexpr (bytes == 16) {
+        v = _mm_loadu_si128(reinterpret_cast<const __m128i_u*>(p));
+    } else if constexpr (bytes == 8) {
+        v = _mm_loadl_epi64(reinterpret_cast<const __m128i_u*>(p));
+    } else {
+        u32 low = 0;
+        __builtin_memcpy(&low, p, bytes);
+        v = _mm_cvtsi32_si128(static_cast<int>(low));
+    }
+    return reinterpret_cast<Vec<T, 16 / sizeof(T)>>(v);
+}
+
+// The low end of a register of any size.
+template <int bytes, class V> inline void store_part(void* p, V vector)
+{
+    const auto v = reinterpret_cast<Vec<i32, sizeof(V) / 4>>(vector);
+    if constexpr (bytes <= 4) {
+        const int low = v[0];
+        __builtin_memcpy(p, &low, bytes);
+    } else {
+        __builtin_memcpy(p, &v, bytes);
+    }
+}
+
+// Any vector, wherever p points.
+template <class V> inline void put(void* p, V v) { __builtin_memcpy(p, &v, sizeof v); }
+
+// Fewer elements than a vector has: the largest power of two of bytes that fits, once from either end.
+template <int bytes, class D, class Op, class... A> inline void map_short(size_t n, D* d, Op op, A... a)
+{
+    constexpr size_t part = bytes / sizeof(D);
+    if constexpr (part == 0) {
+        return;
+    } else if (n >= part) {
+        const auto head = op(load_part<bytes>(a)...), tail = op(load_part<bytes>(a + (n - part))...);
+        store_part<bytes>(d, head);
+        store_part<bytes>(d + (n - part), tail);
+    } else {
+        map_short<bytes / 2>(n, d, op, a...);
+    }
+}
+
+// Elements from d to the next address that is a multiple of the vector's size (as far as elements reach one).
+template <class D> inline size_t misalignment(const D* d)
+{
+    return -reinterpret_cast<uintptr_t>(d) % vectorBytes / sizeof(D);
+}
+
+// Where the n elements that a source reads begin in memory.
+template <class T> inline const T* lowest(const T* a, size_t) { return a; }
+
+// Keeps a pointer that the compiler would otherwise turn into an index, and the order of loads and stores around it:
+// stores with an index, or that alternate between cache lines, are slower on some processors.
+template <class P> inline void keep(P& p) { asm volatile("" : "+r"(p) : : "memory"); }
+
+// Four vectors: all loaded before any is stored.
+template <class D, class Store, class Op, class... A> inline void map_four(D*& d, Store write, Op op, A&... a)
+{
+    constexpr int L = lanes<D>;
+    const auto v0 = op(loadn<L>(a)...), v1 = op(loadn<L>(a + L)...);
+    const auto v2 = op(loadn<L>(a + 2 * L)...), v3 = op(loadn<L>(a + 3 * L)...);
+    write(d, v0);
+    keep(d);
+    write(d + L, v1);
+    keep(d);
+    write(d + 2 * L, v2);
+    keep(d);
+    write(d + 3 * L, v3);
+    d += 4 * L;
+    (void(a += 4 * L), ...);
+    keep(d);
+}
+
+// As many groups of four as there are. Returns the elements that are left.
+template <class D, class Store, class Op, class... A>
+inline size_t map_blocks(size_t n, D*& d, Store write, Op op, A&... a)
+{
+    constexpr int L = lanes<D>;
+    for (; n >= 8 * L; n -= 8 * L) {
+        map_four(d, write, op, a...);
+        map_four(d, write, op, a...);
+    }
+    if (n >= 4 * L) {
+        map_four(d, write, op, a...);
+        n -= 4 * L;
+    }
+    return n;
+}
+
+// d[i] = op(a[i], ...) for 0 <= i < n. A source may be d itself, or overlap it and begin behind it. Sources are
+// pointers to elements of the destination's size, or what offers the same operators and loads.
+//
+// The first and the last vector overlap the others, so that no element is left over: they are computed before anything
+// is stored and stored at the end. Between them the stores are aligned, since stores that cross a cache line take
+// twice as long. Always inlined, so that an operation may hold vectors: as arguments of a real function those of 32
+// bytes would leave the upper halves of registers in use, which slows down all code after it.
+template <class D, class Op, class... A> [[gnu::always_inline]] inline void map(size_t n, D* d, Op op, A... a)
+{
+    constexpr size_t L = lanes<D>;
+    if (n < L) return map_short<vectorBytes / 2>(n, d, op, a...);
+    D* const first = d;
+    D* const last = d + (n - L);
+    const auto head = op(loadn<L>(a)...), tail = op(loadn<L>(a + (n - L))...);
+    if (n > 4 * L) {
+        size_t skip = misalignment(d);
+        // A value that is repeated in a vector of bytes must begin anew there.
+        if constexpr (requires { op.period; }) skip &= ~(op.period - 1);
+        const bool streaming = streamingPays(n * sizeof(D)) && (apart(d, lowest(a, n), n * sizeof(D)) && ...) &&
+                               aligned(d + skip, vectorBytes);
+        d += skip;
+        (void(a += skip), ...);
+        size_t left = n - skip;
+        const auto past_caches = [](D* p, auto v) { stream(p, v); };
+        const auto ordinary = [](D* p, auto v) { put(p, v); };
+        if (streaming) {
+            left = map_blocks(left, d, past_caches, op, a...);
+            stream_end();
+        } else {
+            left = map_blocks(left, d, ordinary, op, a...);
+        }
+        for (; left > L; left -= L) {
+            put(d, op(loadn<L>(a)...));
+            d += L;
+            (void(a += L), ...);
+        }
+    } else if (n > 2 * L) {
+        const auto second = op(loadn<L>(a + L)...), third = op(loadn<L>(a + (n - 2 * L))...);
+        put(d + L, second);
+        put(d + (n - 2 * L), third);
+    }
+    put(first, head);
+    put(last, tail);
+}
+
+#endif
+
+// One loop for all types, where only bits count and not the elements that they make up; in px one by one.
+template <class Op, class... A> [[gnu::noinline]] void map_bytes(size_t n, u8* d, Op op, A... a)
+{
+    map(n, d, op, a...);
+}
+template <class D, class Op, class... A> inline void map_bits(int n, D* d, Op op, const A*... a)
+{
+#if SIG5D_LEVEL == 0
+    map(static_cast<size_t>(n), d, op, a...);
+#else
+    map_bytes(static_cast<size_t>(n) * sizeof(D), reinterpret_cast<u8*>(d), op, reinterpret_cast<const u8*>(a)...);
+#endif
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT

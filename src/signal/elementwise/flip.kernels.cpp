@@ -1,0 +1,128 @@
+// Flip: arrays in reverse order.
+#include "frame/entry.h"
+#include "kernel/loops.h"
+#include <utility>
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// An array read from its end on: what map takes for a pointer.
+template <class T> struct Backwards {
+    const T* end;
+    Backwards operator+(size_t n) const { return {end - n}; }
+    void operator+=(size_t n) { end -= n; }
+    T operator[](size_t i) const { return *(end - 1 - i); }
+};
+
+#if SIG5D_LEVEL == 0
+
+template <class T> void flip_apart(size_t n, const T* a, T* d) { map(n, d, Same{}, Backwards<T>{a + n}); }
+template <class T> void flip_in_place(size_t n, T* d)
+{
+    for (T *p = d, *q = d + n - 1; p < q; ++p, --q) {
+        const T x = *p;
+        *p = *q;
+        *q = x;
+    }
+}
+
+#else
+
+// How elements of so many bytes are shuffled; what is longer goes in units of four.
+template <int bytes> struct UnitOf {
+    using type = u32;
+};
+template <> struct UnitOf<1> {
+    using type = u8;
+};
+template <> struct UnitOf<2> {
+    using type = u16;
+};
+
+template <int group, class V, size_t... i> inline V reversed_units(V v, std::index_sequence<i...>)
+{
+    constexpr size_t last = sizeof...(i) / group - 1;
+    return __builtin_shufflevector(v, v, ((last - i / group) * group + i % group)...);
+}
+
+// The elements of so many bytes in reverse order.
+template <int bytes, class V> inline V reversed(V v)
+{
+#if SIG5D_LEVEL < 2
+    // There is no shuffle of bytes, and none of pairs but within eight bytes.
+    if constexpr (bytes == 1) {
+        using Pairs = Vec<u16, 8>;
+        const Pairs pairs = reinterpret_cast<Pairs>(v);
+        return reversed<2>(reinterpret_cast<V>(pairs << 8 | pairs >> 8));
+    } else if constexpr (bytes == 2) {
+        const auto pairs = reinterpret_cast<Vec<u16, 8>>(v);
+        return reversed<8>(reinterpret_cast<V>(__builtin_shufflevector(pairs, pairs, 3, 2, 1, 0, 7, 6, 5, 4)));
+    } else
+#endif
+    {
+        using Unit = typename UnitOf<bytes>::type;
+        constexpr size_t units = sizeof(V) / sizeof(Unit);
+        const auto u = reinterpret_cast<Vec<Unit, units>>(v);
+        return reinterpret_cast<V>(reversed_units<bytes / sizeof(Unit)>(u, std::make_index_sequence<units>{}));
+    }
+}
+
+template <int L, class T> inline Vec<u8, L * sizeof(T)> loadn(Backwards<T> a)
+{
+    return reversed<sizeof(T)>(loadn<L * sizeof(T)>(reinterpret_cast<const u8*>(a.end - L)));
+}
+
+template <int bytes, class T> inline Vec<u8, 16> load_part(Backwards<T> a)
+{
+    const auto v = reversed<sizeof(T)>(load_part<bytes>(reinterpret_cast<const u8*>(a.end) - bytes));
+    return reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(v), 16 - bytes));
+}
+
+template <class T> inline const T* lowest(Backwards<T> a, size_t n) { return a.end - n; }
+
+template <class T> [[gnu::noinline]] void flip_apart(size_t n, const T* a, T* d)
+{
+    map(n, d, Same{}, Backwards<T>{a + n});
+}
+
+// From both ends towards the middle. As in map, the outermost vectors are computed first and stored last; and up to
+// four vectors map loads before it stores, so that it serves for short arrays and for the middle of long ones.
+template <class T> [[gnu::noinline]] void flip_in_place(size_t n, T* d)
+{
+    constexpr size_t L = lanes<T>;
+    if (n <= 4 * L) return flip_apart(n, d, d);
+    T* const last = d + (n - L);
+    const auto head = loadn<L>(Backwards<T>{d + n}), tail = loadn<L>(Backwards<T>{d + L});
+    const size_t skip = misalignment(d);
+    T *p = d + skip, *q = d + (n - skip);
+    size_t left = n - 2 * skip;
+    for (; left > 4 * L; left -= 4 * L) { // two at each end: stores to one cache line go together
+        const auto x0 = loadn<L>(Backwards<T>{q}), x1 = loadn<L>(Backwards<T>{q - L});
+        const auto y0 = loadn<L>(Backwards<T>{p + L}), y1 = loadn<L>(Backwards<T>{p + 2 * L});
+        put(p, x0);
+        put(p + L, x1);
+        keep(p);
+        put(q - L, y0);
+        put(q - 2 * L, y1);
+        p += 2 * L;
+        q -= 2 * L;
+        keep(q);
+    }
+    flip_apart(left, p, p);
+    put(d, head);
+    put(last, tail);
+}
+
+#endif
+
+template <class T> void flip(const T* a, T* d, int n)
+{
+    if (a == d)
+        flip_in_place(static_cast<size_t>(n), d);
+    else
+        flip_apart(static_cast<size_t>(n), a, d);
+}
+
+} // namespace
+#include "entries/signal/elementwise/flip.inc"
+} // namespace sig5d::SIG5D_VARIANT
