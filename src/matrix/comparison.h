@@ -63,6 +63,8 @@ template <> constexpr bool findsInfinities<EqualByKind> = true;
 template <class T> struct Repeated {
     T value;
     T operator[](size_t) const { return value; }
+    Repeated operator+(size_t) const { return *this; }
+    Repeated& operator+=(size_t) { return *this; }
 };
 
 // Calls act(test) with the comparison of a code; another code is none.
