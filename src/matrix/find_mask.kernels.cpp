@@ -43,24 +43,16 @@ inline Vec<i32, 8> halves(Vec<i64, 4> a, Vec<i64, 4> b)
 #endif
 
 // The first elements of a vector in lanes of 32 bits.
-template <int L> inline auto widened(Vec<i16, 8> v)
-{
-    const __m128i m = reinterpret_cast<__m128i>(v);
 #if SIG5D_LEVEL >= 5
-    return reinterpret_cast<Vec<i32, L>>(_mm256_cvtepi16_epi32(m));
-#else
-    return reinterpret_cast<Vec<i32, L>>(_mm_unpacklo_epi16(m, m));
-#endif
-}
-template <int L> inline auto widened(Vec<i8, 16> v)
+inline Vec<i32, 8> widened(Vec<i16, 8> v)
 {
-    const __m128i m = reinterpret_cast<__m128i>(v);
-#if SIG5D_LEVEL >= 5
-    return reinterpret_cast<Vec<i32, L>>(_mm256_cvtepi8_epi32(m));
-#else
-    return widened<L>(reinterpret_cast<Vec<i16, 8>>(_mm_unpacklo_epi8(m, m)));
-#endif
+    return reinterpret_cast<Vec<i32, 8>>(_mm256_cvtepi16_epi32(reinterpret_cast<__m128i>(v)));
 }
+inline Vec<i32, 8> widened(Vec<i8, 16> v)
+{
+    return reinterpret_cast<Vec<i32, 8>>(_mm256_cvtepi8_epi32(reinterpret_cast<__m128i>(v)));
+}
+#endif
 
 // All bits of a lane set where the test holds.
 template <int L, class T, class Y, class Test> inline Vec<i32, L> lanes_of(const MaskValues<T, Y, Test>& m)
@@ -72,7 +64,7 @@ template <int L, class T, class Y, class Test> inline Vec<i32, L> lanes_of(const
     } else if constexpr (sizeof(T) == 4) {
         return test(loadn<L>(m.x), vector_of<L>(m.y));
     } else {
-        return widened<L>(test(load_part<L * sizeof(T)>(m.x), part_of<L * sizeof(T)>(m.y)));
+        return widened(test(load_part<L * sizeof(T)>(m.x), part_of<L * sizeof(T)>(m.y)));
     }
 }
 struct IsNegativeInfinity {
@@ -96,7 +88,15 @@ template <int bytes, class T, class Y, class Test> inline Vec<i32, 4> load_part(
 
 template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i32* mask, size_t n)
 {
-    with_comparison(code, y, [&](auto test) { map(n, mask, Same{}, MaskValues<T, Y, decltype(test)>{x, y, test}); });
+    with_comparison(code, y, [&](auto test) {
+        const MaskValues<T, Y, decltype(test)> values{x, y, test};
+        if constexpr (sizeof(T) < sizeof *mask && SIG5D_LEVEL < 5) { // the compiler takes a whole vector of T at once
+#pragma GCC ivdep
+            for (size_t k = 0; k < n; ++k) mask[k] = values[k];
+        } else {
+            map(n, mask, Same{}, values);
+        }
+    });
 }
 template <class T> void find_mask(u32 code, const T* x, T y, i32* mask, u32 n)
 {

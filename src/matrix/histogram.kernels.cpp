@@ -1,37 +1,149 @@
 // Histograms over given bins and over bins of equal width.
 #include "frame/entry.h"
+#include "kernel/vec.h"
 #include <cstddef>
 #include <cstdint>
-#include <emmintrin.h>
+#include <immintrin.h>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-void histo_count(const u32* bins, i32* counts, u32 n)
+// Bin numbers come in groups of eight, from the array of them or made from values: then in "space".
+
+template <class Bin> struct Given {
+    const Bin* bins;
+    Bin at(size_t k) const { return bins[k]; }
+    const Bin* eight(size_t k, Bin*) const { return bins + k; }
+};
+
+// (x - offset)*scale toward zero, between limits.
+struct EqualWidth {
+    const f64* x;
+    f64 scale, offset;
+    i32 least, greatest;
+
+    EqualWidth(const f64* values, f64 perUnit, f64 first, i32 bins)
+        : x(values), scale(perUnit), offset(first), least(bins < 1 ? INT32_MIN : 0),
+          greatest(bins < 1 ? INT32_MAX : bins - 1)
+    {
+    }
+    auto limited(auto b) const
+    {
+        b = b < least ? least : b;
+        return b > greatest ? greatest : b;
+    }
+    i32 at(size_t k) const { return limited(_mm_cvttsd_si32(_mm_set_sd((x[k] - offset) * scale))); }
+
+    const i32* eight(size_t k, i32* space) const
+    {
+#if SIG5D_LEVEL == 0
+        for (size_t i = 0; i < 8; ++i) space[i] = at(k + i);
+#elif SIG5D_LEVEL >= 5
+        storen<8>(space, limited(reinterpret_cast<Vec<i32, 8>>(_mm256_set_m128i(four(k + 4), four(k)))));
+#else
+        for (size_t i = 0; i < 8; i += 4) storen<4>(space + i, limited(reinterpret_cast<Vec<i32, 4>>(four(k + i))));
+#endif
+        return space;
+    }
+
+#if SIG5D_LEVEL > 0
+private:
+    __m128i four(size_t k) const
+    {
+        const auto product = [&](auto v) { return (v - offset) * scale; };
+#if SIG5D_LEVEL >= 4
+        return _mm256_cvttpd_epi32(reinterpret_cast<__m256d>(product(loadn<4>(x + k))));
+#else
+        const __m128i b0 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(x + k))));
+        const __m128i b1 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(x + k + 2))));
+        return _mm_unpacklo_epi64(b0, b1);
+#endif
+    }
+#endif
+};
+
+#if SIG5D_LEVEL > 0
+
+// For each of four bins: how many up to it are the same, itself included.
+template <class Bin> inline Vec<i32, 4> ranks(const Bin* four)
 {
-    for (size_t k = 0; k < n; ++k) ++counts[bins[k]];
+    const auto b = reinterpret_cast<__m128i>(loadn<4>(four));
+    const auto same = [=](__m128i other) { return reinterpret_cast<Vec<i32, 4>>(_mm_cmpeq_epi32(b, other)); };
+    // Each lane with those one, two and three before it; where there is none, with itself.
+    const auto all = same(_mm_shuffle_epi32(b, _MM_SHUFFLE(2, 1, 0, 0))) +
+                     same(_mm_shuffle_epi32(b, _MM_SHUFFLE(1, 0, 1, 0))) +
+                     same(_mm_shuffle_epi32(b, _MM_SHUFFLE(0, 2, 1, 0)));
+    return Vec<i32, 4>{-2, -1, 0, 1} - all;
 }
 
-struct EqualWidth {
-    f64 scale, offset;
-    i32 bins;
-    i32 operator()(f64 x) const
-    {
-        const i32 b = _mm_cvttsd_si32(_mm_set_sd((x - offset) * scale));
-        return bins < 1 ? b : b < 0 ? 0 : b >= bins ? bins - 1 : b;
+// Four counters are read before any is stored: the last one of a bin has counted all of it.
+template <class Bin> inline void count_four(const Bin* b, i32* counts)
+{
+    const auto added = ranks(b);
+    const i32 c0 = counts[b[0]] + 1, c1 = counts[b[1]] + added[1];
+    const i32 c2 = counts[b[2]] + added[2], c3 = counts[b[3]] + added[3];
+    counts[b[0]] = c0;
+    counts[b[1]] = c1;
+    counts[b[2]] = c2;
+    counts[b[3]] = c3;
+}
+
+// Whether counters return soon after they were stored, as far as the first 16 bins from k on tell: a load that waits
+// for such a store takes seven times as long.
+template <class Bin, class Bins> inline bool repetitive(const Bins& bins, size_t k)
+{
+    Bin space[16];
+    const Bin *const a = bins.eight(k, space), *const b = bins.eight(k + 8, space + 8);
+    const auto sum = ranks(a) + ranks(a + 4) + ranks(b) + ranks(b + 4);
+    return sum[0] + sum[1] + sum[2] + sum[3] > 16 + 3;
+}
+
+#endif
+
+template <class Bin, class Bins> inline void count_bins(const Bins& bins, size_t n, i32* counts)
+{
+    size_t k = 0;
+    Bin space[8];
+#if SIG5D_LEVEL > 0
+    constexpr size_t block = 256; // has one way of counting
+    while (n - k >= 16) {
+        const size_t end = n - k < block ? k + (n - k) / 8 * 8 : k + block;
+        if (repetitive<Bin>(bins, k)) {
+            for (; k < end; k += 8) {
+                const Bin* const b = bins.eight(k, space);
+                count_four(b, counts);
+                count_four(b + 4, counts);
+            }
+        } else {
+            for (; k < end; k += 8) {
+                const Bin* const b = bins.eight(k, space);
+#pragma GCC unroll 8
+                for (size_t i = 0; i < 8; ++i) ++counts[b[i]];
+            }
+        }
     }
-};
+#endif
+    for (; k < n; ++k) ++counts[bins.at(k)];
+}
+
+void histo_count(const u32* bins, i32* counts, u32 n) { count_bins<u32>(Given<u32>{bins}, n, counts); }
 
 void histogram_count(const f64* x, f64 scale, f64 offset, i32* counts, i32 bins, u32 n)
 {
-    const EqualWidth bin{scale, offset, bins};
-    for (size_t k = 0; k < n; ++k) ++counts[bin(x[k])];
+    count_bins<i32>(EqualWidth{x, scale, offset, bins}, n, counts);
 }
 
 void histogram_store(const f64* x, f64 scale, f64 offset, f64* d, i32 bins, u32 n)
 {
-    const EqualWidth bin{scale, offset, bins};
-    for (size_t k = 0; k < n; ++k) d[bin(x[k])] = x[k];
+    const EqualWidth bin{x, scale, offset, bins};
+    size_t k = 0;
+    for (; n - k >= 8; k += 8) {
+        i32 space[8];
+        const i32* const b = bin.eight(k, space);
+#pragma GCC unroll 8
+        for (size_t i = 0; i < 8; ++i) d[b[i]] = x[k + i];
+    }
+    for (; k < n; ++k) d[bin.at(k)] = x[k];
 }
 
 void add_single(const u32* bins, const f64* values, f64* sums, size_t begin, size_t end)
