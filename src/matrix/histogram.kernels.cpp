@@ -8,46 +8,57 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// Bin numbers come in groups of eight, from the array of them or made from values: then in "space".
+// Bin numbers, in groups of eight: eight(k) are those from k on, which prepare(k) has made ready some time before.
 
-template <class Bin> struct Given {
-    const Bin* bins;
-    Bin at(size_t k) const { return bins[k]; }
-    const Bin* eight(size_t k, Bin*) const { return bins + k; }
+constexpr size_t ahead = 128;
+
+struct Given {
+    const u32* bins;
+
+    u32 at(size_t k) const { return bins[k]; }
+    void prepare(size_t) const {}
+    const u32* eight(size_t k) const { return bins + k; }
 };
 
-// (x - offset)*scale toward zero, between limits.
+// (x - offset)*scale toward zero, between limits. Groups stand in a ring from which they are read when their stores are
+// long done: loads that follow a store closely hold up those of the counters.
 struct EqualWidth {
     const f64* x;
+    size_t n;
     f64 scale, offset;
     i32 least, greatest;
+    i32 ring[2 * ahead];
 
-    EqualWidth(const f64* values, f64 perUnit, f64 first, i32 bins)
-        : x(values), scale(perUnit), offset(first), least(bins < 1 ? INT32_MIN : 0),
+    EqualWidth(const f64* values, size_t count, f64 perUnit, f64 first, i32 bins)
+        : x(values), n(count), scale(perUnit), offset(first), least(bins < 1 ? INT32_MIN : 0),
           greatest(bins < 1 ? INT32_MAX : bins - 1)
     {
+        for (size_t k = 0; k < ahead && k < n; k += 8) prepare(k);
     }
-    auto limited(auto b) const
+
+    i32 at(size_t k) const { return limited(_mm_cvttsd_si32(_mm_set_sd((x[k] - offset) * scale))); }
+    const i32* eight(size_t k) const { return ring + k % (2 * ahead); }
+
+    void prepare(size_t k)
+    {
+        if (k >= n || n - k < 8) return;
+        i32* const d = ring + k % (2 * ahead);
+#if SIG5D_LEVEL == 0
+        for (size_t i = 0; i < 8; ++i) d[i] = at(k + i);
+#elif SIG5D_LEVEL >= 5
+        storen<8>(d, limited(reinterpret_cast<Vec<i32, 8>>(_mm256_set_m128i(four(k + 4), four(k)))));
+#else
+        for (size_t i = 0; i < 8; i += 4) storen<4>(d + i, limited(reinterpret_cast<Vec<i32, 4>>(four(k + i))));
+#endif
+    }
+
+private:
+    template <class V> V limited(V b) const
     {
         b = b < least ? least : b;
         return b > greatest ? greatest : b;
     }
-    i32 at(size_t k) const { return limited(_mm_cvttsd_si32(_mm_set_sd((x[k] - offset) * scale))); }
-
-    const i32* eight(size_t k, i32* space) const
-    {
-#if SIG5D_LEVEL == 0
-        for (size_t i = 0; i < 8; ++i) space[i] = at(k + i);
-#elif SIG5D_LEVEL >= 5
-        storen<8>(space, limited(reinterpret_cast<Vec<i32, 8>>(_mm256_set_m128i(four(k + 4), four(k)))));
-#else
-        for (size_t i = 0; i < 8; i += 4) storen<4>(space + i, limited(reinterpret_cast<Vec<i32, 4>>(four(k + i))));
-#endif
-        return space;
-    }
-
 #if SIG5D_LEVEL > 0
-private:
     __m128i four(size_t k) const
     {
         const auto product = [&](auto v) { return (v - offset) * scale; };
@@ -88,37 +99,36 @@ template <class Bin> inline void count_four(const Bin* b, i32* counts)
     counts[b[3]] = c3;
 }
 
-// Whether counters return soon after they were stored, as far as the first 16 bins from k on tell: a load that waits
-// for such a store takes seven times as long.
-template <class Bin, class Bins> inline bool repetitive(const Bins& bins, size_t k)
+// Whether counters return soon after they were stored, as far as these 16 bins tell: a load that waits for such a store
+// takes seven times as long.
+template <class Bin> inline bool repetitive(const Bin* a, const Bin* b)
 {
-    Bin space[16];
-    const Bin *const a = bins.eight(k, space), *const b = bins.eight(k + 8, space + 8);
     const auto sum = ranks(a) + ranks(a + 4) + ranks(b) + ranks(b + 4);
     return sum[0] + sum[1] + sum[2] + sum[3] > 16 + 3;
 }
 
 #endif
 
-template <class Bin, class Bins> inline void count_bins(const Bins& bins, size_t n, i32* counts)
+template <class Bins> inline void count_bins(Bins bins, size_t n, i32* counts)
 {
     size_t k = 0;
-    Bin space[8];
 #if SIG5D_LEVEL > 0
     constexpr size_t block = 256; // has one way of counting
     while (n - k >= 16) {
         const size_t end = n - k < block ? k + (n - k) / 8 * 8 : k + block;
-        if (repetitive<Bin>(bins, k)) {
+        if (repetitive(bins.eight(k), bins.eight(k + 8))) {
             for (; k < end; k += 8) {
-                const Bin* const b = bins.eight(k, space);
+                const auto* const b = bins.eight(k);
                 count_four(b, counts);
                 count_four(b + 4, counts);
+                bins.prepare(k + ahead);
             }
         } else {
             for (; k < end; k += 8) {
-                const Bin* const b = bins.eight(k, space);
+                const auto* const b = bins.eight(k);
 #pragma GCC unroll 8
                 for (size_t i = 0; i < 8; ++i) ++counts[b[i]];
+                bins.prepare(k + ahead);
             }
         }
     }
@@ -126,22 +136,22 @@ template <class Bin, class Bins> inline void count_bins(const Bins& bins, size_t
     for (; k < n; ++k) ++counts[bins.at(k)];
 }
 
-void histo_count(const u32* bins, i32* counts, u32 n) { count_bins<u32>(Given<u32>{bins}, n, counts); }
+void histo_count(const u32* bins, i32* counts, u32 n) { count_bins(Given{bins}, n, counts); }
 
 void histogram_count(const f64* x, f64 scale, f64 offset, i32* counts, i32 bins, u32 n)
 {
-    count_bins<i32>(EqualWidth{x, scale, offset, bins}, n, counts);
+    count_bins(EqualWidth(x, n, scale, offset, bins), n, counts);
 }
 
 void histogram_store(const f64* x, f64 scale, f64 offset, f64* d, i32 bins, u32 n)
 {
-    const EqualWidth bin{x, scale, offset, bins};
+    EqualWidth bin(x, n, scale, offset, bins);
     size_t k = 0;
     for (; n - k >= 8; k += 8) {
-        i32 space[8];
-        const i32* const b = bin.eight(k, space);
+        const i32* const b = bin.eight(k);
 #pragma GCC unroll 8
         for (size_t i = 0; i < 8; ++i) d[b[i]] = x[k + i];
+        bin.prepare(k + ahead);
     }
     for (; k < n; ++k) d[bin.at(k)] = x[k];
 }
