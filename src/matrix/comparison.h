@@ -67,7 +67,19 @@ template <class T> struct Repeated {
     Repeated& operator+=(size_t) { return *this; }
 };
 
-// Calls act(test) with the comparison of a code; another code is none.
+inline bool all_finite(const f64* y, size_t n)
+{
+    constexpr u64 exponent = 0x7FF0000000000000, one = 0x0010000000000000;
+    u64 sums = 0;
+    for (size_t k = 0; k < n; ++k) {
+        u64 bits;
+        __builtin_memcpy(&bits, y + k, sizeof bits);
+        sums |= (bits & exponent) + one; // reaches the sign from the greatest exponent only
+    }
+    return sums >> 63 == 0;
+}
+
+// Calls act(test) with the comparison of a code with y[0..n); another code is none.
 template <class Act> inline void with_order(u32 code, Act act)
 {
     switch (code) {
@@ -87,15 +99,18 @@ template <class Test, class Act> inline void with_equality(u32 code, Act act)
     if (code == 5) return act(Not<Test>{});
     with_order(code, act);
 }
-template <class T, class Act> inline void with_comparison(u32 code, const T*, Act act)
+template <class T, class Act> inline void with_comparison(u32 code, const T*, size_t, Act act)
 {
     with_equality<Equal>(code, act);
 }
-template <class Act> inline void with_comparison(u32 code, const f64*, Act act)
+template <class Act> inline void with_comparison(u32 code, const f64* y, size_t n, Act act)
 {
+    // Looking at all of y first costs less than comparing by kind, as long as the cache keeps it.
+    constexpr size_t cached = 32768;
+    if (code >= 4 && n <= cached && all_finite(y, n)) return with_equality<Equal>(code, act);
     with_equality<EqualByKind>(code, act);
 }
-template <class T, class Act> inline void with_comparison(u32 code, Repeated<T> y, Act act)
+template <class T, class Act> inline void with_comparison(u32 code, Repeated<T> y, size_t, Act act)
 {
     // The kind of a single value is known beforehand.
     if constexpr (sizeof(T) == sizeof(f64)) {

@@ -37,7 +37,7 @@ template <class Holding> size_t list(const Holding& holding, size_t n, u32* inde
             list_byte(bits, bases, 8 * b, indexes + j);
         };
     };
-    return for_selected(holding, n, group, [=](size_t j, size_t k) { indexes[j] = static_cast<u32>(k); });
+    return for_selected<8>(holding, n, group, [=](size_t j, size_t k) { indexes[j] = static_cast<u32>(k); });
 }
 
 #endif
@@ -45,7 +45,9 @@ template <class Holding> size_t list(const Holding& holding, size_t n, u32* inde
 template <class T, class Y> void find_indexes_by_code(u32 code, const T* x, Y y, u32* indexes, size_t n, u32* count)
 {
     size_t found = 0;
-    with_comparison(code, y, [&](auto test) { found = list(Holding<T, Y, decltype(test)>{x, y, test}, n, indexes); });
+    with_comparison(code, y, n, [&](auto test) {
+        found = list(Holding<T, Y, decltype(test)>{x, y, test}, n, indexes);
+    });
     *count = static_cast<u32>(found);
 }
 template <class T> void find_indexes(u32 code, const T* x, T y, u32* indexes, u32 n, u32* count)

@@ -88,7 +88,7 @@ template <int bytes, class T, class Y, class Test> inline Vec<i32, 4> load_part(
 
 template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i32* mask, size_t n)
 {
-    with_comparison(code, y, [&](auto test) {
+    with_comparison(code, y, n, [&](auto test) {
         const MaskValues<T, Y, decltype(test)> values{x, y, test};
         if constexpr (sizeof(T) < sizeof *mask && SIG5D_LEVEL < 5) { // the compiler takes a whole vector of T at once
 #pragma GCC ivdep

@@ -138,6 +138,9 @@ inline bool disjoint(const void* p, size_t bytesP, const void* q, size_t bytesQ)
     return a < b ? b - a >= bytesP : a - b >= bytesQ;
 }
 
+// From how many of 1024 on elements move by eights: sooner where a shuffle moves them, not one instruction each.
+template <class T> constexpr size_t many = SIG5D_LEVEL >= 2 && sizeof(T) <= (SIG5D_LEVEL >= 5 ? 8 : 4) ? 8 : 32;
+
 inline auto positive(const i32* mask) { return Holding<i32, Repeated<i32>, Greater>{mask, {0}, {}}; }
 
 template <class T> u32 pack_mask_counted(u32 n, const T* a, T* d, const i32* mask)
@@ -147,7 +150,7 @@ template <class T> u32 pack_mask_counted(u32 n, const T* a, T* d, const i32* mas
     if (!disjoint(d, bytes, mask, n * sizeof *mask) || !(behind || disjoint(d, bytes, a, bytes)))
         return pack_in_order(n, a, d, mask);
     const auto group = [=](size_t) { return [=](size_t j, size_t k, u32, u32 bits) { compress(a + k, bits, d + j); }; };
-    return static_cast<u32>(for_selected(positive(mask), n, group, [=](size_t j, size_t k) { d[j] = a[k]; }));
+    return static_cast<u32>(for_selected<many<T>>(positive(mask), n, group, [=](size_t j, size_t k) { d[j] = a[k]; }));
 }
 
 template <class T> void unpack_mask(u32 n, const T* a, T* d, const i32* mask)
@@ -156,7 +159,7 @@ template <class T> void unpack_mask(u32 n, const T* a, T* d, const i32* mask)
     if (!disjoint(d, bytes, mask, n * sizeof *mask) || !disjoint(d, bytes, a, bytes))
         return unpack_in_order(n, a, d, mask);
     const auto group = [=](size_t) { return [=](size_t j, size_t k, u32, u32 bits) { expand(a + j, bits, d + k); }; };
-    for_selected(positive(mask), n, group, [=](size_t j, size_t k) { d[k] = a[j]; });
+    for_selected<many<T>>(positive(mask), n, group, [=](size_t j, size_t k) { d[k] = a[j]; });
 }
 
 #endif

@@ -70,24 +70,24 @@ inline u32 lowest_bit(u32 word)
 // at least eight selected elements are still to come, the byte's included, so that it may move eight of them, whatever
 // the bits. Returns the number of selected elements.
 //
-// Few are taken one by one, which costs nothing for the rest; many by bytes, which costs the same whatever they are and
-// has no branch that depends on them. What was met lately decides.
-template <class Holding, class Group, class One>
+// Few are taken one by one, which costs nothing for the rest; many (so many of 1024) by bytes, which costs the same
+// whatever they are and has no branch that depends on them: a mispredicted one costs as much as 32 elements. What was
+// met lately decides.
+template <size_t many, class Holding, class Group, class One>
 inline size_t for_selected(const Holding& selected, size_t n, Group group, One one)
 {
-    constexpr size_t unit = 1024, many = unit / 4; // of 32 elements: a mispredicted branch costs dozens of others
     constexpr size_t unknown = SIZE_MAX;
     size_t j = 0, k = 0;
     size_t safe = unknown; // from here on at least eight selected elements are to come
-    size_t lately = 0;     // the mean of the last words
+    size_t lately = 0;     // selected in the last words: the mean, times 1024
     for (; n - k >= 32; k += 32) {
         const size_t before = j;
-        if (lately >= many && safe == unknown) {
+        if (lately >= 32 * many && safe == unknown) {
             u32 count = 0;
             for (safe = n; safe >= k + 8 && count < 8;) count += bit_count(selected.byte(safe -= 8));
             if (count < 8) safe = 0;
         }
-        if (lately >= many && k + 32 <= safe) {
+        if (lately >= 32 * many && k + 32 <= safe) {
             const auto act = group(k);
             if constexpr (Holding::wordsFirst) {
                 const u32 word = selected.word(k);
@@ -108,7 +108,7 @@ inline size_t for_selected(const Holding& selected, size_t n, Group group, One o
         } else {
             for (u32 word = selected.word(k); word; word &= word - 1) one(j++, k + lowest_bit(word));
         }
-        lately += (j - before) * (unit / 16) - lately / 16;
+        lately += (j - before) * (1024 / 16) - lately / 16;
     }
     for (; n - k >= 8; k += 8)
         for (u32 bits = selected.byte(k); bits; bits &= bits - 1) one(j++, k + lowest_bit(bits));
