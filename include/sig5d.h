@@ -791,8 +791,8 @@ unsigned int SIG5D_CDECL PackByMaskc_Idx(unsigned int n, const Ipp64fc* src, int
         const Ipp32s* mask, int maskIdx);
 
 /* dst[k] = src[j++] for each k with mask[k] > 0. Distributes the source over the selected elements, those whose
-   mask is positive. The source needs no more elements than are selected; elements that are not selected are not
-   written at all. */
+   mask is positive. The source needs no more elements than are selected; elements that are not selected keep their
+   values. */
 void SIG5D_CDECL vbunpackm(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32s* mask);
 void SIG5D_CDECL vbunpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32s*
         mask, int maskIdx);
