@@ -919,6 +919,185 @@ void SIG5D_STDCALL SetValcToPtr(Ipp64fc* p, const Ipp64fc* value);
 
 /* *p = value. */
 void SIG5D_STDCALL SetValIToPtr(Ipp32s* p, Ipp32s value);
+/* ---- Histograms ---- */
+
+/* counts[bins[k]] += 1. Bin numbers are used as they are; only counters that a bin number names are touched. */
+void SIG5D_CDECL HistoCount(const Ipp32u* bins, Ipp32s* counts, unsigned int n);
+void SIG5D_CDECL HistoCount_Idx(const Ipp32u* bins, int binsIdx, Ipp32s* counts, int countsIdx, unsigned int n);
+
+/* counts[b] += 1, b = (int)((src[k] - offset)*scale), limited to 0 .. nBins-1. Bins of equal width: bin b holds
+   offset + b/scale up to offset + (b+1)/scale, and the outermost bins everything beyond. The product is truncated
+   toward zero; a NaN or what no 32-bit integer holds becomes -2147483648, hence bin 0. The counts are exact on
+   every processor. */
+void SIG5D_CDECL HistogramCount(const Ipp64f* src, Ipp64f scale, Ipp64f offset, Ipp32s* counts, int nBins, unsigned
+        int n);
+void SIG5D_CDECL HistogramCount_Idx(const Ipp64f* src, int srcIdx, Ipp64f scale, Ipp64f offset, Ipp32s* counts, int
+        countsIdx, int nBins, unsigned int n);
+
+/* dst[b] = src[k], b as for HistogramCount. Stores and does not add: each bin holds the last value that fell into
+   it, and keeps what it held when none did. */
+void SIG5D_CDECL HistogramSum(const Ipp64f* src, Ipp64f scale, Ipp64f offset, Ipp64f* dst, int nBins, unsigned int n);
+void SIG5D_CDECL HistogramSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f scale, Ipp64f offset, Ipp64f* dst, int dstIdx,
+        int nBins, unsigned int n);
+
+/* sums[bins[k]] += values[k], in the middle of the array by pairs. In a pair both sums are read before either is
+   written: when the two bins are the same, the first value of the pair is lost. Values outside of pairs are all
+   added. The pairs are the same on every processor and depend on the address of the values: with n < 8, or values
+   at an address that is no multiple of 8, there are none. Otherwise they begin at p = 0 when the values are
+   16-byte aligned, else at p = 1, and there are 4*((n-p)/8) of them, rounded down; none when n < p+8. */
+void SIG5D_CDECL HistoSum(const Ipp32u* bins, const Ipp64f* values, Ipp64f* sums, unsigned int n);
+void SIG5D_CDECL HistoSum_Idx(const Ipp32u* bins, int binsIdx, const Ipp64f* values, int valuesIdx, Ipp64f* sums, int
+        sumsIdx, unsigned int n);
+
+/* ---- Masks, index search and counting ---- */
+
+/* mask[k] = src[k] ? value, ? by code: 0 <, 1 <=, 2 >, 3 >=, 4 ==, 5 !=. A mask for the packs and unpacks: 1 where
+   the comparison holds, 0 where it does not. Another code leaves the mask as it is. 8u is unsigned. */
+void SIG5D_CDECL FindMaskC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+void SIG5D_CDECL FindMaskC_32s_Idx(unsigned int code, const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+void SIG5D_CDECL FindMaskC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+void SIG5D_CDECL FindMaskC_8u_Idx(unsigned int code, const Ipp8u* src, int srcIdx, Ipp8u value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+
+/* mask[k] = src1[k] ? src2[k], ? by code as for FindMaskC. */
+void SIG5D_CDECL FindMask_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+void SIG5D_CDECL FindMask_32s_Idx(unsigned int code, const Ipp32s* src1, int src1Idx, const Ipp32s* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+void SIG5D_CDECL FindMask_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+void SIG5D_CDECL FindMask_8u_Idx(unsigned int code, const Ipp8u* src1, int src1Idx, const Ipp8u* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+
+/* *count = number of k with src[k] > value. NaNs count nothing. */
+void SIG5D_CDECL CountGT(const Ipp64f* src, Ipp64f value, unsigned int* count, unsigned int n);
+void SIG5D_CDECL CountGT_Idx(const Ipp64f* src, int srcIdx, Ipp64f value, unsigned int* count, unsigned int n);
+
+/* indexes[(*count)++] = k for each k with src[k] ? value, ? by code as for FindMaskC. The positions, counted from
+   src[0], where the comparison holds, in increasing order. The list needs room for no more than these. Another
+   code finds nothing: the count is 0. */
+void SIG5D_CDECL FindIndexesC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexesC_32s_Idx(unsigned int code, const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexesC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexesC_8u_Idx(unsigned int code, const Ipp8u* src, int srcIdx, Ipp8u value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+
+/* indexes[(*count)++] = k for each k with src1[k] ? src2[k], ? by code as for FindMaskC. As FindIndexesC, with two
+   arrays. */
+void SIG5D_CDECL FindIndexes_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int
+        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexes_32s_Idx(unsigned int code, const Ipp32s* src1, int src1Idx, const Ipp32s* src2, int
+        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexes_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int
+        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexes_8u_Idx(unsigned int code, const Ipp8u* src1, int src1Idx, const Ipp8u* src2, int src2Idx,
+        Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+
+/* ---- Pack and unpack by increment, index and mask ---- */
+
+/* dst[k] = src[k*inc]. Gathers every inc-th element. An increment of 0 fills the destination with src[0]. */
+void SIG5D_CDECL vbpacki(unsigned int n, const Ipp8u* src, unsigned int inc, Ipp8u* dst);
+void SIG5D_CDECL vbpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, unsigned int inc, Ipp8u* dst, int dstIdx);
+void SIG5D_CDECL vdpackic(unsigned int n, const Ipp64fc* src, unsigned int inc, Ipp64fc* dst);
+void SIG5D_CDECL vdpackic_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, unsigned int inc, Ipp64fc* dst, int
+        dstIdx);
+void SIG5D_CDECL vipacki(unsigned int n, const Ipp32s* src, unsigned int inc, Ipp32s* dst);
+void SIG5D_CDECL vipacki_Idx(unsigned int n, const Ipp32s* src, int srcIdx, unsigned int inc, Ipp32s* dst, int
+        dstIdx);
+void SIG5D_CDECL vspacki(unsigned int n, const Ipp16s* src, unsigned int inc, Ipp16s* dst);
+void SIG5D_CDECL vspacki_Idx(unsigned int n, const Ipp16s* src, int srcIdx, unsigned int inc, Ipp16s* dst, int
+        dstIdx);
+
+/* dst[k*inc] = src[k]. Scatters to every inc-th element; the elements between keep their values. With an increment
+   of 0 the last element of the source remains in dst[0]. */
+void SIG5D_CDECL vbunpacki(unsigned int n, const Ipp8u* src, Ipp8u* dst, unsigned int inc);
+void SIG5D_CDECL vbunpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int
+        inc);
+void SIG5D_CDECL vdunpackic(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, unsigned int inc);
+void SIG5D_CDECL vdunpackic_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int
+        inc);
+void SIG5D_CDECL viunpacki(unsigned int n, const Ipp32s* src, Ipp32s* dst, unsigned int inc);
+void SIG5D_CDECL viunpacki_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int
+        inc);
+void SIG5D_CDECL vsunpacki(unsigned int n, const Ipp16s* src, Ipp16s* dst, unsigned int inc);
+void SIG5D_CDECL vsunpacki_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int
+        inc);
+
+/* dst[k] = src[index[k]]. Gathers by 0-based indexes, which are used as they are. Only the elements that an index
+   names are read. */
+void SIG5D_CDECL vbpackv(unsigned int n, const Ipp8u* src, const Ipp32u* index, Ipp8u* dst);
+void SIG5D_CDECL vbpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp8u*
+        dst, int dstIdx);
+void SIG5D_CDECL vdpackvc(unsigned int n, const Ipp64fc* src, const Ipp32u* index, Ipp64fc* dst);
+void SIG5D_CDECL vdpackvc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, const Ipp32u* index, int indexIdx,
+        Ipp64fc* dst, int dstIdx);
+void SIG5D_CDECL vipackv(unsigned int n, const Ipp32s* src, const Ipp32u* index, Ipp32s* dst);
+void SIG5D_CDECL vipackv_Idx(unsigned int n, const Ipp32s* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp32s*
+        dst, int dstIdx);
+void SIG5D_CDECL vspackv(unsigned int n, const Ipp16s* src, const Ipp32u* index, Ipp16s* dst);
+void SIG5D_CDECL vspackv_Idx(unsigned int n, const Ipp16s* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp16s*
+        dst, int dstIdx);
+
+/* dst[index[k]] = src[k]. Scatters by 0-based indexes, which are used as they are. The last of several elements
+   for one index remains; elements without an index keep their values. */
+void SIG5D_CDECL vbunpackv(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32u* index);
+void SIG5D_CDECL vbunpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32u*
+        index, int indexIdx);
+void SIG5D_CDECL vdunpackvc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32u* index);
+void SIG5D_CDECL vdunpackvc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const
+        Ipp32u* index, int indexIdx);
+void SIG5D_CDECL viunpackv(unsigned int n, const Ipp32s* src, Ipp32s* dst, const Ipp32u* index);
+void SIG5D_CDECL viunpackv_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, const Ipp32u*
+        index, int indexIdx);
+void SIG5D_CDECL vsunpackv(unsigned int n, const Ipp16s* src, Ipp16s* dst, const Ipp32u* index);
+void SIG5D_CDECL vsunpackv_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, const Ipp32u*
+        index, int indexIdx);
+
+/* dst[j++] = src[k] for each k with mask[k] > 0. Collects the selected elements, those whose mask is positive. The
+   destination needs room for no more than these; elements beyond them keep their values. */
+void SIG5D_CDECL vbpackm(unsigned int n, const Ipp8u* src, const Ipp32s* mask, Ipp8u* dst);
+void SIG5D_CDECL vbpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp8u*
+        dst, int dstIdx);
+void SIG5D_CDECL vdpackmc(unsigned int n, const Ipp64fc* src, const Ipp32s* mask, Ipp64fc* dst);
+void SIG5D_CDECL vdpackmc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, const Ipp32s* mask, int maskIdx,
+        Ipp64fc* dst, int dstIdx);
+void SIG5D_CDECL vipackm(unsigned int n, const Ipp32s* src, const Ipp32s* mask, Ipp32s* dst);
+void SIG5D_CDECL vipackm_Idx(unsigned int n, const Ipp32s* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp32s*
+        dst, int dstIdx);
+void SIG5D_CDECL vspackm(unsigned int n, const Ipp16s* src, const Ipp32s* mask, Ipp16s* dst);
+void SIG5D_CDECL vspackm_Idx(unsigned int n, const Ipp16s* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp16s*
+        dst, int dstIdx);
+
+/* dst[j++] = src[k] for each k with mask[k] > 0. As the vpackm family, with the destination before the mask; the
+   result is the number of selected elements. */
+unsigned int SIG5D_CDECL PackByMask(unsigned int n, const Ipp64f* src, Ipp64f* dst, const Ipp32s* mask);
+unsigned int SIG5D_CDECL PackByMask_Idx(unsigned int n, const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, const
+        Ipp32s* mask, int maskIdx);
+unsigned int SIG5D_CDECL PackByMaskc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32s* mask);
+unsigned int SIG5D_CDECL PackByMaskc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx,
+        const Ipp32s* mask, int maskIdx);
+
+/* dst[k] = src[j++] for each k with mask[k] > 0. Distributes the source over the selected elements, those whose
+   mask is positive. The source needs no more elements than are selected; elements that are not selected keep their
+   values. */
+void SIG5D_CDECL vbunpackm(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32s* mask);
+void SIG5D_CDECL vbunpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32s*
+        mask, int maskIdx);
+void SIG5D_CDECL vdunpackmc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32s* mask);
+void SIG5D_CDECL vdunpackmc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const
+        Ipp32s* mask, int maskIdx);
+void SIG5D_CDECL viunpackm(unsigned int n, const Ipp32s* src, Ipp32s* dst, const Ipp32s* mask);
+void SIG5D_CDECL viunpackm_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, const Ipp32s*
+        mask, int maskIdx);
+void SIG5D_CDECL vsunpackm(unsigned int n, const Ipp16s* src, Ipp16s* dst, const Ipp32s* mask);
+void SIG5D_CDECL vsunpackm_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, const Ipp32s*
+        mask, int maskIdx);
 
 /* ---- FIR filters ---- */
 
