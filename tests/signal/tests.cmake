@@ -1,10 +1,12 @@
 sig5d_test(elementwise_bits signal/copy_test.cpp signal/logic_test.cpp signal/bit_string_test.cpp)
+sig5d_test(elementwise_float signal/arith_float_test.cpp signal/root_test.cpp)
 
 # Kernels compiled for this test alone, which sets when they stream.
 foreach(width 16 32)
     set(elementwise ${CMAKE_SOURCE_DIR}/src/signal/elementwise)
     add_library(sig5d_stream${width} OBJECT ${elementwise}/copy.kernels.cpp ${elementwise}/logic.kernels.cpp
-                                            ${elementwise}/flip.kernels.cpp)
+                                            ${elementwise}/flip.kernels.cpp ${elementwise}/arith_complex.kernels.cpp
+                                            ${elementwise}/divide.kernels.cpp ${elementwise}/complex_parts.kernels.cpp)
     target_link_libraries(sig5d_stream${width} PRIVATE sig5d_product)
 endforeach()
 target_compile_definitions(sig5d_stream16 PRIVATE SIG5D_VARIANT=stream16 SIG5D_LEVEL=1)

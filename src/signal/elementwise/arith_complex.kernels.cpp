@@ -34,11 +34,15 @@ struct ProductWithValue : OnPairs {
 {
     map_complex(static_cast<size_t>(n), d, ProductWithValue{v}, a);
 }
-void div(const c64f* a, c64f v, c64f* d, int n)
+// 1 / v. A power of two keeps the squares in range.
+c64f reciprocal(c64f v)
 {
-    const f64 power = v.re * v.re + v.im * v.im;
-    mul(a, c64f{v.re / power, -v.im / power}, d, n);
+    const f64 x = absolute_value(v.re), y = absolute_value(v.im), larger = x > y ? x : y;
+    const f64 scale = larger > 0x1p500 ? 0x1p-600 : larger < 0x1p-450 ? 0x1p600 : 1;
+    const f64 re = v.re * scale, im = v.im * scale, power = re * re + im * im;
+    return {re / power * scale, -im / power * scale};
 }
+void div(const c64f* a, c64f v, c64f* d, int n) { mul(a, reciprocal(v), d, n); }
 void add_product(const c64f* a, const c64f* b, c64f* d, int n)
 {
     map_complex(static_cast<size_t>(n), d, SumWithProduct{}, static_cast<const c64f*>(d), a, b);
