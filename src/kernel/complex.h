@@ -2,6 +2,7 @@
 #pragma once
 #include "kernel/loops.h"
 #include "kernel/select.h"
+#include "kernel/shuffle.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -53,18 +54,11 @@ template <class T> struct Repeated {
     }
 };
 
-inline Vec<f64, 2> swapped(Vec<f64, 2> v) { return __builtin_shufflevector(v, v, 1, 0); }
-inline Vec<f64, 2> real_lanes(Vec<f64, 2> v) { return __builtin_shufflevector(v, v, 0, 0); }
-inline Vec<f64, 2> imaginary_lanes(Vec<f64, 2> v) { return __builtin_shufflevector(v, v, 1, 1); }
-#if SIG5D_LEVEL >= 4
-inline Vec<f64, 4> swapped(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 1, 0, 3, 2); }
-inline Vec<f64, 4> real_lanes(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 0, 0, 2, 2); }
-inline Vec<f64, 4> imaginary_lanes(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 1, 1, 3, 3); }
-#endif
-
 template <class V> inline V conjugate(V x)
 {
-    return BitsOf<V>::back(BitsOf<V>::of(x) ^ BitsOf<V>::of(Repeated<c64f>(c64f{0.0, -0.0}).template as<V>()));
+    typename BitsOf<V>::type signs{};
+    for (size_t i = 1; i < sizeof(V) / sizeof(u64); i += 2) signs[i] = signBit;
+    return BitsOf<V>::back(BitsOf<V>::of(x) ^ signs);
 }
 
 // (x.re - y.re, x.im + y.im)

@@ -6,18 +6,26 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
+// Takes down the zeros found, which are rare.
+inline bool any(int zeros, int& zeroDivisors)
+{
+    zeroDivisors |= zeros;
+    return __builtin_expect(zeros != 0, 0);
+}
+
 // Operations take the divisor first, as the functions do.
 
 struct RealQuotient {
     int& zeroDivisors;
     template <class V> V operator()(V b, V a) const
     {
+        const V q = a / b;
         const auto none = b == V{};
-        zeroDivisors |= lanes_set(none);
+        if (!any(lanes_set(none), zeroDivisors)) return q;
         // By +0, also instead of -0: infinity with the dividend's sign, and of zero by zero the NaN wanted. A NaN that
         // was there before would keep its payload.
-        const V q = a / (none ? V{} : b);
-        return none & (q != q) ? from_bits<V>(indefiniteBits) : q;
+        const V limit = a / V{};
+        return none ? (limit != limit ? from_bits<V>(indefiniteBits) : limit) : q;
     }
 };
 
@@ -27,10 +35,11 @@ struct ComplexQuotient {
     {
         const V d = b.re * b.re + b.im * b.im;
         const V r = constant<V>(1) / d;
+        const Parts<V> q = {(a.re * b.re + a.im * b.im) * r, (a.im * b.re - a.re * b.im) * r};
         const auto none = d == V{};
-        zeroDivisors |= lanes_set(none);
+        if (!any(lanes_set(none), zeroDivisors)) return q;
         const V nan = from_bits<V>(indefiniteBits);
-        return {none ? nan : (a.re * b.re + a.im * b.im) * r, none ? nan : (a.im * b.re - a.re * b.im) * r};
+        return {none ? nan : q.re, none ? nan : q.im};
     }
 };
 
