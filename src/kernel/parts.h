@@ -42,8 +42,8 @@ inline Vec<f64, 4> joined(Vec<f64, 2> a, Vec<f64, 2> b) // a shuffle would be ma
 {
     return reinterpret_cast<Vec<f64, 4>>(_mm256_insertf128_pd(_mm256_castpd128_pd256(a), b, 1));
 }
-inline Vec<f64, 2> low_half(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 0, 1); }
-inline Vec<f64, 2> high_half(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 2, 3); }
+inline Vec<f64, 4> low_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 0, 1, 4, 5); }
+inline Vec<f64, 4> high_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 2, 3, 6, 7); }
 #endif
 
 #endif
@@ -84,12 +84,10 @@ inline void store_numbers(Write write, ComplexArray<c64f, folds> d, Parts<V> v)
         const auto pairs = exchanged(v.re, v.im);
         write(p, pairs.re);
         write(p + L, pairs.im);
-    } else { // neither do stores of halves
+    } else {
         const auto pairs = exchanged(v.re, v.im);
-        write(p, low_half(pairs.re));
-        write(p + L / 2, low_half(pairs.im));
-        write(p + L, high_half(pairs.re));
-        write(p + L + L / 2, high_half(pairs.im));
+        write(p, low_halves(pairs.re, pairs.im));
+        write(p + L, high_halves(pairs.re, pairs.im));
     }
 }
 
