@@ -73,17 +73,18 @@ template <class V> inline V alternate(V x, V y)
     return x - conjugate(y);
 }
 
-// Loads a register once, where the compiler would read memory again for each use.
-template <class V> inline V once(V v)
+// A value in a register, here and now: the compiler would read memory again for each use, and begin several products
+// before it finishes one, for which the registers do not suffice.
+template <class V> inline V now(V v)
 {
-    asm("" : "+x"(v));
+    asm volatile("" : "+x"(v));
     return v;
 }
 
 template <class V> inline V product(V x, V y)
 {
-    x = once(x);
-    return alternate(x * real_lanes(y), swapped(x) * imaginary_lanes(y));
+    x = now(x);
+    return now(alternate(x * real_lanes(y), swapped(x) * imaginary_lanes(y)));
 }
 
 struct Factor {
@@ -92,8 +93,8 @@ struct Factor {
     explicit Factor(c64f v) : re(v.re), im(c64f{-v.im, v.im}) {}
     template <class V> V times(V x) const
     {
-        x = once(x);
-        return x * re.as<V>() + swapped(x) * im.as<V>();
+        x = now(x);
+        return now(x * re.as<V>() + swapped(x) * im.as<V>());
     }
 };
 
