@@ -295,6 +295,191 @@ typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
+/* ---- Arithmetic on doubles, element by element ---- */
+
+/* pDst[i] = pSrc1[i] + pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsAdd_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAdd_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAdd_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAdd_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAdd_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc2[i] - pSrc1[i]. Mind the order: the first array is subtracted from the second. In place:
+   pSrcDst[i] - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSub_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSub_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSub_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSub_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSub_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSub_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSub_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSub_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] + val. */
+IppStatus SIG5D_STDCALL ippsAddC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAddC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAddC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAddC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAddC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAddC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pDst[i] = pSrc[i] - val. */
+IppStatus SIG5D_STDCALL ippsSubC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSubC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pDst[i] = val - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSubCRev_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int
+        len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx,
+        int len);
+
+/* pDst[i] = pSrc1[i] * pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsMul_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMul_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMul_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMul_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMul_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMul_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMul_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMul_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] * val. */
+IppStatus SIG5D_STDCALL ippsMulC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMulC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMulC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMulC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMulC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMulC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMulC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMulC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pDst[i] = pSrc[i] * (1 / val). The reciprocal is rounded once, then multiplied: not the rounded quotient. */
+IppStatus SIG5D_STDCALL ippsDivC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDivC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDivC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDivC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsDivC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDivC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDivC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDivC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pSrcDst[i] = pSrcDst[i] + pSrc1[i] * pSrc2[i]. The product is rounded, then the sum: no fused multiply-add. */
+IppStatus SIG5D_STDCALL ippsAddProduct_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddProduct_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx,
+        Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAddProduct_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddProduct_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx,
+        Ipp64fc* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[i] = pSrc[i] * pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSqr_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqr_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqr_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqr_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSqr_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqr_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqr_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = |pSrc[i]|. Clears the sign bit, also that of a NaN. */
+IppStatus SIG5D_STDCALL ippsAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = (pSrc[i].re, -pSrc[i].im). Changes the sign bit of the imaginary part, also of a NaN. */
+IppStatus SIG5D_STDCALL ippsConj_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsConj_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsConj_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsConj_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = conj(pSrc[len-1-i]). The conjugates in reverse order. */
+IppStatus SIG5D_STDCALL ippsConjFlip_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsConjFlip_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc2[i] / pSrc1[i]. Mind the order: the first array holds the divisors. In place: pSrcDst[i] /
+   pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsDiv_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDiv_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDiv_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDiv_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDiv_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = sqrt(pSrc[i]). */
+IppStatus SIG5D_STDCALL ippsSqrt_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqrt_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSqrt_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqrt_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDstRe[i] = pSrc[i].re. */
+IppStatus SIG5D_STDCALL ippsReal_64fc(const Ipp64fc* pSrc, Ipp64f* pDstRe, int len);
+IppStatus SIG5D_CDECL ippsReal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstRe, int dstReIdx, int len);
+
+/* pDstIm[i] = pSrc[i].im. */
+IppStatus SIG5D_STDCALL ippsImag_64fc(const Ipp64fc* pSrc, Ipp64f* pDstIm, int len);
+IppStatus SIG5D_CDECL ippsImag_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstIm, int dstImIdx, int len);
+
+/* pDstRe[i] = pSrc[i].re, pDstIm[i] = pSrc[i].im. */
+IppStatus SIG5D_STDCALL ippsCplxToReal_64fc(const Ipp64fc* pSrc, Ipp64f* pDstRe, Ipp64f* pDstIm, int len);
+IppStatus SIG5D_CDECL ippsCplxToReal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstRe, int dstReIdx, Ipp64f*
+        pDstIm, int dstImIdx, int len);
+
+/* pDst[i] = (pSrcRe[i], pSrcIm[i]). One of the sources may be null: its part is 0. */
+IppStatus SIG5D_STDCALL ippsRealToCplx_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsRealToCplx_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = sqrt(re * re + im * im). Each operation is rounded; squares overflow from 1.34e154 on and vanish below
+   1.5e-162. */
+IppStatus SIG5D_STDCALL ippsMagnitude_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsMagnitude_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMagnitude_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsMagnitude_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = re * re + im * im. */
+IppStatus SIG5D_STDCALL ippsPowerSpectr_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsPowerSpectr_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsPowerSpectr_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsPowerSpectr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */
@@ -919,6 +1104,7 @@ void SIG5D_STDCALL SetValcToPtr(Ipp64fc* p, const Ipp64fc* value);
 
 /* *p = value. */
 void SIG5D_STDCALL SetValIToPtr(Ipp32s* p, Ipp32s value);
+
 /* ---- Histograms ---- */
 
 /* counts[bins[k]] += 1. Bin numbers are used as they are; only counters that a bin number names are touched. */

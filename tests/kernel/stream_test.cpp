@@ -5,6 +5,7 @@
 #include "support/bytes.h"
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 #ifndef SIG5D_STATIC // a static library brings its own
 size_t sig5d_stream_bytes;
@@ -28,6 +29,10 @@ OWN_BODIES(TransposeMatrix_8u, (const Ipp8u*, Ipp8u*, Size, Size, Size, Size))
 OWN_BODIES(TransposeMatrix_16s, (const Ipp16s*, Ipp16s*, Size, Size, Size, Size))
 OWN_BODIES(TransposeMatrix, (const Ipp64f*, Ipp64f*, Size, Size, Size, Size))
 OWN_BODIES(AdjungateMatrixc, (const Ipp64fc*, Ipp64fc*, Size, Size, Size, Size))
+BODIES(ippsMulC_64fc, (const Ipp64fc*, Ipp64fc, Ipp64fc*, int))
+BODIES(ippsDiv_64fc, (const Ipp64fc*, const Ipp64fc*, Ipp64fc*, int))
+BODIES(ippsCplxToReal_64fc, (const Ipp64fc*, Ipp64f*, Ipp64f*, int))
+BODIES(ippsRealToCplx_64f, (const Ipp64f*, const Ipp64f*, Ipp64fc*, int))
 
 using support::Bytes;
 using support::noise;
@@ -143,6 +148,35 @@ TEST_P(Stream, Transposes)
     streamsTransposed<Ipp16s>(PICK(TransposeMatrix_16s), false);
     streamsTransposed<Ipp64f>(PICK(TransposeMatrix), false);
     streamsTransposed<Ipp64fc>(PICK(AdjungateMatrixc), true);
+}
+
+// Values that small integers make are exact, whatever the order of operations.
+TEST_P(Stream, ComplexNumbers)
+{
+    for (size_t n : {1u, 3u, 9u, 16u, 40u, 41u, 300u, 613u})
+        for (size_t to = 0; to < 5; ++to) { // doubles; a complex array at an odd one is never aligned
+            std::vector<Ipp64f> z(2 * n + 10), w(z), d(z), re(n + 10), im(n + 10);
+            for (size_t i = 0; i < z.size(); ++i) z[i] = w[i] = static_cast<double>(i * i % 97) - 30;
+            const int count = static_cast<int>(n);
+            const auto complex = [&](std::vector<Ipp64f>& v) { return reinterpret_cast<Ipp64fc*>(&v[to]); };
+
+            PICK(ippsCplxToReal_64fc)(complex(z), &re[to], &im[4 - to], count);
+            PICK(ippsRealToCplx_64f)(&re[to], &im[4 - to], complex(d), count);
+            for (size_t i = 0; i < n; ++i)
+                ASSERT_TRUE(re[to + i] == z[to + 2 * i] && im[4 - to + i] == z[to + 2 * i + 1]) << n << ' ' << i;
+            ASSERT_TRUE(std::equal(&d[to], &d[to + 2 * n], &z[to])) << n << ' ' << to;
+            ASSERT_TRUE(re[to + n] == 0 && im[4 - to + n] == 0 && d[to + 2 * n] == 0);
+            PICK(ippsRealToCplx_64f)(nullptr, &im[4 - to], complex(d), count);
+            for (size_t i = 0; i < n; ++i) ASSERT_TRUE(d[to + 2 * i] == 0 && d[to + 2 * i + 1] == z[to + 2 * i + 1]);
+
+            PICK(ippsMulC_64fc)(complex(z), Ipp64fc{0, 2}, complex(d), count);
+            for (size_t i = to; i < to + 2 * n; i += 2) ASSERT_TRUE(d[i] == -2 * z[i + 1] && d[i + 1] == 2 * z[i]);
+            PICK(ippsMulC_64fc)(complex(w), Ipp64fc{0, 2}, complex(w), count);
+            ASSERT_TRUE(std::equal(&d[to], &d[to + 2 * n], &w[to])) << n << ' ' << to;
+            for (size_t i = to; i < to + 2 * n; i += 2) w[i] = 0, w[i + 1] = 0.5;
+            PICK(ippsDiv_64fc)(complex(w), complex(d), complex(d), count);
+            for (size_t i = to; i < to + 2 * n; ++i) ASSERT_EQ(d[i], 4 * z[i]) << n << ' ' << to;
+        }
 }
 
 INSTANTIATE_TEST_SUITE_P(Widths, Stream, testing::Values(16, 32), testing::PrintToStringParamName());

@@ -1,9 +1,18 @@
 sig5d_test(elementwise_bits signal/copy_test.cpp signal/logic_test.cpp signal/bit_string_test.cpp)
+sig5d_test(elementwise_float signal/arith_float_test.cpp signal/root_test.cpp)
 
 # Kernels compiled for this test alone, which sets when they stream.
-set(streaming_kernels signal/elementwise/copy.kernels.cpp signal/elementwise/logic.kernels.cpp
-                      signal/elementwise/flip.kernels.cpp matrix/submatrix.kernels.cpp matrix/transpose.kernels.cpp)
+set(streaming_kernels
+    signal/elementwise/copy
+    signal/elementwise/logic
+    signal/elementwise/flip
+    signal/elementwise/arith_complex
+    signal/elementwise/divide
+    signal/elementwise/complex_parts
+    matrix/submatrix
+    matrix/transpose)
 list(TRANSFORM streaming_kernels PREPEND ${CMAKE_SOURCE_DIR}/src/)
+list(TRANSFORM streaming_kernels APPEND .kernels.cpp)
 set_source_files_properties(${streaming_kernels} PROPERTIES COMPILE_OPTIONS -fno-stack-protector) # the guard is the DLL's
 foreach(width 16 32)
     add_library(sig5d_stream${width} OBJECT ${streaming_kernels})
