@@ -295,6 +295,134 @@ typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
+/* ---- Integer arithmetic with scale factors ---- */
+
+/* pDst[i] = pSrc1[i] + pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsAdd_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = pSrc2[i] - pSrc1[i]. */
+IppStatus SIG5D_STDCALL ippsSub_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = pSrc[i] + val. */
+IppStatus SIG5D_STDCALL ippsAddC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = pSrc[i] - val. */
+IppStatus SIG5D_STDCALL ippsSubC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = val - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int
+        dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int
+        len, int scaleFactor);
+
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */

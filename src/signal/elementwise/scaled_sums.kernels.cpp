@@ -1,0 +1,103 @@
+// Sums and differences of integers, of two arrays or of an array and a value, scaled.
+#include "frame/entry.h"
+#include "kernel/repeated.h"
+#include "kernel/scale.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+struct Sum {
+    template <class T> static constexpr int bits = isSigned<T> ? width<T> : width<T> + 1;
+#if SIG5D_LEVEL == 0
+    i64 exact(i64 x, i64 y) const { return x + y; }
+#else
+    template <class V> V saturated(V x, V y) const { return add_saturated(x, y); }
+    template <class V> Halves<V> exact(V x, V y) const
+    {
+        if constexpr (sizeof(Lane<V>) == 1)
+            return {average(x, y) - ((x ^ y) & 1), x + y};
+        else
+            return {(x & y) + ((x ^ y) >> 1), x + y};
+    }
+    // x + y = 2 (x | y) - (x ^ y): halves rounded up, and ties where the last bits differ.
+    template <class T> static constexpr int quick = 1;
+    template <class V> V quickly(V x, V y) const
+    {
+        if constexpr (sizeof(Lane<V>) == 1)
+            return ties_to_even(average(x, y), x ^ y);
+        else
+            return ties_to_even((x | y) - ((x ^ y) >> 1), x ^ y);
+    }
+#endif
+};
+
+struct Difference {
+    template <class T> static constexpr int bits = width<T>;
+#if SIG5D_LEVEL == 0
+    i64 exact(i64 x, i64 y) const { return x - y; }
+#else
+    template <class V> V saturated(V x, V y) const { return subtract_saturated(x, y); }
+    template <class V> Halves<V> exact(V x, V y) const
+    {
+        if constexpr (sizeof(Lane<V>) == 1) {
+            const V r = subtract_saturated(x, y); // nothing below zero comes back
+            return {down(r, 1), r};
+        } else {
+            return {((x ^ y) >> 1) - (~x & y), x - y};
+        }
+    }
+    // x - y = 2 (x & ~y) - (x ^ y)
+    template <class T> static constexpr int quick = 1;
+    template <class V> V quickly(V x, V y) const
+    {
+        if constexpr (sizeof(Lane<V>) == 1) {
+            return ties_to_even(average(subtract_saturated(x, y), V{}), x ^ y);
+        } else {
+            const V up = (x & ~y) - ((x ^ y) >> 1);
+            const V beyond = as<V>(up == all<V>(lowest_of<Lane<V>>)); // the one that wraps: half of 2^width - 1
+            return ties_to_even(up, x ^ y) + beyond;
+        }
+    }
+#endif
+};
+
+template <class Op, class T, class... A> [[gnu::noinline]] void run(size_t n, T* d, int s, A... a)
+{
+    map_scaled<T>(Op{}, s, n, d, a...);
+}
+
+// Arrays of complex numbers are arrays of their parts.
+inline size_t count(const void*, int n) { return static_cast<size_t>(n); }
+inline size_t count(const c32s*, int n) { return 2 * static_cast<size_t>(n); }
+template <class T> T* parts(T* p) { return p; }
+inline i32* parts(c32s* p) { return &p->re; }
+inline const i32* parts(const c32s* p) { return &p->re; }
+template <class T> Repeated<T> repeated(T v) { return {repeated_bits(v)}; }
+inline Repeated<i32> repeated(c32s v) { return {repeated_bits(v)}; }
+
+template <class T> void add(const T* a, const T* b, T* d, int n, int s)
+{
+    run<Sum>(count(d, n), parts(d), s, parts(a), parts(b));
+}
+template <class T> void add(const T* a, T v, T* d, int n, int s)
+{
+    run<Sum>(count(d, n), parts(d), s, parts(a), repeated(v));
+}
+
+// b - a: the subtrahend comes first.
+template <class T> void subtract(const T* a, const T* b, T* d, int n, int s)
+{
+    run<Difference>(count(d, n), parts(d), s, parts(b), parts(a));
+}
+template <class T> void subtract(const T* a, T v, T* d, int n, int s)
+{
+    run<Difference>(count(d, n), parts(d), s, parts(a), repeated(v));
+}
+template <class T> void subtract_reversed(const T* a, T v, T* d, int n, int s)
+{
+    run<Difference>(count(d, n), parts(d), s, repeated(v), parts(a));
+}
+
+} // namespace
+#include "entries/signal/elementwise/scaled_sums.inc"
+} // namespace sig5d::SIG5D_VARIANT
