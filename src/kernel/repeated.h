@@ -41,5 +41,15 @@ inline bool apart(const void*, Nowhere, size_t) { return true; }
 
 #endif
 
+template <class T> inline Repeated<T> repeated(T v) { return {repeated_bits(v)}; }
+inline Repeated<i32> repeated(c32s v) { return {repeated_bits(v)}; }
+
+// Arrays of complex numbers as arrays of their parts.
+inline size_t count(const void*, int n) { return static_cast<size_t>(n); }
+inline size_t count(const c32s*, int n) { return 2 * static_cast<size_t>(n); }
+template <class T> inline T* parts(T* p) { return p; }
+inline i32* parts(c32s* p) { return &p->re; }
+inline const i32* parts(const c32s* p) { return &p->re; }
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -38,6 +38,9 @@ inline __m128i averages(__m128i x, __m128i y, u8) { return _mm_avg_epu8(x, y); }
 inline __m128i averages(__m128i x, __m128i y, u16) { return _mm_avg_epu16(x, y); }
 inline __m128i and_not(__m128i x, __m128i y) { return _mm_andnot_si128(y, x); }
 inline __m128i packed(__m128i low, __m128i high) { return _mm_packs_epi32(low, high); }
+inline __m128i packed_bytes(__m128i low, __m128i high) { return _mm_packus_epi16(low, high); }
+inline __m128i interleaved_low(__m128i x, __m128i y) { return _mm_unpacklo_epi16(x, y); }
+inline __m128i interleaved_high(__m128i x, __m128i y) { return _mm_unpackhi_epi16(x, y); }
 #if SIG5D_LEVEL >= 2
 inline __m128i rounded_products(__m128i x, __m128i y) { return _mm_mulhrs_epi16(x, y); }
 #endif
@@ -56,6 +59,9 @@ inline __m256i averages(__m256i x, __m256i y, u8) { return _mm256_avg_epu8(x, y)
 inline __m256i averages(__m256i x, __m256i y, u16) { return _mm256_avg_epu16(x, y); }
 inline __m256i and_not(__m256i x, __m256i y) { return _mm256_andnot_si256(y, x); }
 inline __m256i packed(__m256i low, __m256i high) { return _mm256_packs_epi32(low, high); }
+inline __m256i packed_bytes(__m256i low, __m256i high) { return _mm256_packus_epi16(low, high); }
+inline __m256i interleaved_low(__m256i x, __m256i y) { return _mm256_unpacklo_epi16(x, y); }
+inline __m256i interleaved_high(__m256i x, __m256i y) { return _mm256_unpackhi_epi16(x, y); }
 inline __m256i rounded_products(__m256i x, __m256i y) { return _mm256_mulhrs_epi16(x, y); }
 inline __m256i chosen(__m256i sign, __m256i negative, __m256i other)
 {

@@ -9,6 +9,7 @@
 #pragma once
 #include "kernel/compact_loop.h"
 #include "kernel/lane_shifts.h"
+#include "kernel/long_products.h"
 #include "kernel/saturate.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -34,10 +35,12 @@ template <class T> inline T scaled(i64 r, int s)
 
 #if SIG5D_LEVEL == 0
 
+template <class T> inline c32s scaled(c64s r, int s) { return {scaled<T>(r.re, s), scaled<T>(r.im, s)}; }
+
 template <class T, class Op> struct Scaled {
     Op op;
     int s;
-    template <class... X> T operator()(X... x) const { return scaled<T>(op.exact(x...), s); }
+    template <class... X> auto operator()(X... x) const { return scaled<T>(op.exact(x...), s); }
 };
 
 // d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
@@ -63,6 +66,20 @@ template <class V> struct Doubled { // of 16 bits: in 32-bit lanes, in the order
 template <class V> struct Split { // of 32 bits: in two 32-bit lanes
     V low, high;
 };
+
+// From the lower and the upper halves of the results of 16-bit lanes.
+template <class V> inline auto unpacked(V low, V high)
+{
+    using W = Vec<i32, sizeof(V) / 4>;
+    return Doubled<W>{as<W>(interleaved_low(bits(low), bits(high))), as<W>(interleaved_high(bits(low), bits(high)))};
+}
+
+// From the results of the even and of the odd 32-bit lanes.
+template <class V, class W> inline Split<V> split(W even, W odd)
+{
+    return {as<V>(alternate(bits(even), bits(odd << 32))),
+            as<V>(alternate(bits(as<Vec<u64, sizeof(V) / 8>>(even) >> 32), bits(odd)))};
+}
 
 // Lane by lane to the right, 0 <= count < width, arithmetic for signed lanes.
 template <class V> inline V down(V x, int count)
@@ -206,8 +223,8 @@ inline void clear(size_t bytes, u8* d)
 // d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
 template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
 {
-    if constexpr (requires { Op::template quick<T>; })
-        if (Op::template quick<T> && s == Op::template quick<T>) return map_compact(n, d, Quick<Op>{op}, a...);
+    if constexpr (requires { requires Op::template quick<T> > 0; })
+        if (s == Op::template quick<T>) return map_compact(n, d, Quick<Op>{op}, a...);
     if (s == 0)
         map_compact(n, d, Saturated<Op>{op}, a...);
     else if (s < 0)
@@ -219,6 +236,12 @@ template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, 
 }
 
 #endif
+
+// The one place for each operation and type where the loops are made.
+template <class Op, class T, class... A> [[gnu::noinline]] void run_scaled(size_t n, T* d, int s, A... a)
+{
+    map_scaled<T>(Op{}, s, n, d, a...);
+}
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

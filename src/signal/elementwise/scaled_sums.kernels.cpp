@@ -61,41 +61,27 @@ struct Difference {
 #endif
 };
 
-template <class Op, class T, class... A> [[gnu::noinline]] void run(size_t n, T* d, int s, A... a)
-{
-    map_scaled<T>(Op{}, s, n, d, a...);
-}
-
-// Arrays of complex numbers are arrays of their parts.
-inline size_t count(const void*, int n) { return static_cast<size_t>(n); }
-inline size_t count(const c32s*, int n) { return 2 * static_cast<size_t>(n); }
-template <class T> T* parts(T* p) { return p; }
-inline i32* parts(c32s* p) { return &p->re; }
-inline const i32* parts(const c32s* p) { return &p->re; }
-template <class T> Repeated<T> repeated(T v) { return {repeated_bits(v)}; }
-inline Repeated<i32> repeated(c32s v) { return {repeated_bits(v)}; }
-
 template <class T> void add(const T* a, const T* b, T* d, int n, int s)
 {
-    run<Sum>(count(d, n), parts(d), s, parts(a), parts(b));
+    run_scaled<Sum>(count(d, n), parts(d), s, parts(a), parts(b));
 }
 template <class T> void add(const T* a, T v, T* d, int n, int s)
 {
-    run<Sum>(count(d, n), parts(d), s, parts(a), repeated(v));
+    run_scaled<Sum>(count(d, n), parts(d), s, parts(a), repeated(v));
 }
 
 // b - a: the subtrahend comes first.
 template <class T> void subtract(const T* a, const T* b, T* d, int n, int s)
 {
-    run<Difference>(count(d, n), parts(d), s, parts(b), parts(a));
+    run_scaled<Difference>(count(d, n), parts(d), s, parts(b), parts(a));
 }
 template <class T> void subtract(const T* a, T v, T* d, int n, int s)
 {
-    run<Difference>(count(d, n), parts(d), s, parts(a), repeated(v));
+    run_scaled<Difference>(count(d, n), parts(d), s, parts(a), repeated(v));
 }
 template <class T> void subtract_reversed(const T* a, T v, T* d, int n, int s)
 {
-    run<Difference>(count(d, n), parts(d), s, repeated(v), parts(a));
+    run_scaled<Difference>(count(d, n), parts(d), s, repeated(v), parts(a));
 }
 
 } // namespace

@@ -1,0 +1,32 @@
+// Absolute values of integers; that of the lowest, which does not fit, is the highest.
+#include "frame/entry.h"
+#include "kernel/loops.h"
+#include "kernel/saturate.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+struct Absolute {
+#if SIG5D_LEVEL == 0
+    template <class T> T operator()(T x) const { return saturated<T>(x < 0 ? -static_cast<i64>(x) : x); }
+#else
+    template <class V> V operator()(V x) const
+    {
+        if constexpr (sizeof(Lane<V>) == 2) {
+            return higher(x, subtract_saturated(V{}, x));
+        } else { // the lowest stays itself, and is the only negative one
+            const V a = higher(x, -x);
+            return a ^ (a >> 31);
+        }
+    }
+#endif
+};
+
+template <class T> [[gnu::noinline]] void absolute(const T* a, T* d, int n)
+{
+    map(static_cast<size_t>(n), d, Absolute{}, a);
+}
+
+} // namespace
+#include "entries/signal/elementwise/absolute.inc"
+} // namespace sig5d::SIG5D_VARIANT
