@@ -19,6 +19,9 @@ BODIES(ippsSet_64fc, (Ipp64fc, Ipp64fc*, int))
 BODIES(ippsXor_8u, (const Ipp8u*, const Ipp8u*, Ipp8u*, int))
 BODIES(ippsNot_8u_I, (Ipp8u*, int))
 BODIES(ippsFlip_16u, (const Ipp16u*, Ipp16u*, int))
+BODIES(ippsAdd_8u_Sfs, (const Ipp8u*, const Ipp8u*, Ipp8u*, int, int))
+BODIES(ippsSubC_32sc_Sfs, (const Ipp32sc*, Ipp32sc, Ipp32sc*, int, int))
+BODIES(ippsSubC_32sc_ISfs, (Ipp32sc, Ipp32sc*, int, int))
 
 using support::Bytes;
 using support::noise;
@@ -85,6 +88,33 @@ TEST_P(Stream, FillsAndFlips)
             PICK(ippsFlip_16u)
             (reinterpret_cast<const Ipp16u*>(a.data()), reinterpret_cast<Ipp16u*>(&d[to]), static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
+        }
+}
+
+TEST_P(Stream, ScaledSums)
+{
+    const Bytes a = noise(1400), b = noise(1400, 2), before = noise(1400, 3);
+    const Ipp32sc value = {1000, -70000};
+    for (size_t n = 1; n <= 1300; n += n < 150 ? 1 : 23)
+        for (size_t to = 0; to < 40; to += 4) { // where numbers reach no aligned address, ordinary stores
+            Bytes d = before, expected = before;
+            for (size_t i = 0; i < n; ++i)
+                expected[to + i] = static_cast<unsigned char>(std::min(2 * (a[i] + b[5 + i]), 255));
+            PICK(ippsAdd_8u_Sfs)(&a[0], &b[5], &d[to], static_cast<int>(n), -1);
+            ASSERT_EQ(d, expected) << n << ' ' << to;
+
+            std::vector<Ipp32sc> source(n), difference(n), place(n + 6);
+            for (size_t i = 0; i < n; ++i) {
+                const int x = a[i] - 100, y = 3 * b[i];
+                source[i] = {x, y};
+                difference[i] = {x - value.re, y - value.im};
+            }
+            auto* const p = reinterpret_cast<Ipp32sc*>(reinterpret_cast<unsigned char*>(place.data()) + to);
+            PICK(ippsSubC_32sc_Sfs)(source.data(), value, p, static_cast<int>(n), 0);
+            ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
+            std::memcpy(p, source.data(), 8 * n);
+            PICK(ippsSubC_32sc_ISfs)(value, p, static_cast<int>(n), 0);
+            ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
         }
 }
 
