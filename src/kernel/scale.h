@@ -46,7 +46,7 @@ template <class T, class Op> struct Scaled {
 // d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
 template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
 {
-    map_compact(n, d, Scaled<T, Op>{op, s}, a...);
+    map_compact<2>(n, d, Scaled<T, Op>{op, s}, a...);
 }
 
 #else
@@ -224,13 +224,13 @@ inline void clear(size_t bytes, u8* d)
 template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
 {
     if constexpr (requires { requires Op::template quick<T> > 0; })
-        if (s == Op::template quick<T>) return map_compact(n, d, Quick<Op>{op}, a...);
+        if (s == Op::template quick<T>) return map_compact<4>(n, d, Quick<Op>{op}, a...);
     if (s == 0)
-        map_compact(n, d, Saturated<Op>{op}, a...);
+        map_compact<4>(n, d, Saturated<Op>{op}, a...);
     else if (s < 0)
-        map_compact(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
+        map_compact<2>(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
     else if (s <= Op::template bits<T>)
-        map_compact(n, d, Scaled<Op>{op, s}, a...);
+        map_compact<2>(n, d, Scaled<Op>{op, s}, a...);
     else
         clear(n * sizeof(D), reinterpret_cast<u8*>(d));
 }

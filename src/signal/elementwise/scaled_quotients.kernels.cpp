@@ -111,7 +111,7 @@ template <class T, class F> struct Quotient {
 template <class F, class T, class... A> [[gnu::noinline]] Status run(size_t n, T* d, int s, A... a)
 {
     int zeroDivisors = 0;
-    map_compact(n, d, Quotient<T, F>{scale_of<F>(s), zeroDivisors}, a...);
+    map_compact<2>(n, d, Quotient<T, F>{scale_of<F>(s), zeroDivisors}, a...);
     return zeroDivisors ? StsDivByZero : StsNoErr;
 }
 

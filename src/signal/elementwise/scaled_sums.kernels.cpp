@@ -61,6 +61,13 @@ struct Difference {
 #endif
 };
 
+// For a value minus an array.
+struct DifferenceFrom : Difference {
+#if SIG5D_LEVEL > 0
+    template <class V> V saturated(V x, V y) const { return subtract_saturated_from(x, y); }
+#endif
+};
+
 template <class T> void add(const T* a, const T* b, T* d, int n, int s)
 {
     run_scaled<Sum>(count(d, n), parts(d), s, parts(a), parts(b));
@@ -81,7 +88,7 @@ template <class T> void subtract(const T* a, T v, T* d, int n, int s)
 }
 template <class T> void subtract_reversed(const T* a, T v, T* d, int n, int s)
 {
-    run_scaled<Difference>(count(d, n), parts(d), s, repeated(v), parts(a));
+    run_scaled<DifferenceFrom>(count(d, n), parts(d), s, repeated(v), parts(a));
 }
 
 } // namespace
