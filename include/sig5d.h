@@ -297,7 +297,7 @@ typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
 /* ---- Integer arithmetic with scale factors ---- */
 
-/* pDst[i] = pSrc1[i] + pSrc2[i]. */
+/* pDst[i] = (pSrc1[i] + pSrc2[i]) * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsAdd_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsAdd_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
@@ -326,7 +326,8 @@ IppStatus SIG5D_STDCALL ippsAdd_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, I
 IppStatus SIG5D_CDECL ippsAdd_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
         pDst, int dstIdx, int len, int scaleFactor);
 
-/* pDst[i] = pSrc2[i] - pSrc1[i]. */
+/* pDst[i] = (pSrc2[i] - pSrc1[i]) * 2^-scaleFactor. Mind the order: the first array is subtracted from the second.
+   In place: pSrcDst[i] - pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsSub_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsSub_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
@@ -355,7 +356,7 @@ IppStatus SIG5D_STDCALL ippsSub_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, I
 IppStatus SIG5D_CDECL ippsSub_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
         pDst, int dstIdx, int len, int scaleFactor);
 
-/* pDst[i] = pSrc[i] + val. */
+/* pDst[i] = (pSrc[i] + val) * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsAddC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsAddC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsAddC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
@@ -377,7 +378,7 @@ IppStatus SIG5D_STDCALL ippsAddC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDs
 IppStatus SIG5D_CDECL ippsAddC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
         int scaleFactor);
 
-/* pDst[i] = pSrc[i] - val. */
+/* pDst[i] = (pSrc[i] - val) * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsSubC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsSubC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsSubC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
@@ -399,7 +400,7 @@ IppStatus SIG5D_STDCALL ippsSubC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDs
 IppStatus SIG5D_CDECL ippsSubC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
         int scaleFactor);
 
-/* pDst[i] = val - pSrc[i]. */
+/* pDst[i] = (val - pSrc[i]) * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsSubCRev_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsSubCRev_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsSubCRev_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
@@ -423,7 +424,7 @@ IppStatus SIG5D_STDCALL ippsSubCRev_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* 
 IppStatus SIG5D_CDECL ippsSubCRev_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int
         len, int scaleFactor);
 
-/* pDst[i] = pSrc1[i] * pSrc2[i]. */
+/* pDst[i] = pSrc1[i] * pSrc2[i] * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsMul_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsMul_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
@@ -445,7 +446,7 @@ IppStatus SIG5D_STDCALL ippsMul_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, I
 IppStatus SIG5D_CDECL ippsMul_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
         pDst, int dstIdx, int len, int scaleFactor);
 
-/* pDst[i] = pSrc[i] * val. */
+/* pDst[i] = pSrc[i] * val * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsMulC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsMulC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsMulC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
@@ -467,13 +468,15 @@ IppStatus SIG5D_STDCALL ippsMulC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDs
 IppStatus SIG5D_CDECL ippsMulC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
         int scaleFactor);
 
-/* pSrcDst[i] = pSrcDst[i] + pSrc1[i] * pSrc2[i]. */
+/* pSrcDst[i] = (pSrcDst[i] + pSrc1[i] * pSrc2[i]) * 2^-scaleFactor. The sum is scaled as a whole, what was in
+   pSrcDst too. */
 IppStatus SIG5D_STDCALL ippsAddProduct_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pSrcDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsAddProduct_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx,
         Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 
-/* pDst[i] = pSrc2[i] / pSrc1[i]. */
+/* pDst[i] = (pSrc2[i] * 2^-scaleFactor) / pSrc1[i]. Mind the order: the first array holds the divisors. In place:
+   pSrcDst[i] / pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsDiv_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsDiv_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
@@ -495,7 +498,7 @@ IppStatus SIG5D_STDCALL ippsDiv_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, I
 IppStatus SIG5D_CDECL ippsDiv_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
         pDst, int dstIdx, int len, int scaleFactor);
 
-/* pDst[i] = pSrc[i] / val. */
+/* pDst[i] = (pSrc[i] * 2^-scaleFactor) / val. */
 IppStatus SIG5D_STDCALL ippsDivC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsDivC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsDivC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);

@@ -76,10 +76,8 @@ template <class V> inline V without(V x, V y) { return as<V>(and_not(bits(x), bi
 // (x + y + 1) / 2 of unsigned lanes.
 template <class V> inline V average(V x, V y) { return as<V>(averages(bits(x), bits(y), Lane<V>{})); }
 
-#if SIG5D_LEVEL >= 2
-// x * y * 2^-15 of 16-bit lanes to the nearest integer, halves up.
+// x * y * 2^-15 of 16-bit lanes to the nearest integer, halves up. From SSSE3 on.
 template <class V> inline V rounded_product(V x, V y) { return as<V>(rounded_products(bits(x), bits(y))); }
-#endif
 
 // Two vectors of 32-bit lanes that unpacking made of one of 16-bit lanes.
 template <class V> inline auto pack_saturated(V low, V high)

@@ -1,6 +1,6 @@
 // Absolute values of integers; that of the lowest, which does not fit, is the highest.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "kernel/compact_loop.h"
 #include "kernel/saturate.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -12,11 +12,12 @@ struct Absolute {
 #else
     template <class V> V operator()(V x) const
     {
+        using U = Vec<u32, sizeof(V) / 4>;
         if constexpr (sizeof(Lane<V>) == 2) {
             return higher(x, subtract_saturated(V{}, x));
-        } else { // the lowest stays itself, and is the only negative one
+        } else { // the lowest stays itself: it is the only negative one
             const V a = higher(x, -x);
-            return a ^ (a >> 31);
+            return SIG5D_LEVEL < 3 ? a ^ (a >> 31) : as<V>(lower(as<U>(a), all<U>(highest<i32>)));
         }
     }
 #endif
@@ -24,7 +25,7 @@ struct Absolute {
 
 template <class T> [[gnu::noinline]] void absolute(const T* a, T* d, int n)
 {
-    map(static_cast<size_t>(n), d, Absolute{}, a);
+    map_compact<4>(static_cast<size_t>(n), d, Absolute{}, a);
 }
 
 } // namespace

@@ -24,16 +24,28 @@ struct Product {
             return split<V>(even_products(x, y), even_products(odd(x), odd(y)));
         }
     }
-#if SIG5D_LEVEL >= 2
+    template <class T, int s> static constexpr bool quick = s == 1 ? sizeof(T) < 4 : sizeof(T) == 2 && SIG5D_LEVEL >= 2;
+    template <int s, class V> V quickly(V x, V y) const
+    {
+        if constexpr (s == 1 && sizeof(Lane<V>) == 1) {
+            const auto r = exact(x, y);
+            return as<V>(saturated(Words{ties_to_even(halved(r.even), r.even), ties_to_even(halved(r.odd), r.odd)}));
+        } else if constexpr (s == 1) {
+            // Rounded down, then up from an odd half: the limits are those of the sum.
+            const auto r = exact(x, y);
+            const V down = saturated(Doubled{r.low >> 1, r.high >> 1});
+            return add_saturated(down, down & (x * y) & 1);
+        } else {
+            return fraction_product(x, y);
+        }
+    }
     // Numbers between -1 and 1 with the point behind the sign. Ties are where the lower half of the product is the tie,
     // with any sign bit; and one product is 1.
-    template <class T> static constexpr int quick = sizeof(T) == 2 ? 15 : 0;
-    template <class V> V quickly(V x, V y) const
+    template <class V> V fraction_product(V x, V y) const
     {
         const V up = rounded_product(x, y), low = x * y, lowest = all<V>(lowest_of<i16>);
         return ties_to_even(up, low + low == lowest) + (up == lowest);
     }
-#endif
 #endif
 };
 

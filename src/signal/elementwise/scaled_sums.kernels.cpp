@@ -20,8 +20,8 @@ struct Sum {
             return {(x & y) + ((x ^ y) >> 1), x + y};
     }
     // x + y = 2 (x | y) - (x ^ y): halves rounded up, and ties where the last bits differ.
-    template <class T> static constexpr int quick = 1;
-    template <class V> V quickly(V x, V y) const
+    template <class T, int s> static constexpr bool quick = s == 1;
+    template <int s, class V> V quickly(V x, V y) const
     {
         if constexpr (sizeof(Lane<V>) == 1)
             return ties_to_even(average(x, y), x ^ y);
@@ -47,8 +47,8 @@ struct Difference {
         }
     }
     // x - y = 2 (x & ~y) - (x ^ y)
-    template <class T> static constexpr int quick = 1;
-    template <class V> V quickly(V x, V y) const
+    template <class T, int s> static constexpr bool quick = s == 1;
+    template <int s, class V> V quickly(V x, V y) const
     {
         if constexpr (sizeof(Lane<V>) == 1) {
             return ties_to_even(average(subtract_saturated(x, y), V{}), x ^ y);
