@@ -225,12 +225,13 @@ inline void clear(size_t bytes, u8* d)
 // d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
 template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
 {
+    constexpr int light = sizeof(T) < 4 ? 4 : 2; // vectors in flight where operations on them are few
     if constexpr (hasQuick<Op, T, 1>)
-        if (s == 1) return map_compact<4>(n, d, Quick<Op, 1>{op}, a...);
+        if (s == 1) return map_compact<light>(n, d, Quick<Op, 1>{op}, a...);
     if constexpr (hasQuick<Op, T, 15>)
-        if (s == 15) return map_compact<4>(n, d, Quick<Op, 15>{op}, a...);
+        if (s == 15) return map_compact<light>(n, d, Quick<Op, 15>{op}, a...);
     if (s == 0)
-        map_compact<4>(n, d, Saturated<Op>{op}, a...);
+        map_compact<light>(n, d, Saturated<Op>{op}, a...);
     else if (s < 0)
         map_compact<2>(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
     else if (s <= Op::template bits<T>)

@@ -46,16 +46,19 @@ struct Difference {
             return {((x ^ y) >> 1) - (~x & y), x - y};
         }
     }
-    // x - y = 2 (x & ~y) - (x ^ y)
+    // x - y = 2 (x & ~y) - (x ^ y) = (x ^ y) - 2 (~x & y). Half of the largest difference is beyond the limit by a
+    // half.
     template <class T, int s> static constexpr bool quick = s == 1;
     template <int s, class V> V quickly(V x, V y) const
     {
         if constexpr (sizeof(Lane<V>) == 1) {
             return ties_to_even(average(subtract_saturated(x, y), V{}), x ^ y);
+        } else if constexpr (sizeof(Lane<V>) == 2) {
+            const V down = ((x ^ y) >> 1) - (~x & y);
+            return add_saturated(down, down & (x ^ y) & 1);
         } else {
-            const V up = (x & ~y) - ((x ^ y) >> 1);
-            const V beyond = as<V>(up == all<V>(lowest_of<Lane<V>>)); // the one that wraps: half of 2^width - 1
-            return ties_to_even(up, x ^ y) + beyond;
+            const V up = (x & ~y) - ((x ^ y) >> 1), wrapped = as<V>(up == all<V>(lowest_of<i32>));
+            return ties_to_even(up, x ^ y) + wrapped;
         }
     }
 #endif
