@@ -6,7 +6,7 @@ target_compile_options(
     INTERFACE ${SIG5D_COMMON_FLAGS}
               $<$<COMPILE_LANGUAGE:CXX>:-fno-exceptions -fno-rtti -fno-threadsafe-statics -fvisibility=hidden>
               -ffunction-sections -fdata-sections -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -Wall -Wextra
-              -fstack-protector-strong)
+              -fstack-protector-strong -fno-ident)
 if(SIG5D_SANITIZE)
     # Callers may pass arrays at any address, so that misaligned access is intended here, and every processor allows it.
     add_compile_options(-fsanitize=${SIG5D_SANITIZE} -fno-sanitize=alignment -fno-sanitize-recover=all
@@ -15,7 +15,16 @@ if(SIG5D_SANITIZE)
 endif()
 
 set(frame_sources "")
-foreach(source ${SIG5D_PLAIN_SOURCES} frame/cpuid.cpp frame/cache.cpp ${SIG5D_INTERNAL_SOURCES})
+foreach(
+    source
+    ${SIG5D_PLAIN_SOURCES}
+    frame/cpuid.cpp
+    frame/features.cpp
+    frame/cache_size.cpp
+    frame/core_count.cpp
+    frame/frequency.cpp
+    frame/detected.cpp
+    ${SIG5D_INTERNAL_SOURCES})
     list(APPEND frame_sources ${CMAKE_SOURCE_DIR}/src/${source})
 endforeach()
 list(REMOVE_DUPLICATES frame_sources)
@@ -44,7 +53,7 @@ elseif(NOT SIG5D_STATIC)
     endforeach()
     target_link_options(
         sig5d PRIVATE -Wl,--version-script=${SIG5D_GENERATED}/exports.map -Wl,-Bsymbolic -Wl,--gc-sections
-        -Wl,-z,relro,-z,now,-z,noexecstack -Wl,--build-id=none)
+        -Wl,-z,relro,-z,now,-z,noexecstack -Wl,--build-id=none -Wl,-Map,${CMAKE_BINARY_DIR}/Numlab.Sig5d.map)
     if(NOT SIG5D_SANITIZE)
         # Linked as C: plain functions and plain records need no C++ runtime.
         set_target_properties(sig5d PROPERTIES LINKER_LANGUAGE C)

@@ -11,29 +11,29 @@ extern "C" {
 
 enum {
     ippStsNoErr = 0, /* No errors. */
-    ippStsSAReservedErr1 = -1, /* None */
+    ippStsSAReservedErr1 = -1, /* Unknown/unspecified error, -1. */
     ippStsErr = -2, /* Unknown/unspecified error, -2. */
-    ippStsSAReservedErr3 = -3, /* None */
+    ippStsSAReservedErr3 = -3, /* Unknown/unspecified error, -3. */
     ippStsNoMemErr = -4, /* Not enough memory for the operation. */
     ippStsBadArgErr = -5, /* Incorrect arg/param of the function. */
     ippStsSizeErr = -6, /* Incorrect value for data size. */
-    ippStsRangeErr = -7, /* None */
+    ippStsRangeErr = -7, /* Incorrect values for the bounds of the range. */
     ippStsNullPtrErr = -8, /* Null pointer error. */
     ippStsMemAllocErr = -9, /* Memory allocated for the operation is not enough. */
     ippStsDivByZeroErr = -10, /* An attempt to divide by zero. */
-    ippStsOutOfRangeErr = -11, /* None */
+    ippStsOutOfRangeErr = -11, /* Argument is out of range. */
     ippStsDataTypeErr = -12, /* Data type is incorrect or not supported. */
-    ippStsScaleRangeErr = -13, /* None */
-    ippStsStepErr = -14, /* None */
+    ippStsScaleRangeErr = -13, /* Scale bounds are out of range. */
+    ippStsStepErr = -14, /* Step value is not valid. */
     ippStsFftOrderErr = -15, /* Invalid value for the FFT order parameter. */
     ippStsFftFlagErr = -16, /* Invalid value for the FFT flag parameter. */
     ippStsContextMatchErr = -17, /* Context parameter does not match the operation. */
     ippStsThresholdErr = -18, /* Invalid threshold bounds. */
     ippStsThreshNegLevelErr = -19, /* Negative value of the level in the threshold operation. */
-    ippStsMoment00ZeroErr = -20, /* None */
-    ippStsMirrorFlipErr = -21, /* None */
-    ippStsInterpolationErr = -22, /* None */
-    ippStsResizeFactorErr = -23, /* None */
+    ippStsMoment00ZeroErr = -20, /* Spatial moment M(0,0) is zero. */
+    ippStsMirrorFlipErr = -21, /* Axis of the mirror flip is incorrect or not supported. */
+    ippStsInterpolationErr = -22, /* Interpolation mode is incorrect or not supported. */
+    ippStsResizeFactorErr = -23, /* Resize factor is less than, or equal to zero. */
     ippStsDlyLineIndexErr = -24, /* Invalid value for the delay line sample index. */
     ippStsIIROrderErr = -25, /* Order of an IIR filter is not valid. */
     ippStsFIRLenErr = -26, /* Length of a FIR filter is less than, or equal to zero. */
@@ -44,10 +44,10 @@ enum {
     ippStsSampleFactorErr = -31, /* Sampling factor is less than, or equal to zero. */
     ippStsShiftErr = -32, /* Shift value is less than zero. */
     ippStsMaskSizeErr = -33, /* Invalid mask size. */
-    ippStsAnchorErr = -34, /* None */
-    ippStsWtOffsetErr = -35, /* None */
-    ippStsEpsValErr = -36, /* None */
-    ippStsStrideErr = -37, /* None */
+    ippStsAnchorErr = -34, /* Anchor point is outside the mask. */
+    ippStsWtOffsetErr = -35, /* Invalid value for the offset of the wavelet filter. */
+    ippStsEpsValErr = -36, /* Invalid value for the epsilon parameter. */
+    ippStsStrideErr = -37, /* Stride value is less than the length of a row. */
     ippStsJaehneErr = -38, /* Magnitude value is negative. */
     ippStsHugeWinErr = -39, /* Kaiser window is too big. */
     ippStsTrnglAsymErr = -40, /* Triangle asymmetry is less than -PI, or greater than, or equal to PI. */
@@ -57,237 +57,237 @@ enum {
     ippStsTonePhaseErr = -44, /* Tone phase is negative, or greater than, or equal to 2*PI. */
     ippStsToneFreqErr = -45, /* Tone frequency is negative, or greater than, or equal to 0.5. */
     ippStsToneMagnErr = -46, /* Tone magnitude is less than, or equal to zero. */
-    ippStsChannelErr = -47, /* None */
-    ippStsGrayCoefSumErr = -48, /* None */
-    ippStsGammaRangeErr = -49, /* None */
-    ippStsAlphaTypeErr = -50, /* None */
-    ippStsDivisorErr = -51, /* None */
-    ippStsCOIErr = -52, /* None */
-    ippStsNumChannelsErr = -53, /* None */
-    ippStsDitherLevelsErr = -54, /* None */
-    ippStsNoiseValErr = -55, /* None */
-    ippStsCoeffErr = -56, /* None */
-    ippStsRectErr = -57, /* None */
-    ippStsQuadErr = -58, /* None */
-    ippStsZeroMaskValuesErr = -59, /* None */
-    ippStsChannelOrderErr = -60, /* None */
-    ippStsDrawTextErr = -61, /* None */
-    ippStsJPEGOutOfBufErr = -62, /* None */
-    ippStsJPEGDCTRangeErr = -63, /* None */
-    ippStsJPEGHuffTableErr = -64, /* None */
-    ippStsSVDCnvgErr = -65, /* None */
-    ippStsCdbkFlagErr = -66, /* None */
-    ippStsNegOccErr = -67, /* None */
-    ippStsFBankErr = -69, /* None */
-    ippStsFBankFlagErr = -70, /* None */
-    ippStsFBankFreqErr = -71, /* None */
-    ippStsH263ZigzagLenErr = -72, /* None */
-    ippStsH263DCCodeErr = -73, /* None */
-    ippStsH263VLCCodeErr = -74, /* None */
-    ippStsH263MVCodeErr = -75, /* None */
-    ippStsH263QuantErr = -76, /* None */
-    ippStsH263PlaneStepErr = -77, /* None */
-    ippStsH263ExpandPelsErr = -78, /* None */
-    ippStsH263FrameHeightErr = -79, /* None */
-    ippStsH263FrameWidthErr = -80, /* None */
-    ippStsH263MBStepErr = -81, /* None */
-    ippStsH263BlockStepErr = -82, /* None */
-    ippStsH263PredModeErr = -83, /* None */
-    ippStsMP4LinearModeErr = -90, /* None */
-    ippStsMP4VideoCompModeErr = -91, /* None */
-    ippStsMP4BitsPerPixelErr = -92, /* None */
-    ippStsMP4PredDirErr = -93, /* None */
-    ippStsMP4ZeroBABErr = -94, /* None */
-    ippStsMP4BlockSizeErr = -95, /* None */
-    ippStsMP4TempDiffErr = -96, /* None */
-    ippStsMP4AlignErr = -97, /* None */
-    ippStsMP4FcodeErr = -98, /* None */
-    ippStsMP4DCCodeErr = -99, /* None */
-    ippStsMP4VLCCodeErr = -100, /* None */
-    ippStsMP4MVCodeErr = -101, /* None */
-    ippStsMP4BlockTypeErr = -102, /* None */
-    ippStsMP4BlockIdxErr = -103, /* None */
-    ippStsMP4QPErr = -104, /* None */
-    ippStsMP4BitOffsetErr = -105, /* None */
-    ippStsLUTNofLevelsErr = -106, /* None */
-    ippStsHistoNofLevelsErr = -107, /* None */
-    ippStsNotEvenStepErr = -108, /* None */
-    ippStsH263MCBPCIntraCodeErr = -109, /* None */
-    ippStsH263MCBPCInterCodeErr = -110, /* None */
-    ippStsH263CBPYCodeErr = -111, /* None */
-    ippStsJPEG2KDamagedCodeBlock = -112, /* None */
-    ippStsJPEG2KBadPassNumber = -113, /* None */
-    ippStsNoRootFoundErr = -114, /* None */
-    ippStsIncorrectLSPErr = -115, /* None */
-    ippStsRCCalcErr = -116, /* None */
-    ippStsLPCCalcErr = -117, /* None */
-    ippStsBadModulusErr = -118, /* None */
-    ippStsLengthErr = -119, /* None */
-    ippStsInvalidCryptoKeyErr = -120, /* None */
-    ippStsPaddingSchemeErr = -121, /* None */
-    ippStsCFBSizeErr = -122, /* None */
-    ippStsPaddingErr = -123, /* None */
-    ippStsUnderRunErr = -124, /* None */
-    ippStsNoiseRangeErr = -125, /* None */
-    ippStsVLCAACEscCodeLengthErr = -126, /* None */
-    ippStsVLCInputDataErr = -127, /* None */
-    ippStsVLCInternalTblErr = -128, /* None */
-    ippStsVLCUsrTblCodeLengthErr = -129, /* None */
-    ippStsVLCUsrTblEscCodeLengthErr = -130, /* None */
-    ippStsVLCUsrTblEscAlgTypeErr = -131, /* None */
-    ippStsVLCUsrTblUnsupportedFmtErr = -132, /* None */
-    ippStsVLCUsrTblHeaderErr = -133, /* None */
-    ippStsAacPcmModeErr = -134, /* None */
-    ippStsAacWinShapeErr = -135, /* None */
-    ippStsAacObjTypeErr = -136, /* None */
-    ippStsAacScalableErr = -137, /* None */
-    ippStsAacMonoLayerErr = -138, /* None */
-    ippStsAacStereoLayerErr = -139, /* None */
-    ippStsAacMonoStereoErr = -140, /* None */
-    ippStsAacChanErr = -141, /* None */
-    ippStsAacStereoMaskErr = -142, /* None */
-    ippStsAacComWinErr = -143, /* None */
-    ippStsAacWinSeqErr = -144, /* None */
-    ippStsAacWinGrpErr = -145, /* None */
-    ippStsAacWinLenErr = -146, /* None */
-    ippStsAacSmplRateIdxErr = -147, /* None */
-    ippStsAacAdtsSyncWordErr = -148, /* None */
-    ippStsAacBitOffsetErr = -149, /* None */
-    ippStsAacErr = -150, /* None */
-    ippStsAacTnsProfileErr = -151, /* None */
-    ippStsAacTnsDirectErr = -152, /* None */
-    ippStsAacTnsCoefErr = -153, /* None */
-    ippStsAacTnsCoefResErr = -154, /* None */
-    ippStsAacTnsOrderErr = -155, /* None */
-    ippStsAacTnsLenErr = -156, /* None */
-    ippStsAacTnsNumFiltErr = -157, /* None */
-    ippStsAacSectErr = -158, /* None */
-    ippStsAacGainCtrErr = -159, /* None */
-    ippStsAacPlsDataErr = -160, /* None */
-    ippStsAacPredSfbErr = -161, /* None */
-    ippStsAacMaxSfbErr = -162, /* None */
-    ippStsAacCoefValErr = -163, /* None */
-    ippStsAacSfValErr = -164, /* None */
-    ippStsAacSectCbErr = -166, /* None */
-    ippStsAacPrgNumErr = -167, /* None */
-    ippStsMBStepErr = -168, /* None */
-    ippStsBlockStepErr = -169, /* None */
-    ippStsMP3SideInfoErr = -170, /* None */
-    ippStsMP3FrameHeaderErr = -171, /* None */
-    ippStsECCInvalidFlagErr = -172, /* None */
-    ippStsOutOfECErr = -173, /* None */
-    ippStsIvalidPrivateKey = -174, /* None */
-    ippStsIvalidPublicKey = -175, /* None */
-    ippStsShareKeyErr = -176, /* None */
-    ippStsMessageErr = -177, /* None */
-    ippStsEphemeralKeyErr = -178, /* None */
-    ippStsNotPosDefErr = -179, /* None */
-    ippStsJPEG2KCodeBlockIsNotAttached = -180, /* None */
-    ippStsCTRSizeErr = -181, /* None */
-    ippStsStrideMatrixErr = -182, /* None */
-    ippStsRegExpMetaChErr = -183, /* None */
-    ippStsRegExpChClassErr = -184, /* None */
-    ippStsRegExpBackRefErr = -185, /* None */
-    ippStsRegExpGroupingErr = -186, /* None */
-    ippStsRegExpQuantifierErr = -187, /* None */
-    ippStsRegExpMatchLimitErr = -188, /* None */
-    ippStsRegExpErr = -189, /* None */
-    ippStsRegExpOptionsErr = -190, /* None */
-    ippStsVLCErr = -191, /* None */
-    ippStsQPErr = -192, /* None */
-    ippStsBitOffsetErr = -193, /* None */
-    ippStsSparseErr = -194, /* None */
-    ippStsSingularErr = -195, /* None */
-    ippStsIncompleteContextErr = -196, /* None */
-    ippStsFreqTableErr = -197, /* None */
-    ippStsCodeLenTableErr = -198, /* None */
-    ippStsMaxLenHuffCodeErr = -199, /* None */
-    ippStsSrcDataErr = -200, /* None */
-    ippStsResizeNoOperationErr = -201, /* None */
-    ippStsRoiShiftMatrixErr = -202, /* None */
-    ippStsCountMatrixErr = -203, /* None */
-    ippStsSizeMatchMatrixErr = -204, /* None */
-    ippStsConvergeErr = -205, /* None */
-    ippStsIIRGenOrderErr = -206, /* None */
-    ippStsFIRGenOrderErr = -207, /* None */
-    ippStsFilterFrequencyErr = -208, /* None */
-    ippStsIIRPassbandRippleErr = -209, /* None */
-    ippStsQualityIndexErr = -210, /* None */
-    ippStsWeightErr = -211, /* None */
-    ippStsDecimateFractionErr = -212, /* None */
+    ippStsChannelErr = -47, /* Invalid channel number. */
+    ippStsGrayCoefSumErr = -48, /* Sum of the coefficients for the conversion to gray is out of range. */
+    ippStsGammaRangeErr = -49, /* Invalid bounds of the gamma range. */
+    ippStsAlphaTypeErr = -50, /* Alpha composition type is incorrect or not supported. */
+    ippStsDivisorErr = -51, /* Invalid value for the divisor. */
+    ippStsCOIErr = -52, /* Channel of interest is out of range. */
+    ippStsNumChannelsErr = -53, /* Number of channels is incorrect or not supported. */
+    ippStsDitherLevelsErr = -54, /* Number of dithering levels is out of range. */
+    ippStsNoiseValErr = -55, /* Invalid value for the noise amplitude. */
+    ippStsCoeffErr = -56, /* Coefficients of the transform are not valid. */
+    ippStsRectErr = -57, /* Width or height of the rectangle is less than, or equal to zero. */
+    ippStsQuadErr = -58, /* Quadrangle is not convex, or degenerates into a triangle, a line, or a point. */
+    ippStsZeroMaskValuesErr = -59, /* All values of the mask are zero. */
+    ippStsChannelOrderErr = -60, /* Wrong order of the channels. */
+    ippStsDrawTextErr = -61, /* Text cannot be drawn. */
+    ippStsJPEGOutOfBufErr = -62, /* The JPEG codec reached the end of its buffer. */
+    ippStsJPEGDCTRangeErr = -63, /* DCT coefficient is out of range for the JPEG codec. */
+    ippStsJPEGHuffTableErr = -64, /* Invalid Huffman table for the JPEG codec. */
+    ippStsSVDCnvgErr = -65, /* The singular value decomposition does not converge. */
+    ippStsCdbkFlagErr = -66, /* Invalid value for the codebook flag parameter. */
+    ippStsNegOccErr = -67, /* Occupation count is negative. */
+    ippStsFBankErr = -69, /* Filter bank is not correct. */
+    ippStsFBankFlagErr = -70, /* Invalid value for the filter bank flag parameter. */
+    ippStsFBankFreqErr = -71, /* Invalid frequency of the filter bank. */
+    ippStsH263ZigzagLenErr = -72, /* Invalid length of the zigzag scan for the H.263 codec. */
+    ippStsH263DCCodeErr = -73, /* Invalid code of a DC coefficient in the H.263 stream. */
+    ippStsH263VLCCodeErr = -74, /* Invalid variable-length code in the H.263 stream. */
+    ippStsH263MVCodeErr = -75, /* Invalid motion vector code in the H.263 stream. */
+    ippStsH263QuantErr = -76, /* Invalid quantizer value in the H.263 stream. */
+    ippStsH263PlaneStepErr = -77, /* Invalid value for the plane step of the H.263 codec. */
+    ippStsH263ExpandPelsErr = -78, /* Invalid number of pixels for the frame expansion of the H.263 codec. */
+    ippStsH263FrameHeightErr = -79, /* Invalid frame height for the H.263 codec. */
+    ippStsH263FrameWidthErr = -80, /* Invalid frame width for the H.263 codec. */
+    ippStsH263MBStepErr = -81, /* Invalid value for the macroblock step of the H.263 codec. */
+    ippStsH263BlockStepErr = -82, /* Invalid value for the block step of the H.263 codec. */
+    ippStsH263PredModeErr = -83, /* Invalid prediction mode in the H.263 stream. */
+    ippStsMP4LinearModeErr = -90, /* Invalid linear mode in the MPEG-4 stream. */
+    ippStsMP4VideoCompModeErr = -91, /* Invalid video component mode in the MPEG-4 stream. */
+    ippStsMP4BitsPerPixelErr = -92, /* Invalid number of bits per pixel in the MPEG-4 stream. */
+    ippStsMP4PredDirErr = -93, /* Invalid prediction direction in the MPEG-4 stream. */
+    ippStsMP4ZeroBABErr = -94, /* All values of a binary alpha block are zero in the MPEG-4 stream. */
+    ippStsMP4BlockSizeErr = -95, /* Invalid block size in the MPEG-4 stream. */
+    ippStsMP4TempDiffErr = -96, /* Invalid temporal difference in the MPEG-4 stream. */
+    ippStsMP4AlignErr = -97, /* Invalid alignment in the MPEG-4 stream. */
+    ippStsMP4FcodeErr = -98, /* Invalid motion vector range (fcode) in the MPEG-4 stream. */
+    ippStsMP4DCCodeErr = -99, /* Invalid code of a DC coefficient in the MPEG-4 stream. */
+    ippStsMP4VLCCodeErr = -100, /* Invalid variable-length code in the MPEG-4 stream. */
+    ippStsMP4MVCodeErr = -101, /* Invalid motion vector code in the MPEG-4 stream. */
+    ippStsMP4BlockTypeErr = -102, /* Invalid block type in the MPEG-4 stream. */
+    ippStsMP4BlockIdxErr = -103, /* Invalid block index in the MPEG-4 stream. */
+    ippStsMP4QPErr = -104, /* Invalid quantization parameter in the MPEG-4 stream. */
+    ippStsMP4BitOffsetErr = -105, /* Invalid bit offset in the MPEG-4 stream. */
+    ippStsLUTNofLevelsErr = -106, /* Invalid number of levels for the lookup table. */
+    ippStsHistoNofLevelsErr = -107, /* Invalid number of levels for the histogram. */
+    ippStsNotEvenStepErr = -108, /* Step value is not a multiple of the element size. */
+    ippStsH263MCBPCIntraCodeErr = -109, /* Invalid MCBPC code of an intra macroblock in the H.263 stream. */
+    ippStsH263MCBPCInterCodeErr = -110, /* Invalid MCBPC code of an inter macroblock in the H.263 stream. */
+    ippStsH263CBPYCodeErr = -111, /* Invalid CBPY code in the H.263 stream. */
+    ippStsJPEG2KDamagedCodeBlock = -112, /* JPEG 2000 code block is damaged. */
+    ippStsJPEG2KBadPassNumber = -113, /* Pass number of a JPEG 2000 code block is out of range. */
+    ippStsNoRootFoundErr = -114, /* No root of the equation was found. */
+    ippStsIncorrectLSPErr = -115, /* Line spectral pairs are incorrect. */
+    ippStsRCCalcErr = -116, /* Reflection coefficients cannot be calculated. */
+    ippStsLPCCalcErr = -117, /* Linear prediction coefficients cannot be calculated. */
+    ippStsBadModulusErr = -118, /* Modulus is not valid for the operation. */
+    ippStsLengthErr = -119, /* Incorrect value for the length. */
+    ippStsInvalidCryptoKeyErr = -120, /* Cryptographic key is not valid. */
+    ippStsPaddingSchemeErr = -121, /* Padding scheme is incorrect or not supported. */
+    ippStsCFBSizeErr = -122, /* Incorrect value for the block size of the CFB cipher mode. */
+    ippStsPaddingErr = -123, /* Padding of the data is not correct. */
+    ippStsUnderRunErr = -124, /* Data under-run: the input ended before the operation was complete. */
+    ippStsNoiseRangeErr = -125, /* Noise value is out of range. */
+    ippStsVLCAACEscCodeLengthErr = -126, /* Invalid length of an AAC escape code in the VLC operation. */
+    ippStsVLCInputDataErr = -127, /* Invalid input data for the VLC operation. */
+    ippStsVLCInternalTblErr = -128, /* Invalid internal VLC table. */
+    ippStsVLCUsrTblCodeLengthErr = -129, /* Invalid length of a code in the user-defined VLC table. */
+    ippStsVLCUsrTblEscCodeLengthErr = -130, /* Invalid length of an escape code in the user-defined VLC table. */
+    ippStsVLCUsrTblEscAlgTypeErr = -131, /* Escape algorithm type of the user-defined VLC table is incorrect or not supported. */
+    ippStsVLCUsrTblUnsupportedFmtErr = -132, /* Format of the user-defined VLC table is not supported. */
+    ippStsVLCUsrTblHeaderErr = -133, /* Invalid header of the user-defined VLC table. */
+    ippStsAacPcmModeErr = -134, /* Invalid PCM mode of the AAC codec. */
+    ippStsAacWinShapeErr = -135, /* Invalid window shape in the AAC stream. */
+    ippStsAacObjTypeErr = -136, /* Invalid audio object type in the AAC stream. */
+    ippStsAacScalableErr = -137, /* Invalid scalable coding flag in the AAC stream. */
+    ippStsAacMonoLayerErr = -138, /* Invalid mono layer in the AAC stream. */
+    ippStsAacStereoLayerErr = -139, /* Invalid stereo layer in the AAC stream. */
+    ippStsAacMonoStereoErr = -140, /* Invalid mono or stereo flag in the AAC stream. */
+    ippStsAacChanErr = -141, /* Invalid channel number in the AAC stream. */
+    ippStsAacStereoMaskErr = -142, /* Invalid stereo mask in the AAC stream. */
+    ippStsAacComWinErr = -143, /* Invalid common window flag in the AAC stream. */
+    ippStsAacWinSeqErr = -144, /* Invalid window sequence in the AAC stream. */
+    ippStsAacWinGrpErr = -145, /* Invalid window grouping in the AAC stream. */
+    ippStsAacWinLenErr = -146, /* Invalid window length in the AAC stream. */
+    ippStsAacSmplRateIdxErr = -147, /* Invalid sampling rate index in the AAC stream. */
+    ippStsAacAdtsSyncWordErr = -148, /* Invalid ADTS synchronization word in the AAC stream. */
+    ippStsAacBitOffsetErr = -149, /* Invalid bit offset in the AAC stream. */
+    ippStsAacErr = -150, /* Unspecified error in the AAC stream. */
+    ippStsAacTnsProfileErr = -151, /* Profile of the AAC stream does not allow the TNS data. */
+    ippStsAacTnsDirectErr = -152, /* Invalid direction of a TNS filter in the AAC stream. */
+    ippStsAacTnsCoefErr = -153, /* Invalid TNS coefficients in the AAC stream. */
+    ippStsAacTnsCoefResErr = -154, /* Invalid resolution of the TNS coefficients in the AAC stream. */
+    ippStsAacTnsOrderErr = -155, /* Invalid order of a TNS filter in the AAC stream. */
+    ippStsAacTnsLenErr = -156, /* Invalid length of a TNS filter in the AAC stream. */
+    ippStsAacTnsNumFiltErr = -157, /* Invalid number of TNS filters in the AAC stream. */
+    ippStsAacSectErr = -158, /* Invalid section data in the AAC stream. */
+    ippStsAacGainCtrErr = -159, /* Invalid gain control data in the AAC stream. */
+    ippStsAacPlsDataErr = -160, /* Invalid pulse data in the AAC stream. */
+    ippStsAacPredSfbErr = -161, /* Invalid scale factor band of the prediction in the AAC stream. */
+    ippStsAacMaxSfbErr = -162, /* Invalid value for the last scale factor band in the AAC stream. */
+    ippStsAacCoefValErr = -163, /* Invalid coefficient value in the AAC stream. */
+    ippStsAacSfValErr = -164, /* Invalid scale factor value in the AAC stream. */
+    ippStsAacSectCbErr = -166, /* Invalid codebook of a section in the AAC stream. */
+    ippStsAacPrgNumErr = -167, /* Invalid program number in the AAC stream. */
+    ippStsMBStepErr = -168, /* Invalid value for the macroblock step. */
+    ippStsBlockStepErr = -169, /* Invalid value for the block step. */
+    ippStsMP3SideInfoErr = -170, /* Invalid side information in the MP3 stream. */
+    ippStsMP3FrameHeaderErr = -171, /* Invalid frame header in the MP3 stream. */
+    ippStsECCInvalidFlagErr = -172, /* Invalid value for the flag of the elliptic curve operation. */
+    ippStsOutOfECErr = -173, /* Point is not on the elliptic curve. */
+    ippStsIvalidPrivateKey = -174, /* Private key is not valid. */
+    ippStsIvalidPublicKey = -175, /* Public key is not valid. */
+    ippStsShareKeyErr = -176, /* Shared key is not valid. */
+    ippStsMessageErr = -177, /* Message is not valid for the cryptographic operation. */
+    ippStsEphemeralKeyErr = -178, /* Ephemeral key is not valid. */
+    ippStsNotPosDefErr = -179, /* Matrix is not positive definite. */
+    ippStsJPEG2KCodeBlockIsNotAttached = -180, /* Code block is not attached to the state of the JPEG 2000 codec. */
+    ippStsCTRSizeErr = -181, /* Incorrect value for the counter size of the CTR cipher mode. */
+    ippStsStrideMatrixErr = -182, /* Invalid value for the matrix stride. */
+    ippStsRegExpMetaChErr = -183, /* Invalid metacharacter in the regular expression. */
+    ippStsRegExpChClassErr = -184, /* Invalid character class in the regular expression. */
+    ippStsRegExpBackRefErr = -185, /* Invalid back reference in the regular expression. */
+    ippStsRegExpGroupingErr = -186, /* Invalid grouping in the regular expression. */
+    ippStsRegExpQuantifierErr = -187, /* Invalid quantifier in the regular expression. */
+    ippStsRegExpMatchLimitErr = -188, /* Match limit of the regular expression is exceeded. */
+    ippStsRegExpErr = -189, /* Regular expression is not valid. */
+    ippStsRegExpOptionsErr = -190, /* Invalid options for the regular expression. */
+    ippStsVLCErr = -191, /* Invalid variable-length code. */
+    ippStsQPErr = -192, /* Invalid value for the quantization parameter. */
+    ippStsBitOffsetErr = -193, /* Invalid value for the bit offset. */
+    ippStsSparseErr = -194, /* Positions of the non-zero taps of a sparse filter are not valid. */
+    ippStsSingularErr = -195, /* Matrix is singular. */
+    ippStsIncompleteContextErr = -196, /* Context parameter is not completely set up. */
+    ippStsFreqTableErr = -197, /* Invalid table of symbol frequencies. */
+    ippStsCodeLenTableErr = -198, /* Invalid table of code lengths. */
+    ippStsMaxLenHuffCodeErr = -199, /* Length of a Huffman code exceeds the allowed maximum. */
+    ippStsSrcDataErr = -200, /* Source data is not valid for the operation. */
+    ippStsResizeNoOperationErr = -201, /* Resize has no output: a dimension of the resized image is less than 1 pixel. */
+    ippStsRoiShiftMatrixErr = -202, /* Invalid value for the ROI shift of a matrix. */
+    ippStsCountMatrixErr = -203, /* Number of matrices is less than, or equal to zero. */
+    ippStsSizeMatchMatrixErr = -204, /* Sizes of the matrices do not match the operation. */
+    ippStsConvergeErr = -205, /* The algorithm does not converge. */
+    ippStsIIRGenOrderErr = -206, /* Order of the IIR filter to generate is not valid. */
+    ippStsFIRGenOrderErr = -207, /* Order of the FIR filter to generate is not valid. */
+    ippStsFilterFrequencyErr = -208, /* Cut-off frequency of the filter is out of range. */
+    ippStsIIRPassbandRippleErr = -209, /* Pass-band ripple of an IIR filter is out of range. */
+    ippStsQualityIndexErr = -210, /* Quality index cannot be computed for the images. */
+    ippStsWeightErr = -211, /* Incorrect value for the weight. */
+    ippStsDecimateFractionErr = -212, /* Fraction for the decimation is incorrect or not supported. */
     ippStsRoundModeNotSupportedErr = -213, /* Rounding mode is not supported. */
-    ippStsLzoBrokenStreamErr = -214, /* None */
-    ippStsOFBSizeErr = -215, /* None */
+    ippStsLzoBrokenStreamErr = -214, /* Compressed LZO stream is broken and cannot be decoded. */
+    ippStsOFBSizeErr = -215, /* Incorrect value for the block size of the OFB cipher mode. */
     ippStsUnknownStatusCodeErr = -216, /* Unknown status code. */
-    ippStsPointAtInfinity = -220, /* None */
-    ippStsLoadDynErr = -221, /* None */
-    ippStsWrongAffinitySettingErr = -222, /* None */
-    ippStsH264BufferFullErr = -223, /* None */
-    ippStsDitherTypeErr = -224, /* None */
-    ippStsBorderErr = -225, /* None */
-    ippStsQuadraticNonResidueErr = -226, /* None */
-    ippStsMisalignedOffsetErr = -227, /* None */
+    ippStsPointAtInfinity = -220, /* Result of the elliptic curve operation is the point at infinity. */
+    ippStsLoadDynErr = -221, /* Error at loading of a dynamic library. */
+    ippStsWrongAffinitySettingErr = -222, /* Thread affinity setting is wrong. */
+    ippStsH264BufferFullErr = -223, /* Buffer for the H.264 stream is full. */
+    ippStsDitherTypeErr = -224, /* Dithering type is incorrect or not supported. */
+    ippStsBorderErr = -225, /* Border type is incorrect or not supported. */
+    ippStsQuadraticNonResidueErr = -226, /* Value is a quadratic non-residue: it has no square root for the modulus. */
+    ippStsMisalignedOffsetErr = -227, /* Offset is not a multiple of the required alignment. */
     ippStsAlgTypeErr = -228, /* Algorithm type is not supported. */
-    ippStsNormErr = -229, /* None */
-    ippStsFilterTypeErr = -230, /* None */
-    ippStsWarpDirectionErr = -231, /* None */
-    ippStsExceededSizeErr = -232, /* None */
-    ippStsWarpTransformTypeErr = -233, /* None */
-    ippStsInplaceModeNotSupportedErr = -9997, /* None */
+    ippStsNormErr = -229, /* Norm type is incorrect or not supported. */
+    ippStsFilterTypeErr = -230, /* Filter type is incorrect or not supported. */
+    ippStsWarpDirectionErr = -231, /* Warp direction is incorrect or not supported. */
+    ippStsExceededSizeErr = -232, /* Requested size exceeds the maximum that the function supports. */
+    ippStsWarpTransformTypeErr = -233, /* Warp transform type is incorrect or not supported. */
+    ippStsInplaceModeNotSupportedErr = -9997, /* In-place mode is not supported by the function. */
     ippStsCpuNotSupportedErr = -9998, /* The target CPU is not supported. */
     ippStsNotSupportedModeErr = -9999, /* The requested mode is currently not supported. */
     ippStsNoOperation = 1, /* No operation has been executed. */
-    ippStsMisalignedBuf = 2, /* None */
+    ippStsMisalignedBuf = 2, /* Address of a buffer is not aligned as recommended. */
     ippStsSqrtNegArg = 3, /* Negative value(s) for the argument in the Sqrt function. */
     ippStsInvZero = 4, /* INF result. Zero value was met by InvThresh with zero level. */
     ippStsEvenMedianMaskSize = 5, /* Even size of the Median Filter mask was replaced with the odd one. */
     ippStsDivByZero = 6, /* Zero value(s) for the divisor in the Div function. */
     ippStsLnZeroArg = 7, /* Zero value(s) for the argument in the Ln function. */
     ippStsLnNegArg = 8, /* Negative value(s) for the argument in the Ln function. */
-    ippStsNanArg = 9, /* None */
-    ippStsJPEGMarker = 10, /* None */
-    ippStsResFloor = 11, /* None */
-    ippStsOverflow = 12, /* None */
-    ippStsLSFLow = 13, /* None */
-    ippStsLSFHigh = 14, /* None */
-    ippStsLSFLowAndHigh = 15, /* None */
-    ippStsZeroOcc = 16, /* None */
-    ippStsUnderflow = 17, /* None */
-    ippStsSingularity = 18, /* None */
-    ippStsDomain = 19, /* None */
-    ippStsNonIntelCpu = 20, /* None */
-    ippStsCpuMismatch = 21, /* None */
-    ippStsNoIppFunctionFound = 22, /* None */
-    ippStsDllNotFoundBestUsed = 23, /* None */
-    ippStsNoOperationInDll = 24, /* None */
-    ippStsInsufficientEntropy = 25, /* None */
-    ippStsOvermuchStrings = 26, /* None */
-    ippStsOverlongString = 27, /* None */
-    ippStsAffineQuadChanged = 28, /* None */
-    ippStsWrongIntersectROI = 29, /* None */
-    ippStsWrongIntersectQuad = 30, /* None */
-    ippStsSmallerCodebook = 31, /* None */
-    ippStsSrcSizeLessExpected = 32, /* None */
-    ippStsDstSizeLessExpected = 33, /* None */
-    ippStsStreamEnd = 34, /* None */
-    ippStsDoubleSize = 35, /* None */
+    ippStsNanArg = 9, /* Not-a-number value(s) for the argument of the function. */
+    ippStsJPEGMarker = 10, /* JPEG marker was met in the stream. */
+    ippStsResFloor = 11, /* Value(s) of the result were raised to the floor. */
+    ippStsOverflow = 12, /* Overflow in the operation. */
+    ippStsLSFLow = 13, /* Line spectral frequency is out of range at the low end. */
+    ippStsLSFHigh = 14, /* Line spectral frequency is out of range at the high end. */
+    ippStsLSFLowAndHigh = 15, /* Line spectral frequencies are out of range at the low and at the high end. */
+    ippStsZeroOcc = 16, /* Occupation count is zero. */
+    ippStsUnderflow = 17, /* Underflow in the operation. */
+    ippStsSingularity = 18, /* Singularity in the operation. */
+    ippStsDomain = 19, /* Argument is out of the domain of the function. */
+    ippStsNonIntelCpu = 20, /* The CPU is not of the expected vendor. */
+    ippStsCpuMismatch = 21, /* The CPU does not match the library variant in use. */
+    ippStsNoIppFunctionFound = 22, /* No implementation of the function was found for the CPU. */
+    ippStsDllNotFoundBestUsed = 23, /* The best dynamic library for the CPU was not found, the best available one is used. */
+    ippStsNoOperationInDll = 24, /* The function does no operation in the dynamic library. */
+    ippStsInsufficientEntropy = 25, /* Entropy of the random source is insufficient. */
+    ippStsOvermuchStrings = 26, /* Number of strings exceeds the expected one. */
+    ippStsOverlongString = 27, /* Length of a string exceeds the expected one. */
+    ippStsAffineQuadChanged = 28, /* One vertex of the quadrangle was changed to make the transform affine. */
+    ippStsWrongIntersectROI = 29, /* ROI does not intersect the image. */
+    ippStsWrongIntersectQuad = 30, /* Quadrangle does not intersect the image. */
+    ippStsSmallerCodebook = 31, /* Codebook is smaller than the requested one. */
+    ippStsSrcSizeLessExpected = 32, /* Size of the source is less than the expected one. */
+    ippStsDstSizeLessExpected = 33, /* Size of the destination is less than the expected one. */
+    ippStsStreamEnd = 34, /* The end of the stream is reached. */
+    ippStsDoubleSize = 35, /* Width or height of the image is not a multiple of 2. */
     ippStsNotSupportedCpu = 36, /* The CPU is not supported. */
     ippStsUnknownCacheSize = 37, /* The CPU is supported, but the size of the cache is unknown. */
-    ippStsSymKernelExpected = 38, /* None */
-    ippStsEvenMedianWeight = 39, /* None */
-    ippStsWrongIntersectVOI = 40, /* None */
-    ippStsI18nMsgCatalogInvalid = 41, /* None */
-    ippStsI18nGetMessageFail = 42, /* None */
-    ippStsWaterfall = 43, /* None */
-    ippStsPrevLibraryUsed = 44, /* None */
-    ippStsLLADisabled = 45, /* None */
-    ippStsNoAntialiasing = 46, /* None */
-    ippStsRepetitiveSrcData = 47, /* None */
-    ippStsSizeWrn = 48, /* None */
+    ippStsSymKernelExpected = 38, /* A symmetric kernel is expected. */
+    ippStsEvenMedianWeight = 39, /* Even weight of the Weighted Median Filter was replaced with the odd one. */
+    ippStsWrongIntersectVOI = 40, /* VOI does not intersect the volume. */
+    ippStsI18nMsgCatalogInvalid = 41, /* Message catalog of the language is invalid. */
+    ippStsI18nGetMessageFail = 42, /* Message cannot be taken from the catalog of the language. */
+    ippStsWaterfall = 43, /* The required dynamic library cannot be loaded, the Waterfall procedure chose another one. */
+    ippStsPrevLibraryUsed = 44, /* The required dynamic library cannot be loaded, the previous one is used. */
+    ippStsLLADisabled = 45, /* Low-level thread affinity is disabled. */
+    ippStsNoAntialiasing = 46, /* The mode does not support antialiasing. */
+    ippStsRepetitiveSrcData = 47, /* Source data is repetitive. */
+    ippStsSizeWrn = 48, /* Size does not allow the whole operation. */
     ippStsFeatureNotSupported = 49, /* Current CPU doesn't support at least 1 of the desired features. */
     ippStsUnknownFeature = 50, /* At least one of the desired features is unknown. */
     ippStsFeaturesCombination = 51, /* Wrong combination of features. */
-    ippStsAccurateModeNotSupported = 52, /* None */
+    ippStsAccurateModeNotSupported = 52, /* Accurate mode is not supported, another mode is used. */
 };
 
 typedef struct IppsFIRSpec_64f IppsFIRSpec_64f;
@@ -791,7 +791,7 @@ IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp6
 
 /* ---- Status texts, processor variants, version ---- */
 
-/* The constant version record of the processor variant that answers. */
+/* The constant version record of the processor variant that answers; `targetCpu` tells which one is in use. */
 const IppLibraryVersion* SIG5D_STDCALL ippsGetLibVersion(void);
 const IppLibraryVersion* SIG5D_STDCALL ippsGetLibVersion_Idx(void);
 
@@ -799,14 +799,57 @@ const IppLibraryVersion* SIG5D_STDCALL ippsGetLibVersion_Idx(void);
    ippStsUnknownStatusCodeErr. */
 const char* SIG5D_STDCALL ippGetStatusString(int code);
 
-/* Stores the processor's feature word. */
-IppStatus SIG5D_STDCALL ippGetCpuFeatures(Ipp64u* pFeaturesMask, unsigned int* pCpuidInfoRegs);
+/* Stores the processor's feature word and, when pCpuidInfoRegs is not null, the registers EAX, EBX, ECX, EDX of
+   one execution of CPUID. */
+IppStatus SIG5D_STDCALL ippGetCpuFeatures(Ipp64u* pFeaturesMask, Ipp32u* pCpuidInfoRegs);
 
-/* Selects the variant for a feature word. */
+/* Selects the processor variant for a feature word, from the next call of each function on. All statuses are
+   warnings: the variant is in force. */
 IppStatus SIG5D_STDCALL ippSetCpuFeatures(Ipp64u cpuFeatures);
 
-/* The feature word of the last selection; 3 before any. */
+/* The feature word of the last selection, with the features that the variant needs; 3 before any. */
 Ipp64u SIG5D_STDCALL ippGetEnabledCpuFeatures(void);
+
+/* ---- Aligned memory ---- */
+
+/* An array of len elements at a 64-byte boundary, or null: len is below 1, the array has more than 2147483579
+   bytes, or the heap has no such block. The elements are not cleared. `ippsFree` releases it. */
+Ipp32s* SIG5D_STDCALL ippsMalloc_32s(int len);
+Ipp32s* SIG5D_CDECL ippsMalloc_32s_Idx(int len);
+Ipp32sc* SIG5D_STDCALL ippsMalloc_32sc(int len);
+Ipp32sc* SIG5D_CDECL ippsMalloc_32sc_Idx(int len);
+Ipp64f* SIG5D_STDCALL ippsMalloc_64f(int len);
+Ipp64f* SIG5D_CDECL ippsMalloc_64f_Idx(int len);
+Ipp64fc* SIG5D_STDCALL ippsMalloc_64fc(int len);
+Ipp64fc* SIG5D_CDECL ippsMalloc_64fc_Idx(int len);
+
+/* Releases an array from ippsMalloc; null is ignored. Any other pointer is undefined. */
+void SIG5D_STDCALL ippsFree(void* ptr);
+void SIG5D_CDECL ippsFree_Idx(void* ptr);
+
+/* ---- Processor and thread queries ---- */
+
+/* The processor's time-stamp counter. */
+Ipp64u SIG5D_STDCALL ippGetCpuClocks(void);
+
+/* The rate of the time-stamp counter in MHz, measured over two seconds of calendar time. */
+IppStatus SIG5D_STDCALL ippGetCpuFreqMhz(int* pMhz);
+
+/* The size in bytes of the processor's largest data or unified cache, read once per process. */
+IppStatus SIG5D_STDCALL ippGetMaxCacheSizeB(int* pSizeByte);
+
+/* The number of cores of a processor package; 1 where the processor does not tell, never less. */
+int SIG5D_STDCALL ippGetNumCoresOnDie(void);
+
+/* Stores 1 and returns `ippStsNoOperation`: the library starts no threads. */
+IppStatus SIG5D_STDCALL ippGetNumThreads(int* pNumThr);
+
+/* Does nothing and returns `ippStsNoOperation`: the library starts no threads. */
+IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
+
+/* Makes the calling thread's SSE and AVX arithmetic read denormal numbers as zeros (value not 0) or as they are
+   (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
+IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
 
 #ifdef __cplusplus
 }

@@ -1,4 +1,4 @@
-// The feature word, the rule that turns it into a processor variant, and the process-wide choice.
+// The feature word and the rule that turns it into a processor variant.
 #pragma once
 #include "frame/cpuid.h"
 
@@ -37,17 +37,14 @@ enum Feature : u64 {
 // What the rule decides for a requested feature word.
 struct Selection {
     int variant; // 0 px, 1 w7, 2 s8, 3 p8, 4 g9, 5 h9
-    u64 enabled;
+    u64 enabled; // what was requested and what the variant needs; bit 63 is clear
     Status status;
 };
 
-u64 readFeatures(const Processor& p);
-Selection select(u64 requested); // bit 63 clear; whatever the processor has
-Selection selectAgainst(u64 requested, u64 processor);
+u64 readFeatures(const Identity& id);                  // 0: the processor cannot be identified
+Selection select(u64 requested);                       // bit 63 clear; whatever the processor has
+Selection selectAgainst(u64 requested, u64 processor); // bit 63 clear
+
+bool hasDenormalsAreZeros(const Processor& p); // the bit of MXCSR that reads denormal numbers as zeros
 
 } // namespace sig5d
-
-extern "C" {
-extern int sig5d_variant; // -1 until the first call of a primitive
-void sig5d_initialise(); // what the first call of a primitive runs
-}

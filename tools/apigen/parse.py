@@ -220,17 +220,18 @@ class Parser:
         bodies, dispatched = self.api.sources[self.source]
         index = said.get("idx", "auto")
         names = {a.name for a in args}
+        suffix = part.suffix if part else ""
         pairs = [tuple(p.strip().split("=")) for p in split_list(said.get("in_place", ""))]
         return Function(
             name=full + ("" if form == "plain" else form),
             family=family,
             half=self.half,
             convention=said.get("convention", "cdecl" if self.half == "own" or index == "written" else "stdcall"),
-            returns=said.get("returns", "void" if self.half == "own" else "status"),
+            returns=said.get("returns", "void" if self.half == "own" else "status").replace("{T}", suffix),
             args=args,
             checks=checks,
             checks_in_kernel=own,
-            kernel=said["kernel"],
+            kernel=said["kernel"].replace("{T}", suffix),
             call=call,
             source=self.source,
             bodies=bodies,

@@ -1,3 +1,0 @@
-#include "frame/cache.h"
-
-size_t sig5d_stream_bytes = size_t(64) << 20;

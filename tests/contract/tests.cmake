@@ -1,0 +1,17 @@
+sig5d_test(contract contract/exports_test.cpp contract/calls_test.cpp contract/checks_test.cpp contract/index_test.cpp)
+sig5d_test(variants variants/equality_test.cpp variants/digest_test.cpp)
+
+# What no program of the library's own can see: the built objects, the committed generated files.
+if(NOT SIG5D_SANITIZE)
+    add_test(NAME ${build}/objects COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/tools/objcheck.py --build ${CMAKE_BINARY_DIR}
+                                  --objdump ${CMAKE_OBJDUMP})
+    add_test(NAME ${build}/committed COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/committed_test.py)
+endif()
+
+# The library as a file. A sanitizer's build has other imports.
+if(NOT SIG5D_STATIC AND NOT SIG5D_SANITIZE)
+    add_test(NAME ${build}/image
+             COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/image_test.py --image $<TARGET_FILE:sig5d>
+                     --map ${CMAKE_BINARY_DIR}/Numlab.Sig5d.map --commands ${CMAKE_BINARY_DIR}/compile_commands.json
+                     --version ${PROJECT_VERSION})
+endif()
