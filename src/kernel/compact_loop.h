@@ -1,5 +1,5 @@
-// map for operations of many instructions: one vector at a time, so that the operation stands in few places and little
-// code is made of it.
+// map for operations of more than a few instructions: as many vectors in flight as the operation is worth, and short
+// arrays in one vector, so that the operation stands in few places and little code is made of it.
 #pragma once
 #include "kernel/loops.h"
 

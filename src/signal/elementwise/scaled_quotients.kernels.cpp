@@ -71,7 +71,8 @@ inline int any_set(__m256i masks) { return _mm256_movemask_epi8(masks); }
 template <class F, class V> inline V quotient(V x, V y, F scale)
 {
     const V least = all<V>(static_cast<F>(lowest_of<i32>)), most = all<V>(sizeof(F) == 4 ? F(0x1p30) : F(highest<i32>));
-    const V q = x * scale / (y == V{} ? all<V>(insteadOfZero<F>) : y);
+    const auto tiny = bits(all<V>(insteadOfZero<F>)) & bits(y == V{}); // zero has no bits of its own
+    const V q = x * scale / as<V>(bits(y) | tiny);
     return lower(higher(q, least), most);
 }
 
