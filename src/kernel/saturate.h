@@ -29,6 +29,12 @@ template <class V> inline V all(Lane<V> x) { return splatn<sizeof(V) / sizeof(La
 template <class V> inline auto bits(V v) { return reinterpret_cast<Vec<long long, sizeof(V) / 8>>(v); }
 template <class V, class W> inline V as(W v) { return reinterpret_cast<V>(v); }
 
+// Lane by lane without the bits that do not fit: in signed lanes the language leaves that open.
+template <class V> using Unsigned = Vec<std::make_unsigned_t<Lane<V>>, sizeof(V) / sizeof(Lane<V>)>;
+template <class V> inline V sum_modulo(V x, V y) { return as<V>(as<Unsigned<V>>(x) + as<Unsigned<V>>(y)); }
+template <class V> inline V difference_modulo(V x, V y) { return as<V>(as<Unsigned<V>>(x) - as<Unsigned<V>>(y)); }
+template <class V> inline V product_modulo(V x, V y) { return as<V>(as<Unsigned<V>>(x) * as<Unsigned<V>>(y)); }
+
 // Intrinsics as overloads: on the size of the register, and by an empty argument on the type of the lanes.
 inline __m128i sums(__m128i x, __m128i y, u8) { return _mm_adds_epu8(x, y); }
 inline __m128i sums(__m128i x, __m128i y, i16) { return _mm_adds_epi16(x, y); }
@@ -112,7 +118,7 @@ template <class V> inline V add_saturated(V x, V y)
         const V least = all<V>(lowest_of<i32>) - lower(y, V{}), most = all<V>(highest<i32>) - higher(y, V{});
         return lower(higher(x, least), most) + y;
     } else {
-        const V sum = x + y;
+        const V sum = sum_modulo(x, y);
         return where_negative((x > sum) ^ y, limit_of(~sum), sum);
     }
 }
@@ -126,7 +132,7 @@ template <class V> inline V subtract_saturated(V x, V y)
         const V least = all<V>(lowest_of<i32>) + higher(y, V{}), most = all<V>(highest<i32>) + lower(y, V{});
         return lower(higher(x, least), most) - y;
     } else {
-        const V difference = x - y;
+        const V difference = difference_modulo(x, y);
         return where_negative((difference > x) ^ y, limit_of(~difference), difference);
     }
 }

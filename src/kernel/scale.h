@@ -169,7 +169,7 @@ template <class V> inline V scaled(Split<V> r, int s)
     }
     using U = Vec<u32, sizeof(V) / 4>;
     const V carried = as<V>(halved(down(as<U>(r.low), s - 1)));
-    const V q = ties_to_even(up(r.high, 32 - s) + carried, (r.low & rest_mask<V>(s)) == half_unit<V>(s));
+    const V q = ties_to_even(sum_modulo(up(r.high, 32 - s), carried), (r.low & rest_mask<V>(s)) == half_unit<V>(s));
     // It does not fit if the bits above it differ, or if rounding made a negative number of a positive one.
     const V sign = r.high >> 31, fits = (down(r.high, s - 1) == sign) & (sign | ~q);
     return where_negative(fits, q, limit_of(sign));
@@ -183,7 +183,7 @@ template <class V> inline V raised(V x, int count)
     const V beyond = all<V>(static_cast<T>(u64(1) << (width<T> - isSigned<T> - count)));
     x = lower(x, beyond);
     if constexpr (isSigned<T>) x = higher(x, -beyond);
-    return up(x, count) + as<V>(x == beyond);
+    return sum_modulo(up(x, count), as<V>(x == beyond));
 }
 
 // Operations on vectors, for the three ranges of s. What they work on may be a pair of elements.

@@ -16,7 +16,7 @@ struct Absolute {
         if constexpr (sizeof(Lane<V>) == 2) {
             return higher(x, subtract_saturated(V{}, x));
         } else { // the lowest stays itself: it is the only negative one
-            const V a = higher(x, -x);
+            const V a = higher(x, difference_modulo(V{}, x));
             return SIG5D_LEVEL < 3 ? a ^ (a >> 31) : as<V>(lower(as<U>(a), all<U>(highest<i32>)));
         }
     }

@@ -19,7 +19,7 @@ struct Product {
             const W low = all<W>(0xFF);
             return Words<W>{(as<W>(x) & low) * (as<W>(y) & low), (as<W>(x) >> 8) * (as<W>(y) >> 8)};
         } else if constexpr (sizeof(Lane<V>) == 2) {
-            return unpacked(x * y, shifted_product(x, y));
+            return unpacked(product_modulo(x, y), shifted_product(x, y));
         } else {
             return split<V>(even_products(x, y), even_products(odd(x), odd(y)));
         }
@@ -34,7 +34,7 @@ struct Product {
             // Rounded down, then up from an odd half: the limits are those of the sum.
             const auto r = exact(x, y);
             const V down = saturated(Doubled{r.low >> 1, r.high >> 1});
-            return add_saturated(down, down & (x * y) & 1);
+            return add_saturated(down, down & x & y & 1);
         } else {
             return fraction_product(x, y);
         }
@@ -43,8 +43,8 @@ struct Product {
     // with any sign bit; and one product is 1.
     template <class V> V fraction_product(V x, V y) const
     {
-        const V up = rounded_product(x, y), low = x * y, lowest = all<V>(lowest_of<i16>);
-        return ties_to_even(up, low + low == lowest) + (up == lowest);
+        const V up = rounded_product(x, y), low = product_modulo(x, y), lowest = all<V>(lowest_of<i16>);
+        return sum_modulo(ties_to_even(up, sum_modulo(low, low) == lowest), as<V>(up == lowest));
     }
 #endif
 };
@@ -59,7 +59,7 @@ struct ProductSum {
     {
         using U = Vec<u32, sizeof(V) / 4>;
         const Split<V> p = Product{}.exact(x, y);
-        const V low = p.low + z;
+        const V low = sum_modulo(p.low, z);
         return {low, p.high + (z >> 31) - as<V>(as<U>(low) < as<U>(z))};
     }
 #endif

@@ -15,9 +15,9 @@ struct Sum {
     template <class V> Halves<V> exact(V x, V y) const
     {
         if constexpr (sizeof(Lane<V>) == 1)
-            return {average(x, y) - ((x ^ y) & 1), x + y};
+            return {average(x, y) - ((x ^ y) & 1), sum_modulo(x, y)};
         else
-            return {(x & y) + ((x ^ y) >> 1), x + y};
+            return {(x & y) + ((x ^ y) >> 1), sum_modulo(x, y)};
     }
     // x + y = 2 (x | y) - (x ^ y): halves rounded up, and ties where the last bits differ.
     template <class T, int s> static constexpr bool quick = s == 1;
@@ -43,7 +43,7 @@ struct Difference {
             const V r = subtract_saturated(x, y); // nothing below zero comes back
             return {down(r, 1), r};
         } else {
-            return {((x ^ y) >> 1) - (~x & y), x - y};
+            return {((x ^ y) >> 1) - (~x & y), difference_modulo(x, y)};
         }
     }
     // x - y = 2 (x & ~y) - (x ^ y) = (x ^ y) - 2 (~x & y). Half of the largest difference is beyond the limit by a
@@ -57,8 +57,8 @@ struct Difference {
             const V down = ((x ^ y) >> 1) - (~x & y);
             return add_saturated(down, down & (x ^ y) & 1);
         } else {
-            const V up = (x & ~y) - ((x ^ y) >> 1), wrapped = as<V>(up == all<V>(lowest_of<i32>));
-            return ties_to_even(up, x ^ y) + wrapped;
+            const V up = difference_modulo(x & ~y, (x ^ y) >> 1), wrapped = as<V>(up == all<V>(lowest_of<i32>));
+            return sum_modulo(ties_to_even(up, x ^ y), wrapped);
         }
     }
 #endif
