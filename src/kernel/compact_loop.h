@@ -41,8 +41,9 @@ template <class V> inline V held(V v)
 }
 
 // Fewer elements than a vector has, in one: the largest power of two of bytes that fits, from either end of the array,
-// side by side, and that again and again up to the vector's end. So no lane holds anything but elements.
-template <class T> inline Vec<T> load_ends(const T* array, size_t n)
+// side by side, and that again and again up to the vector's end. So no lane holds anything but elements. (Inlined
+// always, as map is.)
+template <class T> [[gnu::always_inline]] inline Vec<T> load_ends(const T* array, size_t n)
 {
     const u8 *const p = reinterpret_cast<const u8*>(array), *const end = p + n * sizeof(T);
     const size_t bytes = n * sizeof(T);
@@ -67,7 +68,7 @@ template <class T> inline Vec<T> load_ends(const T* array, size_t n)
     return repeat<T>(_mm_unpacklo_epi64(both, both));
 }
 
-template <class T> inline void store_ends(T* array, size_t n, Vec<T> v)
+template <class T> [[gnu::always_inline]] inline void store_ends(T* array, size_t n, Vec<T> v)
 {
     u8 *const p = reinterpret_cast<u8*>(array), *const end = p + n * sizeof(T);
     const size_t bytes = n * sizeof(T);

@@ -31,7 +31,7 @@ template <int bytes, class T> inline Vec<T, 16 / sizeof(T)> load_part(Repeated<T
 {
     return loadn<16 / sizeof(T)>(a);
 }
-template <class T> inline Vec<T> load_ends(Repeated<T> a, size_t) { return loadn<lanes<T>>(a); }
+template <class T> [[gnu::always_inline]] inline Vec<T> load_ends(Repeated<T> a, size_t) { return loadn<lanes<T>>(a); }
 
 // It lies in no memory that a destination could overlap.
 struct Nowhere {
