@@ -18,7 +18,7 @@ using registry::Value;
 const struct Choice {
     const char* argument;
     std::vector<int> values;
-} choices[] = {{"scaleFactor", {0, 1}}};
+} choices[] = {{"scaleFactor", {0, 1, 5, 15, -2}}};
 
 // Where work beyond moving the arrays is the limit: operations on doubles for each element.
 const struct Work {

@@ -480,6 +480,231 @@ IppStatus SIG5D_CDECL ippsPowerSpectr_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx
 IppStatus SIG5D_STDCALL ippsPowerSpectr_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPowerSpectr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
+/* ---- Integer arithmetic with scale factors ---- */
+
+/* pDst[i] = (pSrc1[i] + pSrc2[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsAdd_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc2[i] - pSrc1[i]) * 2^-scaleFactor. Mind the order: the first array is subtracted from the second.
+   In place: pSrcDst[i] - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSub_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc[i] + val) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsAddC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = (pSrc[i] - val) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSubC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = (val - pSrc[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int
+        dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int
+        len, int scaleFactor);
+
+/* pDst[i] = pSrc1[i] * pSrc2[i] * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMul_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = pSrc[i] * val * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMulC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pSrcDst[i] = (pSrcDst[i] + pSrc1[i] * pSrc2[i]) * 2^-scaleFactor. The sum is scaled as a whole, what was in
+   pSrcDst too. */
+IppStatus SIG5D_STDCALL ippsAddProduct_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pSrcDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAddProduct_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx,
+        Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc2[i] * 2^-scaleFactor) / pSrc1[i]. Mind the order: the first array holds the divisors. In place:
+   pSrcDst[i] / pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsDiv_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc[i] * 2^-scaleFactor) / val. */
+IppStatus SIG5D_STDCALL ippsDivC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = |pSrc[i]|. */
+IppStatus SIG5D_STDCALL ippsAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_16s_I(Ipp16s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_32s_I(Ipp32s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */

@@ -1,5 +1,6 @@
 sig5d_test(elementwise_bits signal/copy_test.cpp signal/logic_test.cpp signal/bit_string_test.cpp)
 sig5d_test(elementwise_float signal/arith_float_test.cpp signal/root_test.cpp)
+sig5d_test(elementwise_scaled signal/scaled_test.cpp)
 
 # Kernels compiled for this test alone, which sets when they stream.
 set(streaming_kernels
@@ -9,6 +10,7 @@ set(streaming_kernels
     signal/elementwise/arith_complex
     signal/elementwise/divide
     signal/elementwise/complex_parts
+    signal/elementwise/scaled_sums
     matrix/submatrix
     matrix/transpose)
 list(TRANSFORM streaming_kernels PREPEND ${CMAKE_SOURCE_DIR}/src/)
