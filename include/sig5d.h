@@ -626,6 +626,89 @@ IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
    (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
 IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
 
+/* ---- Mixed real and complex arithmetic ---- */
+
+/* dst[i] = src[i] + value. A real number takes part as a complex one with the imaginary part +0.0. */
+void SIG5D_CDECL AddValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL AddValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL AddValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value - src[i]. The scalar minus the element. A real number takes part as a complex one with the
+   imaginary part +0.0. */
+void SIG5D_CDECL SubFromValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL SubFromValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL SubFromValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL SubFromValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = src[i] * value. */
+void SIG5D_CDECL ScaleByValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL ScaleByValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL ScaleByValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL ScaleByValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value / src[i]. The scalar divided by the element. */
+void SIG5D_CDECL DivideValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = a[i] / b[i]. Correctly rounded quotients, part by part. */
+void SIG5D_CDECL DivVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re + b[i], a[i].im + 0.0). */
+void SIG5D_CDECL AddVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL AddVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re - b[i], a[i].im - 0.0). */
+void SIG5D_CDECL SubVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i] - b[i].re, 0.0 - b[i].im). */
+void SIG5D_CDECL SubVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re * b[i], a[i].im * b[i]). */
+void SIG5D_CDECL MulVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] * conj(b[i]) = (a.re*b.re + a.im*b.im, a.im*b.re - a.re*b.im). Four products and two sums;
+   infinities and NaN as they come out of these. */
+void SIG5D_CDECL ConjMulcc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL ConjMulcc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
 #ifdef __cplusplus
 }
 #endif
