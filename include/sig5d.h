@@ -709,6 +709,70 @@ void SIG5D_CDECL ConjMulcc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, uns
 void SIG5D_CDECL ConjMulcc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
         unsigned int len);
 
+/* ---- Running sums, ramps, products and exchanges ---- */
+
+/* dst[0] = src[0]; dst[i] = src[i] + dst[i-1]. Strictly in index order: doubles round as a sum from left to right,
+   of which every step is stored. Integers wrap around in their own width. Complex parts are summed one by one. */
+void SIG5D_CDECL CumSum(const Ipp64f* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL CumSum_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSumc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL CumSumc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = src[i] for i < delta; dst[i] = src[i] + dst[i-delta] for delta <= i < len. A running sum of every
+   delta-th element, delta sums in all. Integers wrap around in their own width. */
+void SIG5D_CDECL CumSumDelta(const Ipp64f* src, Ipp64f* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDelta_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDeltac(const Ipp64fc* src, Ipp64fc* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDeltac_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+
+/* dst[i] = offset + step * i. Every element is computed from its index, as a product rounded and then a sum
+   rounded, each part for itself. */
+void SIG5D_CDECL Rampc(Ipp64fc* dst, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampc_Idx(Ipp64fc* dst, int dstIdx, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampd(Ipp64f* dst, unsigned int len, Ipp64f offset, Ipp64f step);
+
+/* dst[i] = (src[i].im, src[i].re). All bits are kept, also of a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL Flip(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Flip_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (src[i].im, -src[i].re). Only the sign bit of the real part changes, also of a zero or a NaN. Other
+   overlap than exact gives any values. */
+void SIG5D_CDECL FlipConj(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL FlipConj_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (-src[i].im, src[i].re). The product with the imaginary unit; only the sign bit of the imaginary part
+   changes, also of a zero or a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL MulI(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulI_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[len-1-i] = src[i]. Whole complex numbers in reverse order; all bits are kept. Other overlap than exact gives
+   any values. */
+void SIG5D_CDECL Reverse(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Reverse_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* *result = src[0] * src[1] * ... * src[len-1]. The product of no elements is 1. */
+void SIG5D_CDECL Product(const Ipp64f* src, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Product_Idx(const Ipp64f* src, int srcIdx, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Productc(const Ipp64fc* src, unsigned int len, Ipp64fc* result);
+void SIG5D_CDECL Productc_Idx(const Ipp64fc* src, int srcIdx, unsigned int len, Ipp64fc* result);
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,0 +1,92 @@
+// Complex numbers with their parts exchanged, or in reverse order: every bit is kept, but for changes of sign.
+#include "frame/entry.h"
+#include "kernel/complex.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+#if SIG5D_LEVEL == 0
+inline c64f swapped(c64f x) { return {x.im, x.re}; }
+inline c64f negated_real(c64f x) { return {-x.re, x.im}; }
+#else
+template <class V> inline V negated_real(V x)
+{
+    return BitsOf<V>::back(BitsOf<V>::of(x) ^ BitsOf<V>::of(Repeated<c64f>(c64f{-0.0, 0.0}).template as<V>()));
+}
+#endif
+
+struct OnPairs {
+    static constexpr size_t period = 2;
+};
+struct TimesI : OnPairs {
+    template <class V> V operator()(V x) const { return negated_real(swapped(x)); }
+};
+struct Swapped : OnPairs {
+    template <class V> V operator()(V x) const { return swapped(x); }
+};
+struct SwappedConjugate : OnPairs {
+    template <class V> V operator()(V x) const { return conjugate(swapped(x)); }
+};
+
+template <class Op> [[gnu::noinline]] void each(size_t n, const c64f* a, c64f* d) { map_complex(n, d, Op{}, a); }
+
+void multiply_by_i(const c64f* a, c64f* d, u32 n) { each<TimesI>(n, a, d); }
+void flip(const c64f* a, c64f* d, u32 n) { each<Swapped>(n, a, d); }
+void flip_conj(const c64f* a, c64f* d, u32 n) { each<SwappedConjugate>(n, a, d); }
+
+// An array read from its end on: what map takes for a pointer.
+struct Backwards {
+    const c64f* end;
+    Backwards operator+(size_t n) const { return {end - n}; }
+    void operator+=(size_t n) { end -= n; }
+    c64f operator[](size_t i) const { return *(end - 1 - i); }
+};
+
+#if SIG5D_LEVEL == 0
+
+[[gnu::noinline]] void reverse_in_place(size_t n, c64f* d)
+{
+    for (size_t i = 0, k = n - 1; i < n / 2; ++i, --k) {
+        const c64f x = d[i];
+        d[i] = d[k];
+        d[k] = x;
+    }
+}
+
+#else
+
+inline Vec<f64, 2> reversed(Vec<f64, 2> v) { return v; }
+#if SIG5D_LEVEL >= 4
+inline Vec<f64, 4> reversed(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 2, 3, 0, 1); }
+#endif
+
+template <int L> inline auto loadn(Backwards a) { return reversed(loadn<2 * L>(&(a.end - L)->re)); }
+template <int bytes> inline Vec<f64, 2> load_part(Backwards a) { return loadn<1>(a); }
+inline const c64f* lowest(Backwards a, size_t n) { return a.end - n; }
+
+// From both ends towards the middle, a vector at a time.
+[[gnu::noinline]] void reverse_in_place(size_t n, c64f* d)
+{
+    constexpr size_t L = lanes<c64f>;
+    c64f *p = d, *q = d + n;
+    for (; static_cast<size_t>(q - p) >= 2 * L; p += L, q -= L) {
+        const auto x = loadn<L>(Backwards{q}), y = loadn<L>(Backwards{p + L});
+        put(p, x);
+        put(q - L, y);
+    }
+    if (const size_t left = static_cast<size_t>(q - p); left > 1) map(left, p, Same{}, Backwards{q});
+}
+
+#endif
+
+[[gnu::noinline]] void reverse(const c64f* a, c64f* d, u32 n)
+{
+    if (a == d)
+        reverse_in_place(n, d);
+    else
+        map(n, d, Same{}, Backwards{a + n});
+}
+
+} // namespace
+#include "entries/vector/complex_moves.inc"
+} // namespace sig5d::SIG5D_VARIANT
