@@ -674,6 +674,12 @@ void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst,
 void SIG5D_CDECL DivideValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL DivideValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
         len);
+void SIG5D_CDECL DivideValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL DivideValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
 void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
@@ -707,6 +713,18 @@ void SIG5D_CDECL MulVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int b
    infinities and NaN as they come out of these. */
 void SIG5D_CDECL ConjMulcc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
 void SIG5D_CDECL ConjMulcc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a.re*b.re + b.im*a.im) * t, t * (a.im*b.re - a.re*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVeccc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a*b.re + b.im*0.0) * t, t * (0.0*b.re - a*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
         unsigned int len);
 
 /* ---- Running sums, ramps, products and exchanges ---- */
