@@ -21,6 +21,16 @@ inline Parts<f64> quotient(Parts<f64> a, Parts<f64> b) { return wide_quotient(a,
 
 #else
 
+// The second where either is NaN. (Written as a choice this became a comparison and a blend.)
+inline f64 smaller(f64 x, f64 y) { return x < y ? x : y; }
+inline f64 greater(f64 x, f64 y) { return x > y ? x : y; }
+inline Vec<f64, 2> smaller(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_min_pd(x, y); }
+inline Vec<f64, 2> greater(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_max_pd(x, y); }
+#if SIG5D_LEVEL >= 4
+inline Vec<f64, 4> smaller(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_min_pd(x, y); }
+inline Vec<f64, 4> greater(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_max_pd(x, y); }
+#endif
+
 // The magnitudes that take part, but for zeros and NaN, lie within 2^-240 and 2^240. Then the formula in doubles is
 // exact in the sense above: |b|^2 and its reciprocal lie within 2^-481 and 2^481, a difference of products that is not 0
 // is at least one unit in the last place of 2^-480, and the results lie between 2^-1013 and 2^962.
@@ -30,8 +40,8 @@ template <class V> struct Range {
     {
         // One below the bits of the magnitude, as a number: 0 becomes a NaN, which the comparisons pass over.
         const V size = BitsOf<V>::back((BitsOf<V>::of(x) & BitsOf<V>::all(~signBit)) - BitsOf<V>::all(1));
-        least = size < least ? size : least;
-        greatest = size > greatest ? size : greatest;
+        least = smaller(size, least);
+        greatest = greater(size, greatest);
     }
     bool ordinary() const
     {
