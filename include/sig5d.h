@@ -727,7 +727,7 @@ void SIG5D_CDECL DivVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsig
 void SIG5D_CDECL DivVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
         unsigned int len);
 
-/* ---- Running sums, ramps, products and exchanges ---- */
+/* ---- Running sums, ramps, products, powers and exchanges ---- */
 
 /* dst[0] = src[0]; dst[i] = src[i] + dst[i-1]. Strictly in index order: doubles round as a sum from left to right,
    of which every step is stored. Integers wrap around in their own width. Complex parts are summed one by one. */
@@ -790,6 +790,9 @@ void SIG5D_CDECL Product(const Ipp64f* src, unsigned int len, Ipp64f* result);
 void SIG5D_CDECL Product_Idx(const Ipp64f* src, int srcIdx, unsigned int len, Ipp64f* result);
 void SIG5D_CDECL Productc(const Ipp64fc* src, unsigned int len, Ipp64fc* result);
 void SIG5D_CDECL Productc_Idx(const Ipp64fc* src, int srcIdx, unsigned int len, Ipp64fc* result);
+
+/* dst[i] = a[i] ^ b[i] = e^(b[i] * log(a[i])) for 1 <= i < len. The principal value. Element 0 is left as it is. */
+void SIG5D_CDECL Powc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
 
 #ifdef __cplusplus
 }
