@@ -15,15 +15,16 @@ Complex onUnit(Complex a, Complex b)
 {
     Complex q;
     uint16_t before, control = 0x27F;
-    asm volatile("fnstcw %[before]\n\tfldcw %[control]\n\t"
-                 "fldl %[br]\n\tfmul %%st(0), %%st\n\tfldl %[bi]\n\tfmul %%st(0), %%st\n\tfaddp\n\t"
-                 "fld1\n\tfdiv %%st(1), %%st\n\tfstp %%st(1)\n\t"
-                 "fldl %[ar]\n\tfmull %[br]\n\tfldl %[bi]\n\tfmull %[ai]\n\tfaddp\n\tfmul %%st(1), %%st\n\tfstpl %[re]\n\t"
-                 "fldl %[ai]\n\tfmull %[br]\n\tfldl %[ar]\n\tfmull %[bi]\n\tfchs\n\tfaddp\n\tfmul %%st(1), %%st\n\t"
-                 "fstpl %[im]\n\tfstp %%st(0)\n\tfldcw %[before]"
-                 : [before] "=m"(before), [re] "=m"(q.re), [im] "=m"(q.im)
-                 : [control] "m"(control), [ar] "m"(a.re), [ai] "m"(a.im), [br] "m"(b.re), [bi] "m"(b.im)
-                 : "memory", "st", "st(1)", "st(2)", "st(3)");
+    asm volatile(
+        "fnstcw %[before]\n\tfldcw %[control]\n\t"
+        "fldl %[br]\n\tfmul %%st(0), %%st\n\tfldl %[bi]\n\tfmul %%st(0), %%st\n\tfaddp\n\t"
+        "fld1\n\tfdiv %%st(1), %%st\n\tfstp %%st(1)\n\t"
+        "fldl %[ar]\n\tfmull %[br]\n\tfldl %[bi]\n\tfmull %[ai]\n\tfaddp\n\tfmul %%st(1), %%st\n\tfstpl %[re]\n\t"
+        "fldl %[ai]\n\tfmull %[br]\n\tfldl %[ar]\n\tfmull %[bi]\n\tfchs\n\tfaddp\n\tfmul %%st(1), %%st\n\t"
+        "fstpl %[im]\n\tfstp %%st(0)\n\tfldcw %[before]"
+        : [before] "=m"(before), [re] "=m"(q.re), [im] "=m"(q.im)
+        : [control] "m"(control), [ar] "m"(a.re), [ai] "m"(a.im), [br] "m"(b.re), [bi] "m"(b.im)
+        : "memory", "st", "st(1)", "st(2)", "st(3)");
     return q;
 }
 
@@ -36,14 +37,24 @@ std::string text(Complex x)
     return line;
 }
 
-class Numbers {
+class Numbers
+{
 public:
     explicit Numbers(unsigned seed) : random_(seed) {}
     // Magnitudes of about 2^exponent, give or take a factor of 2^spread; among them some of few bits, zeros, specials.
     double any(int exponent, int spread)
     {
-        static const double specials[] = {0.0,     -0.0,      HUGE_VAL,        -HUGE_VAL, NAN, 1.0, 0x1p-1074, -0x1p-1074,
-                                          0x1p-1022, 0x1.fffffffffffffp1023, 0x1.fffffffffffffp-1022};
+        static const double specials[] = {0.0,
+                                          -0.0,
+                                          HUGE_VAL,
+                                          -HUGE_VAL,
+                                          NAN,
+                                          1.0,
+                                          0x1p-1074,
+                                          -0x1p-1074,
+                                          0x1p-1022,
+                                          0x1.fffffffffffffp1023,
+                                          0x1.fffffffffffffp-1022};
         const auto r = random_();
         if (r % 64 == 0) return specials[(r >> 8) % (sizeof specials / sizeof *specials)];
         double m = 1.0 + double(random_() >> 11) * 0x1p-53;
