@@ -1,9 +1,10 @@
 // Complex powers: a^b = e^(b log a), in twice the precision where all is finite, and with the special values of C's
-// cpow elsewhere. Compiled once: all processors run the same code.
+// cpow elsewhere. There is one body: all processors run the same code.
+#include "frame/entry.h"
 #include "kernel/doubled_exp.h"
 #include "kernel/libm.h"
 
-namespace sig5d {
+namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 using libm::operator+, libm::operator-, libm::operator*;
@@ -115,4 +116,4 @@ void power(const c64f* a, const c64f* b, c64f* d, u32 n)
 
 } // namespace
 #include "entries/vector/complex_power.inc"
-} // namespace sig5d
+} // namespace sig5d::SIG5D_VARIANT
