@@ -684,11 +684,6 @@ void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* v
 void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
 
-/* dst[i] = a[i] / b[i]. Correctly rounded quotients, part by part. */
-void SIG5D_CDECL DivVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
-void SIG5D_CDECL DivVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
-        unsigned int len);
-
 /* dst[i] = (a[i].re + b[i], a[i].im + 0.0). */
 void SIG5D_CDECL AddVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
 void SIG5D_CDECL AddVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
@@ -707,6 +702,11 @@ void SIG5D_CDECL SubVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int b
 /* dst[i] = (a[i].re * b[i], a[i].im * b[i]). */
 void SIG5D_CDECL MulVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
 void SIG5D_CDECL MulVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] / b[i]. Correctly rounded quotients, part by part. */
+void SIG5D_CDECL DivVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
         unsigned int len);
 
 /* dst[i] = a[i] * conj(b[i]) = (a.re*b.re + a.im*b.im, a.im*b.re - a.re*b.im). Four products and two sums;

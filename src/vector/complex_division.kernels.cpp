@@ -32,8 +32,8 @@ inline Vec<f64, 4> greater(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_max_pd(
 #endif
 
 // The magnitudes that take part, but for zeros and NaN, lie within 2^-240 and 2^240. Then the formula in doubles is
-// exact in the sense above: |b|^2 and its reciprocal lie within 2^-481 and 2^481, a difference of products that is not 0
-// is at least one unit in the last place of 2^-480, and the results lie between 2^-1013 and 2^962.
+// exact in the sense above: |b|^2 and its reciprocal lie within 2^-481 and 2^481, a difference of products that is not
+// 0 is at least one unit in the last place of 2^-480, and the results lie between 2^-1013 and 2^962.
 template <class V> struct Range {
     V least = constant<V>(1), greatest = constant<V>(1);
     void add(V x)
@@ -43,10 +43,7 @@ template <class V> struct Range {
         least = smaller(size, least);
         greatest = greater(size, greatest);
     }
-    bool ordinary() const
-    {
-        return !lanes_set((least < constant<V>(0x1p-240)) | (greatest > constant<V>(0x1p240)));
-    }
+    bool ordinary() const { return !lanes_set((least < constant<V>(0x1p-240)) | (greatest > constant<V>(0x1p240))); }
 };
 
 // Lane by lane, where numbers are not ordinary.
@@ -104,9 +101,28 @@ void divide_value(const c64f* b, c64f* d, f64 v, u32 n) { divide_value(n, b, d, 
 {
     map_numbers(n, folded(d), Quotient{}, folded(a), folded(b));
 }
+
+// Real numbers in the order of lanes that "folded" gives complex ones.
+struct FoldedReals {
+    const f64* p;
+    FoldedReals operator+(size_t n) const { return {p + n}; }
+    void operator+=(size_t n) { p += n; }
+};
+template <int L> inline Vec<f64, L> loadn(FoldedReals a)
+{
+    const auto v = loadn<L>(a.p);
+    if constexpr (L == 4)
+        return __builtin_shufflevector(v, v, 0, 2, 1, 3);
+    else
+        return v;
+}
+#if SIG5D_LEVEL > 0
+inline Span span(FoldedReals a, size_t n) { return {a.p, n * sizeof(f64)}; }
+#endif
+
 [[gnu::noinline]] void divide(const f64* a, const c64f* b, c64f* d, u32 n)
 {
-    map_numbers(n, complex(d), Quotient{}, a, complex(b));
+    map_numbers(n, folded(d), Quotient{}, FoldedReals{a}, folded(b));
 }
 
 } // namespace

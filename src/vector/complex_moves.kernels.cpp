@@ -1,34 +1,40 @@
 // Complex numbers with their parts exchanged, or in reverse order: every bit is kept, but for changes of sign.
 #include "frame/entry.h"
-#include "kernel/complex.h"
+#include "vector/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 #if SIG5D_LEVEL == 0
+
 inline c64f swapped(c64f x) { return {x.im, x.re}; }
 inline c64f negated_real(c64f x) { return {-x.re, x.im}; }
+inline c64f negated_imaginary(c64f x) { return {x.re, -x.im}; }
+
 #else
-template <class V> inline V negated_real(V x)
+
+template <bool imaginary, class V> inline V negated(V x)
 {
-    return BitsOf<V>::back(BitsOf<V>::of(x) ^ BitsOf<V>::of(Repeated<c64f>(c64f{-0.0, 0.0}).template as<V>()));
+    typename BitsOf<V>::type signs{};
+    for (size_t i = imaginary; i < sizeof(V) / sizeof(f64); i += 2) signs[i] = signBit;
+    return BitsOf<V>::back(BitsOf<V>::of(x) ^ signs);
 }
+template <class V> inline V negated_real(V x) { return negated<false>(x); }
+template <class V> inline V negated_imaginary(V x) { return negated<true>(x); }
+
 #endif
 
-struct OnPairs {
-    static constexpr size_t period = 2;
-};
-struct TimesI : OnPairs {
+struct TimesI {
     template <class V> V operator()(V x) const { return negated_real(swapped(x)); }
 };
-struct Swapped : OnPairs {
+struct Swapped {
     template <class V> V operator()(V x) const { return swapped(x); }
 };
-struct SwappedConjugate : OnPairs {
-    template <class V> V operator()(V x) const { return conjugate(swapped(x)); }
+struct SwappedConjugate {
+    template <class V> V operator()(V x) const { return negated_imaginary(swapped(x)); }
 };
 
-template <class Op> [[gnu::noinline]] void each(size_t n, const c64f* a, c64f* d) { map_complex(n, d, Op{}, a); }
+template <class Op> [[gnu::noinline]] void each(size_t n, const c64f* a, c64f* d) { map_pairs_of(n, d, Op{}, a); }
 
 void multiply_by_i(const c64f* a, c64f* d, u32 n) { each<TimesI>(n, a, d); }
 void flip(const c64f* a, c64f* d, u32 n) { each<Swapped>(n, a, d); }

@@ -6,8 +6,7 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class D, class Op, class... A>
-[[gnu::always_inline]] inline void map_numbers(size_t n, D d, Op op, A... a)
+template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_numbers(size_t n, D d, Op op, A... a)
 {
     if (n > 0) map_parts(n, d, op, a...);
 }

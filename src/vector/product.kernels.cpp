@@ -12,12 +12,21 @@ constexpr size_t realLanes = 32, complexLanes = 16;
 inline f64 times(f64 p, f64 x) { return p * x; }
 inline c64f times(c64f p, c64f x) { return {x.re * p.re - x.im * p.im, x.im * p.re + x.re * p.im}; }
 
-// Joins n partial products.
+// Joins n partial products; all of them, where their number is known, in vectors.
 template <class T> T joined_product(size_t n, T* p)
 {
     for (size_t half = realLanes / 2; half > 0; half /= 2)
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] = times(p[k], p[k + half]);
     return p[0];
+}
+template <size_t all, class T> T joined_product(T* p)
+{
+    if constexpr (all == 1) {
+        return p[0];
+    } else {
+        for (size_t k = 0; k < all / 2; ++k) p[k] = times(p[k], p[k + all / 2]);
+        return joined_product<all / 2>(p);
+    }
 }
 
 #if SIG5D_LEVEL == 0
@@ -69,7 +78,7 @@ template <size_t all, class T> T product_of(size_t n, const T* a, T one)
     for (T& p : partial) p = one;
     size_t i = n < all ? 0 : multiply_blocks<all>(n, a, partial);
     for (; i < n; ++i) partial[i % all] = times(partial[i % all], a[i]);
-    return joined_product(n < all ? n : all, partial);
+    return n < all ? joined_product(n, partial) : joined_product<all>(partial);
 }
 
 [[gnu::noinline]] void product(const f64* a, u32 n, f64* result) { *result = product_of<realLanes>(n, a, 1.0); }

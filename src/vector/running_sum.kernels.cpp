@@ -42,14 +42,22 @@ template <int lag> [[gnu::noinline]] void sum_in_registers(size_t n, const f64* 
 void sum_apart(size_t n, const f64* a, f64* d, size_t lag)
 {
     switch (lag) {
-    case 1: return sum_in_registers<1>(n, a, d);
-    case 2: return sum_in_registers<2>(n, a, d);
-    case 3: return sum_in_registers<3>(n, a, d);
-    case 4: return sum_in_registers<4>(n, a, d);
-    case 5: return sum_in_registers<5>(n, a, d);
-    case 6: return sum_in_registers<6>(n, a, d);
-    case 7: return sum_in_registers<7>(n, a, d);
-    default: return sum_vectors<vectorBytes>(n, a, d, lag);
+    case 1:
+        return sum_in_registers<1>(n, a, d);
+    case 2:
+        return sum_in_registers<2>(n, a, d);
+    case 3:
+        return sum_in_registers<3>(n, a, d);
+    case 4:
+        return sum_in_registers<4>(n, a, d);
+    case 5:
+        return sum_in_registers<5>(n, a, d);
+    case 6:
+        return sum_in_registers<6>(n, a, d);
+    case 7:
+        return sum_in_registers<7>(n, a, d);
+    default:
+        return sum_vectors<vectorBytes>(n, a, d, lag);
     }
 }
 
