@@ -31,7 +31,7 @@ inline Vec<f64, 4> smaller(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_min_pd(
 inline Vec<f64, 4> greater(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_max_pd(x, y); }
 #endif
 
-// The magnitudes that take part, but for zeros and NaN, lie within 2^-240 and 2^240. Then the formula in doubles is
+// The magnitudes of the operands, but for zeros and NaN, lie within 2^-240 and 2^240. Then the formula in doubles is
 // exact in the sense above: |b|^2 and its reciprocal lie within 2^-481 and 2^481, a difference of products that is not
 // 0 is at least one unit in the last place of 2^-480, and the results lie between 2^-1013 and 2^962.
 template <class V> struct Range {
@@ -59,21 +59,32 @@ template <class V> [[gnu::noinline, gnu::cold]] void wide_quotients(Parts<V>* a,
     }
 }
 
+// |b|^2 and both parts of the result lie within 2^-200 and 2^200. Then nothing has overflowed, and a product that
+// underflowed stood beside one so much larger that it did not count.
+template <class V> inline bool moderate(V power, Parts<V> q)
+{
+    const V re = absolute_value(q.re), im = absolute_value(q.im);
+    const V least = smaller(smaller(re, im), power), greatest = greater(power, re + im); // the sum keeps a NaN
+    return lanes_set((least >= constant<V>(0x1p-200)) & (greatest <= constant<V>(0x1p200))) == allLanes<V>;
+}
+
 template <class V> inline Parts<V> quotient(Parts<V> a, Parts<V> b)
 {
+    const V power = b.re * b.re + b.im * b.im;
+    const V t = constant<V>(1) / power;
+    const Parts<V> q = {(a.re * b.re + b.im * a.im) * t, t * (a.im * b.re - a.re * b.im)};
+    if (__builtin_expect(moderate(power, q), 1)) return q;
+    // Zeros in the result, for instance, say nothing; then the operands must be looked at.
     Range<V> range;
     range.add(a.re);
     range.add(a.im);
     range.add(b.re);
     range.add(b.im);
-    if (__builtin_expect(!range.ordinary(), 0)) {
-        Parts<V> result = a;
-        const Parts<V> divisor = b;
-        wide_quotients(&result, &divisor);
-        return result;
-    }
-    const V t = constant<V>(1) / (b.re * b.re + b.im * b.im);
-    return {(a.re * b.re + b.im * a.im) * t, t * (a.im * b.re - a.re * b.im)};
+    if (range.ordinary()) return q;
+    Parts<V> result = a;
+    const Parts<V> divisor = b;
+    wide_quotients(&result, &divisor);
+    return result;
 }
 
 #endif
