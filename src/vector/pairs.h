@@ -70,7 +70,7 @@ template <class Op> struct OnPairs : Op {
 };
 
 // d[i] = op(a[i], ...) for 0 <= i < n.
-template <class Op, class... A> [[gnu::always_inline]] inline void map_pairs_of(size_t n, c64f* d, Op op, A... a)
+template <class C, class Op, class... A> [[gnu::always_inline]] inline void map_pairs_of(size_t n, C* d, Op op, A... a)
 {
 #if SIG5D_LEVEL == 0
     map(n, d, op, a...);
