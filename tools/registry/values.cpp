@@ -6,8 +6,11 @@
 namespace registry {
 namespace {
 
+// Numbers are handed over by reference: 32-bit code returns them in x87 registers, where a signalling NaN would become
+// a quiet one.
+
 template <class F>
-F adversarialFloat(Random& r)
+void adversarialFloat(Random& r, F& x)
 {
     using L = std::numeric_limits<F>;
     const F specials[] = {F(0), -F(0), F(1), F(-1), F(0.5), F(-0.5), F(1.5), F(2.5), F(-2.5), L::min(), -L::min(),
@@ -15,33 +18,30 @@ F adversarialFloat(Random& r)
                           L::quiet_NaN(), -L::quiet_NaN(), L::epsilon(), F(127.5), F(255.5), F(-128.5), F(32767.5),
                           F(-32768.5), F(2147483647), F(-2147483648.0), F(4294967296.0), F(9.2233720368547758e18)};
     switch (r.below(4)) {
-    case 0: return specials[r.below(sizeof specials / sizeof *specials)];
-    case 1: return F(r.below(2001) - 1000) / F(2); // integers and halves
-    case 2: return F((double(r.bits() >> 11) * 0x1p-53 - 0.5) * std::ldexp(1.0, int(r.below(60)) - 30));
+    case 0: x = specials[r.below(sizeof specials / sizeof *specials)]; break;
+    case 1: x = F(r.below(2001) - 1000) / F(2); break; // integers and halves
+    case 2: x = F((double(r.bits() >> 11) * 0x1p-53 - 0.5) * std::ldexp(1.0, int(r.below(60)) - 30)); break;
     default: {
-        F any;
         const uint64_t bits = r.bits();
-        std::memcpy(&any, &bits, sizeof any);
-        return any;
+        std::memcpy(&x, &bits, sizeof x);
     }
     }
 }
 
 template <class F>
-F floating(Random& r, Pattern p)
+void floating(Random& r, Pattern p, F& x)
 {
     using L = std::numeric_limits<F>;
     switch (p) {
     case Pattern::anyBits: {
-        F any;
         const uint64_t bits = r.bits();
-        std::memcpy(&any, &bits, sizeof any);
-        return any;
+        std::memcpy(&x, &bits, sizeof x);
+        break;
     }
-    case Pattern::adversarial: return adversarialFloat<F>(r);
-    case Pattern::tame: return F(double(r.bits() >> 11) * 0x1p-52 - 1.0);
-    case Pattern::lowest: return L::lowest();
-    default: return L::max();
+    case Pattern::adversarial: adversarialFloat(r, x); break;
+    case Pattern::tame: x = F(double(r.bits() >> 11) * 0x1p-52 - 1.0); break;
+    case Pattern::lowest: x = L::lowest(); break;
+    default: x = L::max();
     }
 }
 
@@ -69,6 +69,24 @@ void fillWith(uint8_t* bytes, size_t n, Make make)
         const T x = make();
         std::memcpy(bytes + i * sizeof(T), &x, sizeof(T));
     }
+}
+
+template <class F>
+void fillFloating(Random& r, Pattern p, uint8_t* bytes, size_t n)
+{
+    for (size_t i = 0; i < n; ++i) {
+        F x;
+        floating(r, p, x);
+        std::memcpy(bytes + i * sizeof(F), &x, sizeof(F));
+    }
+}
+
+template <class F>
+double scalarFloating(Random& r, Pattern p)
+{
+    F x;
+    floating(r, p, x);
+    return x;
 }
 
 } // namespace
@@ -102,10 +120,10 @@ bool isFloating(Element e)
 void fill(Random& r, Element e, Pattern p, uint8_t* bytes, size_t n)
 {
     switch (e) {
-    case Element::f32: return fillWith<float>(bytes, n, [&] { return floating<float>(r, p); });
-    case Element::c32f: return fillWith<float>(bytes, 2 * n, [&] { return floating<float>(r, p); });
-    case Element::f64: return fillWith<double>(bytes, n, [&] { return floating<double>(r, p); });
-    case Element::c64f: return fillWith<double>(bytes, 2 * n, [&] { return floating<double>(r, p); });
+    case Element::f32: return fillFloating<float>(r, p, bytes, n);
+    case Element::c32f: return fillFloating<float>(r, p, bytes, 2 * n);
+    case Element::f64: return fillFloating<double>(r, p, bytes, n);
+    case Element::c64f: return fillFloating<double>(r, p, bytes, 2 * n);
     case Element::i16: return fillWith<int16_t>(bytes, n, [&] { return integer<int16_t>(r, p); });
     case Element::c16s: return fillWith<int16_t>(bytes, 2 * n, [&] { return integer<int16_t>(r, p); });
     case Element::i32: return fillWith<int32_t>(bytes, n, [&] { return integer<int32_t>(r, p); });
@@ -124,11 +142,11 @@ Value scalar(Random& r, Element e, Pattern p)
 {
     Value v;
     switch (e) {
-    case Element::f32: v.re = floating<float>(r, p); break;
-    case Element::f64: v.re = floating<double>(r, p); break;
+    case Element::f32: v.re = scalarFloating<float>(r, p); break;
+    case Element::f64: v.re = scalarFloating<double>(r, p); break;
     case Element::c64f:
-        v.re = floating<double>(r, p);
-        v.im = floating<double>(r, p);
+        v.re = scalarFloating<double>(r, p);
+        v.im = scalarFloating<double>(r, p);
         break;
     case Element::u8: v.i = integer<uint8_t>(r, p); break;
     case Element::i8: v.i = integer<int8_t>(r, p); break;
