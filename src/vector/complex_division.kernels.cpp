@@ -47,7 +47,7 @@ template <class V> struct Range {
 };
 
 // Lane by lane, where numbers are not ordinary.
-template <class V> [[gnu::noinline, gnu::cold]] void wide_quotients(Parts<V>* a, const Parts<V>* b)
+template <class V> [[gnu::noinline]] void wide_quotients(Parts<V>* a, const Parts<V>* b)
 {
     constexpr size_t L = sizeof(V) / sizeof(f64);
     const auto *br = reinterpret_cast<const f64*>(&b->re), *bi = reinterpret_cast<const f64*>(&b->im);
