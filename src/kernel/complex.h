@@ -2,6 +2,7 @@
 #pragma once
 #include "kernel/loops.h"
 #include "kernel/select.h"
+#include "kernel/shuffle.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -53,18 +54,11 @@ template <class T> struct Repeated {
     }
 };
 
-inline Vec<f64, 2> swapped(Vec<f64, 2> v) { return __builtin_shufflevector(v, v, 1, 0); }
-inline Vec<f64, 2> real_lanes(Vec<f64, 2> v) { return __builtin_shufflevector(v, v, 0, 0); }
-inline Vec<f64, 2> imaginary_lanes(Vec<f64, 2> v) { return __builtin_shufflevector(v, v, 1, 1); }
-#if SIG5D_LEVEL >= 4
-inline Vec<f64, 4> swapped(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 1, 0, 3, 2); }
-inline Vec<f64, 4> real_lanes(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 0, 0, 2, 2); }
-inline Vec<f64, 4> imaginary_lanes(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 1, 1, 3, 3); }
-#endif
-
 template <class V> inline V conjugate(V x)
 {
-    return BitsOf<V>::back(BitsOf<V>::of(x) ^ BitsOf<V>::of(Repeated<c64f>(c64f{0.0, -0.0}).template as<V>()));
+    typename BitsOf<V>::type signs{};
+    for (size_t i = 1; i < sizeof(V) / sizeof(u64); i += 2) signs[i] = signBit;
+    return BitsOf<V>::back(BitsOf<V>::of(x) ^ signs);
 }
 
 // (x.re - y.re, x.im + y.im)
@@ -79,17 +73,18 @@ template <class V> inline V alternate(V x, V y)
     return x - conjugate(y);
 }
 
-// Loads a register once, where the compiler would read memory again for each use.
-template <class V> inline V once(V v)
+// A value in a register, here and now: the compiler would read memory again for each use, and begin several products
+// before it finishes one, for which the registers do not suffice.
+template <class V> inline V now(V v)
 {
-    asm("" : "+x"(v));
+    asm volatile("" : "+x"(v));
     return v;
 }
 
 template <class V> inline V product(V x, V y)
 {
-    x = once(x);
-    return alternate(x * real_lanes(y), swapped(x) * imaginary_lanes(y));
+    x = now(x);
+    return now(alternate(x * real_lanes(y), swapped(x) * imaginary_lanes(y)));
 }
 
 struct Factor {
@@ -98,8 +93,8 @@ struct Factor {
     explicit Factor(c64f v) : re(v.re), im(c64f{-v.im, v.im}) {}
     template <class V> V times(V x) const
     {
-        x = once(x);
-        return x * re.as<V>() + swapped(x) * im.as<V>();
+        x = now(x);
+        return now(x * re.as<V>() + swapped(x) * im.as<V>());
     }
 };
 

@@ -3,6 +3,7 @@
 // Parts<V>, where V is a number or a vector of them: single numbers, never half-filled vectors, at the ends of arrays.
 #pragma once
 #include "kernel/loops.h"
+#include "kernel/shuffle.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -12,7 +13,8 @@ template <class V> struct Parts {
 };
 
 // What a loop reads and writes, besides arrays of doubles: complex numbers; real and imaginary parts in two arrays;
-// zeros. "Folded" puts the numbers into lanes in another order, which saves shuffles: for loops from complex to complex.
+// zeros. "Folded" puts the numbers into lanes in another order, which saves shuffles: for loops from complex to
+// complex.
 template <class T, bool folds> struct ComplexArray {
     T* p;
     ComplexArray operator+(size_t n) const { return {p + n}; }
@@ -34,18 +36,14 @@ struct Zeros {
 #if SIG5D_LEVEL > 0
 
 // Pairs of lanes: the first of each, the second of each. The same shuffles make pairs again.
-inline Parts<Vec<f64, 2>> exchanged(Vec<f64, 2> a, Vec<f64, 2> b)
-{
-    return {__builtin_shufflevector(a, b, 0, 2), __builtin_shufflevector(a, b, 1, 3)};
-}
+template <class V> inline Parts<V> exchanged(V a, V b) { return {shuffled<0>(a, b), shuffled<allLanes<V>>(a, b)}; }
 #if SIG5D_LEVEL >= 4
-inline Parts<Vec<f64, 4>> exchanged(Vec<f64, 4> a, Vec<f64, 4> b)
+inline Vec<f64, 4> joined(Vec<f64, 2> a, Vec<f64, 2> b) // a shuffle would be made after two loads
 {
-    return {__builtin_shufflevector(a, b, 0, 4, 2, 6), __builtin_shufflevector(a, b, 1, 5, 3, 7)};
+    return reinterpret_cast<Vec<f64, 4>>(_mm256_insertf128_pd(_mm256_castpd128_pd256(a), b, 1));
 }
-inline Vec<f64, 4> joined(Vec<f64, 2> a, Vec<f64, 2> b) { return __builtin_shufflevector(a, b, 0, 1, 2, 3); }
-inline Vec<f64, 2> low_half(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 0, 1); }
-inline Vec<f64, 2> high_half(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 2, 3); }
+inline Vec<f64, 4> low_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 0, 1, 4, 5); }
+inline Vec<f64, 4> high_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 2, 3, 6, 7); }
 #endif
 
 #endif
@@ -86,12 +84,10 @@ inline void store_numbers(Write write, ComplexArray<c64f, folds> d, Parts<V> v)
         const auto pairs = exchanged(v.re, v.im);
         write(p, pairs.re);
         write(p + L, pairs.im);
-    } else { // neither do stores of halves
+    } else {
         const auto pairs = exchanged(v.re, v.im);
-        write(p, low_half(pairs.re));
-        write(p + L / 2, low_half(pairs.im));
-        write(p + L, high_half(pairs.re));
-        write(p + L + L / 2, high_half(pairs.im));
+        write(p, low_halves(pairs.re, pairs.im));
+        write(p + L, high_halves(pairs.re, pairs.im));
     }
 }
 
@@ -175,8 +171,7 @@ inline size_t map_pairs(size_t n, Write write, D& d, Op op, A&... a)
 
 // d[i] = op(a[i], ...) for 0 <= i < n. A source may be d itself. As in map, the first and the last vector overlap the
 // others and are stored at the end.
-template <class D, class Op, class... A>
-[[gnu::always_inline]] inline void map_parts(size_t n, D d, Op op, A... a)
+template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_parts(size_t n, D d, Op op, A... a)
 {
     constexpr size_t L = lanes<f64>;
     if (n < L) return map_few<L / 2>(n, d, op, a...);

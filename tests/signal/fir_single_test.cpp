@@ -276,7 +276,7 @@ TEST(SingleRateSizes, NeverWrap)
             Wide n = 4;
             while (n <= 2 * Wide(taps)) n *= 2;
             const Wide spec = align64(taps * e) + 127 + n * e;
-            const Wide work = align64(2 * taps * e) + 32768 + align64(2 * (taps - Wide(1)) * e) + n * e;
+            const Wide work = align64(2 * Wide(taps) * e) + 32768 + align64(2 * (taps - Wide(1)) * e) + n * e;
             int specSize = 0, workSize = 0;
             const int status = ippsFIRSRGetSize(taps, type, &specSize, &workSize);
             if (status) {

@@ -87,7 +87,7 @@ void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* sh
         const bool writable = !arg.isConst || (shared && shared->source == i);
         a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + start;
         std::memset(spot.low, canary, static_cast<size_t>(spot.high - spot.low));
-        if (bytes) std::memcpy(spot.own, a.content[i].data(), a.content[i].size());
+        if (!a.content[i].empty()) std::memcpy(spot.own, a.content[i].data(), a.content[i].size());
     }
     if (shared) {
         spots_[shared->destination] = spots_[shared->source];
@@ -127,7 +127,7 @@ std::string Stage::changed(const registry::Arguments& a) const
 {
     for (size_t i = 0; i < spots_.size(); ++i) {
         const Spot& s = spots_[i];
-        if (s.own && std::memcmp(s.own, a.content[i].data(), a.content[i].size())) return a.f.args[i].name;
+        if (s.own && !a.content[i].empty() && std::memcmp(s.own, a.content[i].data(), a.content[i].size())) return a.f.args[i].name;
     }
     return strayWrite(a);
 }

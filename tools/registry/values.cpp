@@ -6,11 +6,16 @@
 namespace registry {
 namespace {
 
-// Numbers are handed over by reference: 32-bit code returns them in x87 registers, where a signalling NaN would become
-// a quiet one.
-
 template <class F>
-void adversarialFloat(Random& r, F& x)
+void anyBits(Random& r, F* to)
+{
+    const uint64_t bits = r.bits();
+    std::memcpy(to, &bits, sizeof *to);
+}
+
+// Numbers are stored, not returned: the result register of 32-bit code would make signalling NaN quiet.
+template <class F>
+void adversarialFloat(Random& r, F* to)
 {
     using L = std::numeric_limits<F>;
     const F specials[] = {F(0), -F(0), F(1), F(-1), F(0.5), F(-0.5), F(1.5), F(2.5), F(-2.5), L::min(), -L::min(),
@@ -18,30 +23,41 @@ void adversarialFloat(Random& r, F& x)
                           L::quiet_NaN(), -L::quiet_NaN(), L::epsilon(), F(127.5), F(255.5), F(-128.5), F(32767.5),
                           F(-32768.5), F(2147483647), F(-2147483648.0), F(4294967296.0), F(9.2233720368547758e18)};
     switch (r.below(4)) {
-    case 0: x = specials[r.below(sizeof specials / sizeof *specials)]; break;
-    case 1: x = F(r.below(2001) - 1000) / F(2); break; // integers and halves
-    case 2: x = F((double(r.bits() >> 11) * 0x1p-53 - 0.5) * std::ldexp(1.0, int(r.below(60)) - 30)); break;
-    default: {
-        const uint64_t bits = r.bits();
-        std::memcpy(&x, &bits, sizeof x);
-    }
+    case 0: *to = specials[r.below(sizeof specials / sizeof *specials)]; return;
+    case 1: *to = F(r.below(2001) - 1000) / F(2); return; // integers and halves
+    case 2: *to = F((double(r.bits() >> 11) * 0x1p-53 - 0.5) * std::ldexp(1.0, int(r.below(60)) - 30)); return;
+    default: anyBits(r, to);
     }
 }
 
 template <class F>
-void floating(Random& r, Pattern p, F& x)
+void floating(Random& r, Pattern p, F* to)
 {
     using L = std::numeric_limits<F>;
     switch (p) {
-    case Pattern::anyBits: {
-        const uint64_t bits = r.bits();
-        std::memcpy(&x, &bits, sizeof x);
-        break;
+    case Pattern::anyBits: return anyBits(r, to);
+    case Pattern::adversarial: return adversarialFloat(r, to);
+    case Pattern::tame: *to = F(double(r.bits() >> 11) * 0x1p-52 - 1.0); return;
+    case Pattern::lowest: *to = L::lowest(); return;
+    default: *to = L::max();
     }
-    case Pattern::adversarial: adversarialFloat(r, x); break;
-    case Pattern::tame: x = F(double(r.bits() >> 11) * 0x1p-52 - 1.0); break;
-    case Pattern::lowest: x = L::lowest(); break;
-    default: x = L::max();
+}
+
+template <class F>
+double number(Random& r, Pattern p)
+{
+    F x;
+    floating(r, p, &x);
+    return x;
+}
+
+template <class F>
+void fillFloating(Random& r, Pattern p, uint8_t* bytes, size_t n)
+{
+    for (size_t i = 0; i < n; ++i) {
+        F x;
+        floating(r, p, &x);
+        std::memcpy(bytes + i * sizeof x, &x, sizeof x);
     }
 }
 
@@ -69,24 +85,6 @@ void fillWith(uint8_t* bytes, size_t n, Make make)
         const T x = make();
         std::memcpy(bytes + i * sizeof(T), &x, sizeof(T));
     }
-}
-
-template <class F>
-void fillFloating(Random& r, Pattern p, uint8_t* bytes, size_t n)
-{
-    for (size_t i = 0; i < n; ++i) {
-        F x;
-        floating(r, p, x);
-        std::memcpy(bytes + i * sizeof(F), &x, sizeof(F));
-    }
-}
-
-template <class F>
-double scalarFloating(Random& r, Pattern p)
-{
-    F x;
-    floating(r, p, x);
-    return x;
 }
 
 } // namespace
@@ -142,11 +140,11 @@ Value scalar(Random& r, Element e, Pattern p)
 {
     Value v;
     switch (e) {
-    case Element::f32: v.re = scalarFloating<float>(r, p); break;
-    case Element::f64: v.re = scalarFloating<double>(r, p); break;
+    case Element::f32: v.re = number<float>(r, p); break;
+    case Element::f64: v.re = number<double>(r, p); break;
     case Element::c64f:
-        v.re = scalarFloating<double>(r, p);
-        v.im = scalarFloating<double>(r, p);
+        v.re = number<double>(r, p);
+        v.im = number<double>(r, p);
         break;
     case Element::u8: v.i = integer<uint8_t>(r, p); break;
     case Element::i8: v.i = integer<int8_t>(r, p); break;
