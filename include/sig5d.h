@@ -1598,6 +1598,174 @@ IppStatus SIG5D_CDECL ippsFIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, const Ipps
 IppStatus SIG5D_CDECL ippsFIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, const IppsFIRSpec_64fc* pSpec, const Ipp64fc*
         pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
 
+/* ---- Mixed real and complex arithmetic ---- */
+
+/* dst[i] = src[i] + value. A real number takes part as a complex one with the imaginary part +0.0. */
+void SIG5D_CDECL AddValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL AddValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL AddValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value - src[i]. The scalar minus the element. A real number takes part as a complex one with the
+   imaginary part +0.0. */
+void SIG5D_CDECL SubFromValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL SubFromValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL SubFromValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL SubFromValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = src[i] * value. */
+void SIG5D_CDECL ScaleByValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL ScaleByValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL ScaleByValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL ScaleByValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value / src[i]. The scalar divided by the element. */
+void SIG5D_CDECL DivideValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL DivideValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL DivideValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = (a[i].re + b[i], a[i].im + 0.0). */
+void SIG5D_CDECL AddVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL AddVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re - b[i], a[i].im - 0.0). */
+void SIG5D_CDECL SubVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i] - b[i].re, 0.0 - b[i].im). */
+void SIG5D_CDECL SubVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re * b[i], a[i].im * b[i]). */
+void SIG5D_CDECL MulVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] / b[i]. Correctly rounded quotients, part by part. */
+void SIG5D_CDECL DivVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] * conj(b[i]) = (a.re*b.re + a.im*b.im, a.im*b.re - a.re*b.im). Four products and two sums;
+   infinities and NaN as they come out of these. */
+void SIG5D_CDECL ConjMulcc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL ConjMulcc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a.re*b.re + b.im*a.im) * t, t * (a.im*b.re - a.re*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVeccc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a*b.re + b.im*0.0) * t, t * (0.0*b.re - a*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* ---- Running sums, ramps, products, powers and exchanges ---- */
+
+/* dst[0] = src[0]; dst[i] = src[i] + dst[i-1]. Strictly in index order: doubles round as a sum from left to right,
+   of which every step is stored. Integers wrap around in their own width. Complex parts are summed one by one. */
+void SIG5D_CDECL CumSum(const Ipp64f* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL CumSum_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSumc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL CumSumc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = src[i] for i < delta; dst[i] = src[i] + dst[i-delta] for delta <= i < len. A running sum of every
+   delta-th element, delta sums in all. Integers wrap around in their own width. */
+void SIG5D_CDECL CumSumDelta(const Ipp64f* src, Ipp64f* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDelta_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDeltac(const Ipp64fc* src, Ipp64fc* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDeltac_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+
+/* dst[i] = offset + step * i. Every element is computed from its index, as a product rounded and then a sum
+   rounded, each part for itself. */
+void SIG5D_CDECL Rampc(Ipp64fc* dst, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampc_Idx(Ipp64fc* dst, int dstIdx, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampd(Ipp64f* dst, unsigned int len, Ipp64f offset, Ipp64f step);
+
+/* dst[i] = (src[i].im, src[i].re). All bits are kept, also of a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL Flip(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Flip_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (src[i].im, -src[i].re). Only the sign bit of the real part changes, also of a zero or a NaN. Other
+   overlap than exact gives any values. */
+void SIG5D_CDECL FlipConj(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL FlipConj_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (-src[i].im, src[i].re). The product with the imaginary unit; only the sign bit of the imaginary part
+   changes, also of a zero or a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL MulI(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulI_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[len-1-i] = src[i]. Whole complex numbers in reverse order; all bits are kept. Other overlap than exact gives
+   any values. */
+void SIG5D_CDECL Reverse(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Reverse_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* *result = src[0] * src[1] * ... * src[len-1]. The product of no elements is 1. */
+void SIG5D_CDECL Product(const Ipp64f* src, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Product_Idx(const Ipp64f* src, int srcIdx, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Productc(const Ipp64fc* src, unsigned int len, Ipp64fc* result);
+void SIG5D_CDECL Productc_Idx(const Ipp64fc* src, int srcIdx, unsigned int len, Ipp64fc* result);
+
+/* dst[i] = a[i] ^ b[i] = e^(b[i] * log(a[i])) for 1 <= i < len. The principal value. Element 0 is left as it is. */
+void SIG5D_CDECL Powc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+
 #ifdef __cplusplus
 }
 #endif
