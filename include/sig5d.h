@@ -566,19 +566,6 @@ IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp6
 
 /* ---- Thresholds ---- */
 
-/* relOp 0: pDst[i] = pSrc[i] < level ? level : pSrc[i]; relOp 4: pDst[i] = pSrc[i] > level ? level : pSrc[i].
-   Limits elements from below (relOp 0, "less than") or from above (relOp 4, "greater than"). */
-IppStatus SIG5D_STDCALL ippsThreshold_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_STDCALL ippsThreshold_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_CDECL ippsThreshold_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_CDECL ippsThreshold_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
-        level, int relOp);
-IppStatus SIG5D_STDCALL ippsThreshold_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_STDCALL ippsThreshold_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_CDECL ippsThreshold_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_CDECL ippsThreshold_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
-        Ipp64f level, int relOp);
-
 /* pDst[i] = pSrc[i] < level ? level : pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsThreshold_LT_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
 IppStatus SIG5D_STDCALL ippsThreshold_LT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
@@ -623,8 +610,8 @@ IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstId
 IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
         Ipp64f level);
 
-/* pDst[i] = |pSrc[i]| >= level ? pSrc[i] : pSrc[i] < 0 ? -level : level. Raises magnitudes and keeps signs; 0 and
-   -0 become level. */
+/* pDst[i] = |pSrc[i]| >= level ? pSrc[i] : pSrc[i] < 0 ? -level : level. Raises magnitudes and keeps signs; 0
+   becomes level. */
 IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
 IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
 IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
@@ -726,6 +713,19 @@ IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_I_Idx(Ipp64f* pSrcDst, int sr
         Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
 IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int
         len, Ipp64f levelLT, Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
+
+/* relOp 0: pDst[i] = pSrc[i] < level ? level : pSrc[i]; relOp 4: pDst[i] = pSrc[i] > level ? level : pSrc[i].
+   Limits elements from below (relOp 0, "less than") or from above (relOp 4, "greater than"). */
+IppStatus SIG5D_STDCALL ippsThreshold_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
+        level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f level, int relOp);
 
 /* pDst[i] = |pSrc[i]| > level ? 1 / pSrc[i] : pSrc[i] < 0 ? -1 / level : 1 / level. Reciprocals, limited in
    magnitude to that of the level. */

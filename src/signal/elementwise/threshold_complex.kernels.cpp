@@ -15,36 +15,46 @@ struct Above {
 
 template <class V> inline V all_lanes(f64 x) { return splatn<sizeof(V) / sizeof(f64)>(x); }
 
-// The element, or the vector with one part after the other, whose squared magnitude a comparison does not select.
+// The value instead of elements whose squared magnitude a comparison selects.
+#if SIG5D_LEVEL == 0
+
+template <class Compare> void replace(const c64f* a, c64f* d, int n, f64 level, c64f value)
+{
+    const f64 square = level * level;
+    const auto op = [=](c64f x) { return Compare{}(x.re * x.re + x.im * x.im, square) ? value : x; };
+    map(static_cast<size_t>(n), d, op, a);
+}
+
+#else
+
+inline __m128d exchanged(__m128d x) { return _mm_shuffle_pd(x, x, 1); }
+#if SIG5D_LEVEL >= 4
+inline __m256d exchanged(__m256d x) { return _mm256_permute_pd(x, 5); }
+#endif
+
 template <class Compare> struct Replace {
     static constexpr size_t period = 2; // vectors begin with a real part
     f64 square;
-    c64f value;
-    c64f operator()(c64f x) const { return Compare{}(x.re * x.re + x.im * x.im, square) ? value : x; }
-#if SIG5D_LEVEL > 0
+    Vec<f64> values;
     template <class V> V operator()(V x) const
     {
-        V values;
-        for (size_t i = 0; i < sizeof(V) / sizeof(f64); ++i) values[i] = i % 2 ? value.im : value.re;
+        V value;
+        __builtin_memcpy(&value, &values, sizeof value);
         const V squares = x * x;
-        return Compare{}(squares + exchanged(squares), all_lanes<V>(square)) ? values : x;
+        return Compare{}(squares + exchanged(squares), all_lanes<V>(square)) ? value : x;
     }
-    static __m128d exchanged(__m128d x) { return _mm_shuffle_pd(x, x, 1); }
-#if SIG5D_LEVEL >= 4
-    static __m256d exchanged(__m256d x) { return _mm256_permute_pd(x, 5); }
-#endif
-#endif
 };
 
 template <class Compare> [[gnu::noinline]] void replace(const c64f* a, c64f* d, int n, f64 level, c64f value)
 {
-    const Replace<Compare> op{level * level, value};
-#if SIG5D_LEVEL == 0
-    map(static_cast<size_t>(n), d, op, a);
-#else
-    map(2 * static_cast<size_t>(n), &d->re, op, &a->re);
-#endif
+    Vec<f64> values;
+    for (int i = 0; i < lanes<f64>; ++i) values[i] = i % 2 ? value.im : value.re;
+    asm("" : "+x"(values)); // or it would be put together again for every vector
+    map(2 * static_cast<size_t>(n), &d->re, Replace<Compare>{level * level, values}, &a->re);
 }
+
+#endif
+
 void replace_below(const c64f* a, c64f* d, int n, f64 level, c64f value) { replace<Below>(a, d, n, level, value); }
 void replace_above(const c64f* a, c64f* d, int n, f64 level, c64f value) { replace<Above>(a, d, n, level, value); }
 
