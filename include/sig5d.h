@@ -295,6 +295,110 @@ typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
+/* ---- Type conversions ---- */
+
+/* pDst[i] = pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsConvert_16f32f(const Ipp16f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16f32f_Idx(const Ipp16f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s32f(const Ipp16s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16s32f_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s32s(const Ipp16s* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16s32s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s64f_Sfs(const Ipp16s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_16s64f_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_16s8s_Sfs(const Ipp16s* pSrc, Ipp8s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_16s8s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_16u32f(const Ipp16u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16u32f_Idx(const Ipp16u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32s(const Ipp8u* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24u32u(const Ipp8u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f16f(const Ipp32f* pSrc, Ipp16f* pDst, int len, int rndMode);
+IppStatus SIG5D_CDECL ippsConvert_32f16f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16f* pDst, int dstIdx, int len, int
+        rndMode);
+IppStatus SIG5D_STDCALL ippsConvert_32f16s_Sfs(const Ipp32f* pSrc, Ipp16s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f16s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f16u_Sfs(const Ipp32f* pSrc, Ipp16u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f16u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f24s_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f24u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f32s_Sfs(const Ipp32f* pSrc, Ipp32s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f32s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f64f(const Ipp32f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32f64f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f8s_Sfs(const Ipp32f* pSrc, Ipp8s* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f8u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s16s(const Ipp32s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s16s_Sfs(const Ipp32s* pSrc, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s24s_Sfs(const Ipp32s* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s24s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s32f(const Ipp32s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s32f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f(const Ipp32s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f_Sfs(const Ipp32s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32u24u_Sfs(const Ipp32u* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32u24u_Sfs_Idx(const Ipp32u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f16s_Sfs(const Ipp64f* pSrc, Ipp16s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f16s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f16u_Sfs(const Ipp64f* pSrc, Ipp16u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f16u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f32f(const Ipp64f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64f32f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_64f32s_Sfs(const Ipp64f* pSrc, Ipp32s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f32s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f64s_Sfs(const Ipp64f* pSrc, Ipp64s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f64s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f8u_Sfs(const Ipp64f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f8u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64s64f(const Ipp64s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64s64f_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8s16s(const Ipp8s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s16s_Idx(const Ipp8s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8s32f(const Ipp8s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s32f_Idx(const Ipp8s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */

@@ -8,7 +8,10 @@ namespace {
 
 #if SIG5D_LEVEL == 0
 
-template <class D, class Op, class... A> inline void map_compact(size_t n, D* d, Op op, A... a) { map(n, d, op, a...); }
+template <int, class D, class Op, class... A> inline void map_compact(size_t n, D* d, Op op, A... a)
+{
+    map(n, d, op, a...);
+}
 
 #else
 
@@ -28,6 +31,13 @@ template <class U> inline U load_as(const u8* p)
     U x;
     __builtin_memcpy(&x, p, sizeof x);
     return x;
+}
+
+// Keeps a vector in a register: compilers load it again from memory for a second use.
+template <class V> inline V held(V v)
+{
+    asm("" : "+x"(v));
+    return v;
 }
 
 // Fewer elements than a vector has, in one: the largest power of two of bytes that fits, from either end of the array,
@@ -89,25 +99,30 @@ template <class T> inline void store_ends(T* array, size_t n, Vec<T> v)
     }
 }
 
-// As many pairs of vectors as there are, and one more left at least. Returns the elements that are left.
-template <class D, class Store, class Op, class... A>
-inline size_t map_pairs(size_t n, D*& d, Store write, Op op, A&... a)
+// As many groups of vectors as leave one element or more. Returns the elements that are left.
+template <int group, class D, class Store, class Op, class... A>
+inline size_t map_groups(size_t n, D*& d, Store write, Op op, A&... a)
 {
     constexpr int L = lanes<D>;
-    for (; n > 2 * L; n -= 2 * L) {
-        const auto v0 = op(loadn<L>(a)...), v1 = op(loadn<L>(a + L)...);
-        write(d, v0);
-        keep(d);
-        write(d + L, v1);
-        d += 2 * L;
-        (void(a += 2 * L), ...);
+    for (; n > group * L; n -= group * L) {
+        Vec<D> v[group];
+#pragma GCC unroll 8
+        for (int i = 0; i < group; ++i) v[i] = op(held(loadn<L>(a + i * L))...);
+#pragma GCC unroll 8
+        for (int i = 0; i < group; ++i) {
+            write(d + i * L, v[i]);
+            keep(d);
+        }
+        d += group * L;
+        (void(a += group * L), ...);
         keep(d);
     }
     return n;
 }
 
 // d[i] = op(a[i], ...) for 0 <= i < n; sources as in map. The operation gets whole vectors of elements only.
-template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_compact(size_t n, D* d, Op op, A... a)
+template <int group, class D, class Op, class... A>
+[[gnu::always_inline]] inline void map_compact(size_t n, D* d, Op op, A... a)
 {
     constexpr size_t L = lanes<D>;
     if (n < L) return store_ends(d, n, op(load_ends(a, n)...));
@@ -121,14 +136,18 @@ template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_
     (void(a += skip), ...);
     size_t left = n - skip;
     if (streaming) {
-        left = map_pairs(
+        left = map_groups<2>(
             left, d, [](D* p, auto v) { stream(p, v); }, op, a...);
         stream_end();
     } else {
-        left = map_pairs(
+        left = map_groups<group>(
             left, d, [](D* p, auto v) { put(p, v); }, op, a...);
     }
-    if (left > L) put(d, op(loadn<L>(a)...));
+    for (; left > L; left -= L) {
+        put(d, op(loadn<L>(a)...));
+        d += L;
+        (void(a += L), ...);
+    }
     put(first, head);
     put(last, tail);
 }

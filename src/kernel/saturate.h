@@ -76,10 +76,8 @@ template <class V> inline V without(V x, V y) { return as<V>(and_not(bits(x), bi
 // (x + y + 1) / 2 of unsigned lanes.
 template <class V> inline V average(V x, V y) { return as<V>(averages(bits(x), bits(y), Lane<V>{})); }
 
-#if SIG5D_LEVEL >= 2
-// x * y * 2^-15 of 16-bit lanes to the nearest integer, halves up.
+// x * y * 2^-15 of 16-bit lanes to the nearest integer, halves up. From SSSE3 on.
 template <class V> inline V rounded_product(V x, V y) { return as<V>(rounded_products(bits(x), bits(y))); }
-#endif
 
 // Two vectors of 32-bit lanes that unpacking made of one of 16-bit lanes.
 template <class V> inline auto pack_saturated(V low, V high)
@@ -104,23 +102,44 @@ template <class V> inline V where_negative(V sign, V x, V other)
 // The limit on the side of a number's sign.
 template <class V> inline V limit_of(V x) { return (x >> 31) ^ static_cast<i32>(highest<i32>); }
 
+// The sum. Of 32-bit lanes: of x within what leaves room for y; bounds that the compiler computes once if y is always
+// the same, or by the wrong sign that a sum beyond the limits has, where processors lack the minimum.
 template <class V> inline V add_saturated(V x, V y)
 {
-    if constexpr (sizeof(Lane<V>) == 4) { // a sum beyond the limits has the wrong sign
+    if constexpr (sizeof(Lane<V>) != 4) {
+        return as<V>(sums(bits(x), bits(y), Lane<V>{}));
+    } else if constexpr (SIG5D_LEVEL >= 3) {
+        const V least = all<V>(lowest_of<i32>) - lower(y, V{}), most = all<V>(highest<i32>) - higher(y, V{});
+        return lower(higher(x, least), most) + y;
+    } else {
         const V sum = x + y;
         return where_negative((x > sum) ^ y, limit_of(~sum), sum);
-    } else {
-        return as<V>(sums(bits(x), bits(y), Lane<V>{}));
     }
 }
 
+// The difference, with bounds for x that depend on y.
 template <class V> inline V subtract_saturated(V x, V y)
 {
-    if constexpr (sizeof(Lane<V>) == 4) {
+    if constexpr (sizeof(Lane<V>) != 4) {
+        return as<V>(differences(bits(x), bits(y), Lane<V>{}));
+    } else if constexpr (SIG5D_LEVEL >= 3) {
+        const V least = all<V>(lowest_of<i32>) + higher(y, V{}), most = all<V>(highest<i32>) + lower(y, V{});
+        return lower(higher(x, least), most) - y;
+    } else {
         const V difference = x - y;
         return where_negative((difference > x) ^ y, limit_of(~difference), difference);
+    }
+}
+
+// The same with bounds for y that depend on x.
+template <class V> inline V subtract_saturated_from(V x, V y)
+{
+    if constexpr (sizeof(Lane<V>) == 4 && SIG5D_LEVEL >= 3) {
+        const V least = higher(x, all<V>(-1)) - static_cast<i32>(highest<i32>);
+        const V most = lower(x, all<V>(-1)) - static_cast<i32>(lowest_of<i32>);
+        return x - lower(higher(y, least), most);
     } else {
-        return as<V>(differences(bits(x), bits(y), Lane<V>{}));
+        return subtract_saturated(x, y);
     }
 }
 

@@ -5,7 +5,8 @@
 //     bits<T>          so that no result is larger than 2^bits in magnitude: larger scale factors give zeros;
 //     exact(x...)      the result: of elements (in px) a 64-bit integer, of vectors one of the representations below;
 //     saturated(x...)  optional, for vectors: the result with scale factor 0;
-//     quick<T>, quickly(x...)  optional, for vectors: a scale factor above 0, and the result with that one.
+//     quick<T, s>, quickly<s>(x...)  optional, for vectors: there is a shorter way to the result with scale factor s, 1
+//                      or 15.
 #pragma once
 #include "kernel/compact_loop.h"
 #include "kernel/lane_shifts.h"
@@ -46,7 +47,7 @@ template <class T, class Op> struct Scaled {
 // d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
 template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
 {
-    map_compact(n, d, Scaled<T, Op>{op, s}, a...);
+    map_compact<2>(n, d, Scaled<T, Op>{op, s}, a...);
 }
 
 #else
@@ -139,9 +140,9 @@ template <class V> inline auto saturated(Words<V> r)
     const V limit = all<V>(255);
     return as<Vec<u8, sizeof(V)>>(lower(r.even, limit) | lower(r.odd, limit) << 8);
 }
-template <class V> inline V scaled_word(V r, int s)
+template <class V> inline V scaled_word(V r, int s) // s > 1
 {
-    return ties_to_even(halved(down(r, s - 1)), (r & rest_mask<V>(s)) == half_unit<V>(s));
+    return ties_to_even(halved(shift_right_16<u16>(r, s - 1)), (r & rest_mask<V>(s)) == half_unit<V>(s));
 }
 template <class V> inline auto scaled(Words<V> r, int s)
 {
@@ -210,10 +211,11 @@ template <class Op> struct Scaled {
     int s;
     template <class V, class... W> V operator()(V x, W... y) const { return as<V>(scaled(op.exact(x, y...), s)); }
 };
-template <class Op> struct Quick {
+template <class Op, int s> struct Quick {
     Op op;
-    template <class V, class... W> V operator()(V x, W... y) const { return op.quickly(x, y...); }
+    template <class V, class... W> V operator()(V x, W... y) const { return op.template quickly<s>(x, y...); }
 };
+template <class Op, class T, int s> constexpr bool hasQuick = requires { requires Op::template quick<T, s>; };
 
 inline void clear(size_t bytes, u8* d)
 {
@@ -223,14 +225,17 @@ inline void clear(size_t bytes, u8* d)
 // d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
 template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
 {
-    if constexpr (requires { requires Op::template quick<T> > 0; })
-        if (s == Op::template quick<T>) return map_compact(n, d, Quick<Op>{op}, a...);
+    constexpr int light = sizeof(T) < 4 ? 4 : 2; // vectors in flight where operations on them are few
+    if constexpr (hasQuick<Op, T, 1>)
+        if (s == 1) return map_compact<light>(n, d, Quick<Op, 1>{op}, a...);
+    if constexpr (hasQuick<Op, T, 15>)
+        if (s == 15) return map_compact<light>(n, d, Quick<Op, 15>{op}, a...);
     if (s == 0)
-        map_compact(n, d, Saturated<Op>{op}, a...);
+        map_compact<light>(n, d, Saturated<Op>{op}, a...);
     else if (s < 0)
-        map_compact(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
+        map_compact<2>(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
     else if (s <= Op::template bits<T>)
-        map_compact(n, d, Scaled<Op>{op, s}, a...);
+        map_compact<2>(n, d, Scaled<Op>{op, s}, a...);
     else
         clear(n * sizeof(D), reinterpret_cast<u8*>(d));
 }

@@ -1,5 +1,6 @@
 sig5d_test(elementwise_bits signal/copy_test.cpp signal/logic_test.cpp signal/bit_string_test.cpp)
 sig5d_test(threshold signal/threshold_test.cpp)
+sig5d_test(convert signal/convert_test.cpp)
 
 # Kernels compiled for this test alone, which sets when they stream.
 foreach(width 16 32)

@@ -26,7 +26,7 @@ struct LimitedReciprocal {
     bool zeros = false;
     if (level == 0) level = 0;                  // not -0
     const f64 one = level != level ? level : 1; // nothing is larger than NaN
-    map_compact(static_cast<size_t>(n), d, LimitedReciprocal{level, one, zeros}, a);
+    map_compact<2>(static_cast<size_t>(n), d, LimitedReciprocal{level, one, zeros}, a);
     return zeros && level == 0 ? StsInvZero : StsNoErr;
 }
 
