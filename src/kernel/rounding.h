@@ -2,6 +2,7 @@
 // processor's rounding mode, which belongs to the caller's thread.
 #pragma once
 #include "kernel/lanes.h"
+#include "kernel/minmax.h"
 #include "kernel/power_of_two.h"
 #if SIG5D_LEVEL > 0
 #include <immintrin.h>
@@ -21,8 +22,7 @@ template <int bits, bool isSigned> struct Limits {
 template <class Bounds> inline i32 rounded(f64 x, Scale scale, int mode)
 {
     f64 y = x * scale.first * scale.second;
-    y = y > Bounds::low ? y : Bounds::low;
-    y = y < Bounds::high ? y : Bounds::high;
+    y = smaller(larger(y, Bounds::low), Bounds::high);
     const i32 whole = static_cast<i32>(y);
     const f64 rest = __builtin_fabs(y - whole);
     const bool tie = rest == 0.5, up = mode == NearestAway   ? rest >= 0.5
@@ -68,8 +68,7 @@ template <class F, class Bounds, bool even> struct Rounded {
         const V low = splatn<n>(static_cast<F>(Bounds::low)), top = splatn<n>(high);
         V y = x * factor;
         const V unlimited = y;
-        y = y > low ? y : low;
-        y = y < top ? y : top;
+        y = smaller(larger(y, low), top); // NaN becomes the lower limit
         if constexpr (!even) y = y + with_sign_of(y, bias);
         auto whole = even ? nearest(y) : truncated(y);
         if constexpr (high != Bounds::high)

@@ -2,6 +2,7 @@
 #include "frame/entry.h"
 #include "kernel/complex_loop.h"
 #include "kernel/loops.h"
+#include "kernel/minmax.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -67,9 +68,9 @@ template <class V> inline Scaled<V> scaled(Parts<V> x)
 {
     const V zero = all_lanes<V>(0), one = all_lanes<V>(1), infinity = all_lanes<V>(__builtin_inf());
     const V re = magnitude(x.re), im = magnitude(x.im);
-    V most = re > im ? re : im;
+    V most = larger(re, im);
     const auto infinite = most == infinity;
-    most = most > all_lanes<V>(0x1p-1022) ? most : all_lanes<V>(0x1p-1022);
+    most = larger(most, all_lanes<V>(0x1p-1022));
     const V scale = infinite ? zero : to_one_digit(most);
     return {infinite ? with_sign(re == infinity ? one : zero, x.re) : x.re * scale,
             infinite ? with_sign(im == infinity ? one : zero, x.im) : x.im * scale, scale};

@@ -2,6 +2,7 @@
 // Comparisons are written so that a NaN meets none of them and passes.
 #pragma once
 #include "kernel/loops.h"
+#include "kernel/minmax.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -11,19 +12,11 @@ template <class V, class T> inline V all_lanes(T x) { return splatn<sizeof(V) / 
 
 template <class T> struct LimitBelow {
     T level;
-    template <class V> V operator()(V x) const
-    {
-        const V l = all_lanes<V>(level);
-        return x < l ? l : x;
-    }
+    template <class V> V operator()(V x) const { return larger(all_lanes<V>(level), x); }
 };
 template <class T> struct LimitAbove {
     T level;
-    template <class V> V operator()(V x) const
-    {
-        const V l = all_lanes<V>(level);
-        return x > l ? l : x;
-    }
+    template <class V> V operator()(V x) const { return smaller(all_lanes<V>(level), x); }
 };
 
 // Levels of magnitudes are not negative. No magnitude is formed, so that the lowest integer needs no wider type.
@@ -32,8 +25,7 @@ template <class T> struct LimitMagnitudeBelow {
     template <class V> V operator()(V x) const
     {
         const V up = all_lanes<V>(level), down = all_lanes<V>(static_cast<T>(-level));
-        const V raised = x < up ? up : x, lowered = x > down ? down : x;
-        return x < all_lanes<V>(T{}) ? lowered : raised;
+        return x < all_lanes<V>(T{}) ? smaller(down, x) : larger(up, x);
     }
 };
 template <class T> struct LimitMagnitudeAbove {
@@ -41,8 +33,7 @@ template <class T> struct LimitMagnitudeAbove {
     template <class V> V operator()(V x) const
     {
         const V up = all_lanes<V>(level), down = all_lanes<V>(static_cast<T>(-level));
-        x = x > up ? up : x;
-        return x < down ? down : x;
+        return larger(down, smaller(up, x));
     }
 };
 
