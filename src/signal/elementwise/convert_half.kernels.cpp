@@ -3,12 +3,14 @@
 #include "frame/entry.h"
 #include "kernel/convert_loop.h"
 #include "kernel/rounding.h"
+#include "kernel/saturate.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // Half and single precision with the same significand differ by 13 bits in its place and by 112 in the exponent.
-constexpr u32 rebias = 112u << 23, halfInfinity = 0x7C00, singleInfinity = 0x7F800000, singleSign = 0x80000000,
+constexpr i32 halfInfinity = 0x7C00;
+constexpr u32 rebias = 112u << 23, singleInfinity = 0x7F800000, singleSign = 0x80000000,
               leastNormal = 113u << 23; // of half precision: 2^-14
 
 // Single precision to half: magnitudes by their bits, as integers.
@@ -83,26 +85,22 @@ void to_half_plain(const f32* a, f16* d, int n, int mode)
 #if SIG5D_LEVEL > 0
 
 template <bool even> struct ToHalf {
-    u32 carry; // what rounding adds to normal numbers, besides the last bit if "even"
+    i32 carry; // what rounding adds to normal numbers, besides the last bit if "even"
     f32 bias;  // what rounding adds to small ones
 
-    // Without the sign.
+    // Without the sign. Where a number is normal the first way gives more than the second, otherwise less.
     template <class V> auto magnitudes(V bits) const
     {
-        constexpr int n = sizeof(V) / 4;
-        using U = Vec<u32, n>;
+        constexpr i32 least = static_cast<i32>(leastNormal), infinite = static_cast<i32>(singleInfinity);
+        using F = Vec<f32, sizeof(V) / 4>;
         const V magnitude = bits & 0x7FFFFFFF;
-        const U r = reinterpret_cast<U>(magnitude) - rebias;
-        U odd = {};
-        if constexpr (even) odd = r >> 13 & 1;
-        V h = reinterpret_cast<V>((r + odd + carry) >> 13);
-        const auto y =
-            reinterpret_cast<Vec<f32, n>>(magnitude < static_cast<i32>(leastNormal) ? magnitude : V{}) * 0x1p24f;
+        V r = magnitude - static_cast<i32>(rebias);
+        if constexpr (even) r += r >> 13 & 1;
+        const V normal = (r + carry) >> 13;
+        const F y = reinterpret_cast<F>(lower(magnitude, all<V>(least))) * 0x1p24f;
         const V small = even ? nearest(y) : truncated(y + bias);
-        h = h < static_cast<i32>(halfInfinity) ? h : V{} + static_cast<i32>(halfInfinity);
-        h = magnitude < static_cast<i32>(leastNormal) ? small : h;
-        const V special = (magnitude >> 13 & 0x3FF) | (0x200 + static_cast<i32>(halfInfinity));
-        return magnitude > static_cast<i32>(singleInfinity) ? special : h;
+        const V h = lower(higher(normal, small), all<V>(halfInfinity));
+        return h | (((magnitude >> 13 & 0x3FF) | 0x200) & (magnitude > infinite));
     }
 
     template <int n> auto to(const f32* p) const
@@ -132,7 +130,7 @@ void convert(const f32* a, f16* d, int n, int mode)
     if (mode != NearestEven && rounds_to_nearest())
         return convert_compact(
             static_cast<size_t>(n), a, to,
-            ToHalf<false>{mode == NearestAway ? 0x1000u : 0, mode == NearestAway ? belowHalf<f32> : 0});
+            ToHalf<false>{mode == NearestAway ? 0x1000 : 0, mode == NearestAway ? belowHalf<f32> : 0});
 #endif
     to_half_plain(a, d, n, mode);
 }

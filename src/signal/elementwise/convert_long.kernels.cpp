@@ -58,67 +58,53 @@ void convert_plain(const f64* a, i64* d, int n, int mode, Scale scale)
     for (int i = 0; i < n; ++i) d[i] = rounded_long(a[i], scale, mode);
 }
 
+#if SIG5D_LEVEL >= 3
+
+inline __m128d integral(__m128d x, int) { return _mm_round_pd(x, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
+inline __m128d integral(__m128d x) { return _mm_round_pd(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC); }
+inline __m128d floor(__m128d x) { return _mm_floor_pd(x); }
 #if SIG5D_LEVEL >= 5
+inline __m256d integral(__m256d x, int) { return _mm256_round_pd(x, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
+inline __m256d integral(__m256d x) { return _mm256_round_pd(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC); }
+inline __m256d floor(__m256d x) { return _mm256_floor_pd(x); }
+#endif
 
-inline Vec<u64> left(Vec<u64> x, Vec<u64> count) // counts of 64 and more give 0
-{
-    return reinterpret_cast<Vec<u64>>(
-        _mm256_sllv_epi64(reinterpret_cast<__m256i>(x), reinterpret_cast<__m256i>(count)));
-}
-inline Vec<u64> right(Vec<u64> x, Vec<u64> count)
-{
-    return reinterpret_cast<Vec<u64>>(
-        _mm256_srlv_epi64(reinterpret_cast<__m256i>(x), reinterpret_cast<__m256i>(count)));
-}
+// A rounded double is split into two of 32 bits, whose integers are the last bits of sums. All of that is exact.
+template <bool even> struct RoundedLong {
+    f64 factor, bias; // bias: unless "even", added in magnitude before truncation
 
-// The same for four numbers. What is cut off is compared with "half" of a unit or, where that is not enough for a tie,
-// one less: with even results, "odd" decides.
-struct RoundedLong {
-    f64 factor;
-    u64 up;  // 0: toward zero
-    u64 odd; // 1: ties to even, 0: away from zero
-
-    Vec<i64> rounded(Vec<f64> x) const
+    template <class V> auto rounded(V x) const
     {
-        const Vec<f64> y = x * factor;
-        const auto bits = reinterpret_cast<Vec<u64>>(y);
-        const Vec<u64> m = (bits & significand) | leading;
-        const Vec<u64> down = 1075 - (bits >> 52 & 0x7FF); // negative ones are large counts
-        const Vec<u64> floor = right(m, down);
-        const Vec<u64> whole = floor | left(m, -down);
-        const Vec<u64> unit = left(splat(u64(1)), down), half = unit >> 1;
-        const Vec<u64> rest = m & (unit - 1) & reinterpret_cast<Vec<u64>>(unit != 0);
-        const Vec<u64> tie = half - 1 + (odd & ~floor & 1);
-        const auto above =
-            reinterpret_cast<Vec<u64>>(reinterpret_cast<Vec<i64>>(rest) > reinterpret_cast<Vec<i64>>(tie));
-        const Vec<u64> magnitude = whole + (above & reinterpret_cast<Vec<u64>>(half != 0) & up);
-        const auto sign = reinterpret_cast<Vec<u64>>(reinterpret_cast<Vec<i64>>(bits) < 0);
-        const auto value = reinterpret_cast<Vec<i64>>((magnitude ^ sign) - sign);
-        constexpr i64 most = 0x7FFFFFFFFFFFFFFF;
-        const auto limited = y >= limit ? splat(most) : value;
-        return y > -limit ? limited : splat(-most - 1);
+        constexpr int n = sizeof(V) / sizeof(f64);
+        using I = Vec<i64, n>;
+        using U = Vec<u64, n>;
+        constexpr f64 most = 0x1.fffffffffffffp62; // the largest double below the limit
+        const V scaled = x * factor;
+        V y = smaller(larger(scaled, splatn<n>(-limit)), splatn<n>(most));
+        if constexpr (even)
+            y = integral(y, 0);
+        else
+            y = integral(y + Rounded<f64, Limits<32, true>, false>::with_sign_of(y, bias));
+        const V high = floor(y * 0x1p-32), low = y - high * 0x1p32;
+        const U highBits = reinterpret_cast<U>(high + 0x1.8p52) << 32,
+                lowBits = reinterpret_cast<U>(low + 0x1p52) ^ bits52;
+        const U beyond = reinterpret_cast<U>(scaled > splatn<n>(most)) >> 1; // all bits but the sign
+        return reinterpret_cast<I>((highBits + lowBits) | beyond);
     }
-    template <int n> auto to(const f64* p) const
-    {
-        if constexpr (n == 4) {
-            return rounded(loadn<4>(p));
-        } else {
-            const Vec<f64, 2> x = load_lanes<n>(p);
-            const Vec<i64> y = rounded(Vec<f64>{x[0], x[1], x[0], x[1]});
-            return Vec<i64, 2>{y[0], y[1]};
-        }
-    }
+    template <int n> auto to(const f64* p) const { return rounded(load_lanes<n>(p)); }
 };
 
 #endif
 
-void convert(const f64* a, i64* d, int n, int mode, int s)
+[[gnu::noinline]] void convert(const f64* a, i64* d, int n, int mode, int s)
 {
     const Scale scale(s);
-#if SIG5D_LEVEL >= 5
-    if (scale.simple())
-        return convert_compact(static_cast<size_t>(n), a, d,
-                               RoundedLong{scale.first, mode != TowardZero, mode == NearestEven});
+#if SIG5D_LEVEL >= 3
+    if (scale.simple() && rounds_to_nearest()) {
+        const size_t count = static_cast<size_t>(n);
+        if (mode == NearestEven) return convert_compact(count, a, d, RoundedLong<true>{scale.first, 0});
+        return convert_compact(count, a, d, RoundedLong<false>{scale.first, mode == NearestAway ? belowHalf<f64> : 0});
+    }
 #endif
     convert_plain(a, d, n, mode, scale);
 }

@@ -2,7 +2,7 @@
 #include "frame/entry.h"
 #include "kernel/convert_loop.h"
 #include "kernel/lanes.h"
-#include "kernel/power_of_two.h"
+#include "kernel/rounding.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -21,11 +21,48 @@ struct Scaled {
 #endif
 };
 
+#if SIG5D_LEVEL >= 3
+
+inline Vec<i64, 2> low_64(__m128i x) { return reinterpret_cast<Vec<i64, 2>>(_mm_cvtepi16_epi64(x)); }
+#if SIG5D_LEVEL >= 5
+inline Vec<i64, 4> all_64(__m128i x) { return reinterpret_cast<Vec<i64, 4>>(_mm256_cvtepi16_epi64(x)); }
+#endif
+
+// The integer added to the last bits of a double whose last bit is worth the factor, less that double: two additions
+// instead of a conversion and a product.
+struct ScaledShort {
+    f64 offset;
+    template <int n> auto to(const i16* p) const
+    {
+        const __m128i x = bits128(load_part<static_cast<int>(n * sizeof(i16))>(p));
+#if SIG5D_LEVEL >= 5
+        if constexpr (n == 4)
+            return value(all_64(x));
+        else
+#endif
+            return value(low_64(x));
+    }
+    template <class V> auto value(V x) const
+    {
+        using F = Vec<f64, sizeof(V) / 8>;
+        return reinterpret_cast<F>(x + reinterpret_cast<V>(splatn<sizeof(V) / 8>(offset))) - offset;
+    }
+};
+
+#endif
+
 template <class S> [[gnu::noinline]] void convert(const S* a, f64* d, int n, int s)
 {
     const Scale scale(s);
+    const size_t count = static_cast<size_t>(n);
     if (!scale.simple()) return convert_far(a, d, n, scale);
-    convert_all(static_cast<size_t>(n), a, d, Scaled{scale.first});
+#if SIG5D_LEVEL >= 3
+    // Rounding downward, a difference of zero would be -0.
+    if constexpr (sizeof(S) == 2)
+        if (s > -900 && s < 900 && rounds_to_nearest())
+            return convert_all(count, a, d, ScaledShort{0x1.8p52 * scale.first});
+#endif
+    convert_all(count, a, d, Scaled{scale.first});
 }
 
 } // namespace
