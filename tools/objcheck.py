@@ -50,7 +50,7 @@ def level_needed(mnemonic, operands):
         integer_ymm = "%ymm" in operands and mnemonic.startswith(("vp", "vmpsadbw", "vmovntdqa")) and not re.match(
             r"vpermil|vptest|vperm2f128", mnemonic
         )
-        register_broadcast = re.match(r"vbroadcasts[sd]", mnemonic) and "(" not in operands
+        register_broadcast = re.match(r"vbroadcasts[sd]", mnemonic) and operands.startswith("%")
         return 5 if IS_AVX2.match(mnemonic) or integer_ymm or register_broadcast else 4
     for level, words in LEGACY:
         if words.match(mnemonic):
