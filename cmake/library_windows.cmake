@@ -13,7 +13,7 @@ target_link_options(
     sig5d PRIVATE -nostartfiles -nostdlib -Wl,-e,_sig5d_entry_point@12 -Wl,--image-base,0x63c00000
     -Wl,--no-insert-timestamp -Wl,--dynamicbase,--nxcompat,--no-seh -Wl,--disable-auto-import -Wl,--gc-sections -s
     -Wl,-Map,${CMAKE_BINARY_DIR}/Numlab.Sig5d.map
-    ${SIG5D_GENERATED}/exports_link.def)
+    -Wl,-T,${CMAKE_CURRENT_LIST_DIR}/no_unwind_tables.ld ${SIG5D_GENERATED}/exports_link.def)
 target_link_libraries(sig5d PRIVATE gcc msvcrt kernel32)
 add_custom_command(
     TARGET sig5d

@@ -906,6 +906,94 @@ IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
    (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
 IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
 
+/* ---- FIR filters ---- */
+
+/* The bytes of a specification and of a work buffer for a single-rate filter of tapsLen taps. tapsType is 19 for
+   64f and 20 for 64fc; 13 and 14 (32f and 32fc) are answered too, though no filter of these types exists. */
+IppStatus SIG5D_STDCALL ippsFIRSRGetSize(int tapsLen, int tapsType, int* pSpecSize, int* pBufSize);
+
+/* Fills a block of the size that ippsFIRSRGetSize gave, at any address, with what filtering needs. algType 1
+   chooses the direct form, 2 the method by FFT, 0 leaves the choice to each call: FFT for at least 124 taps and at
+   least 640 samples. */
+IppStatus SIG5D_STDCALL ippsFIRSRInit_64f(const Ipp64f* pTaps, int tapsLen, int algType, IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_CDECL ippsFIRSRInit_64f_Idx(const Ipp64f* pTaps, int tapsIdx, int tapsLen, int algType,
+        IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_STDCALL ippsFIRSRInit_64fc(const Ipp64fc* pTaps, int tapsLen, int algType, IppsFIRSpec_64fc* pSpec);
+IppStatus SIG5D_CDECL ippsFIRSRInit_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, int tapsLen, int algType,
+        IppsFIRSpec_64fc* pSpec);
+
+/* pDst[n] = sum over k = 0..tapsLen-1 of taps[k] * x[n-k]. Filters the next numIters samples of a stream. x[n] is
+   pSrc[n]; before it come the tapsLen-1 samples of pDlySrc, oldest first, or zeros when it is null. pDlyDst, when
+   not null, receives the last tapsLen-1 samples for the next call. */
+IppStatus SIG5D_STDCALL ippsFIRSR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int numIters, const IppsFIRSpec_64f* pSpec,
+        const Ipp64f* pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRSR_64f_I_Idx(Ipp64f* pSrcDst, int idx, int numIters, IppsFIRHandle_64f* pHandle);
+IppStatus SIG5D_CDECL ippsFIRSR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
+        IppsFIRHandle_64f* pHandle);
+IppStatus SIG5D_STDCALL ippsFIRSR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int numIters, const IppsFIRSpec_64fc*
+        pSpec, const Ipp64fc* pDlySrc, Ipp64fc* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRSR_64fc_I_Idx(Ipp64fc* pSrcDst, int idx, int numIters, IppsFIRHandle_64fc* pHandle);
+IppStatus SIG5D_CDECL ippsFIRSR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int numIters,
+        IppsFIRHandle_64fc* pHandle);
+
+/* The bytes of a specification and of a work buffer for a multi-rate filter. With both factors 1 the answer is
+   that of ippsFIRSRGetSize. */
+IppStatus SIG5D_STDCALL ippsFIRMRGetSize(int tapsLen, int upFactor, int downFactor, int tapsType, int* pSpecSize, int*
+        pBufSize);
+
+/* Fills a block of the size that ippsFIRMRGetSize gave, at any address. With both factors 1 the block is a single-
+   rate specification of automatic algorithm, which ippsFIRSR takes too. */
+IppStatus SIG5D_STDCALL ippsFIRMRInit_64f(const Ipp64f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor,
+        int downPhase, IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_CDECL ippsFIRMRInit_64f_Idx(const Ipp64f* pTaps, int tapsIdx, int tapsLen, int upFactor, int upPhase,
+        int downFactor, int downPhase, IppsFIRSpec_64f* pSpec);
+IppStatus SIG5D_STDCALL ippsFIRMRInit_64fc(const Ipp64fc* pTaps, int tapsLen, int upFactor, int upPhase, int
+        downFactor, int downPhase, IppsFIRSpec_64fc* pSpec);
+IppStatus SIG5D_CDECL ippsFIRMRInit_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, int tapsLen, int upFactor, int
+        upPhase, int downFactor, int downPhase, IppsFIRSpec_64fc* pSpec);
+
+/* pDst[j] = sum over i of taps[j*downFactor + downPhase - upPhase - i*upFactor] * x[i]. Up-samples by upFactor
+   (sample i at i*upFactor + upPhase, zeros elsewhere), filters, and keeps the samples j*downFactor + downPhase. An
+   iteration takes downFactor samples and gives upFactor. The history is that of ippsFIRSR with
+   (tapsLen+upFactor-1)/upFactor samples. */
+IppStatus SIG5D_STDCALL ippsFIRMR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int numIters, const IppsFIRSpec_64f* pSpec,
+        const Ipp64f* pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRMR_64f_I_Idx(Ipp64f* pSrcDst, int idx, int numIters, IppsFIRHandle_64f* pHandle);
+IppStatus SIG5D_CDECL ippsFIRMR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
+        IppsFIRHandle_64f* pHandle);
+IppStatus SIG5D_STDCALL ippsFIRMR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int numIters, const IppsFIRSpec_64fc*
+        pSpec, const Ipp64fc* pDlySrc, Ipp64fc* pDlyDst, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsFIRMR_64fc_I_Idx(Ipp64fc* pSrcDst, int idx, int numIters, IppsFIRHandle_64fc* pHandle);
+IppStatus SIG5D_CDECL ippsFIRMR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int numIters,
+        IppsFIRHandle_64fc* pHandle);
+
+/* Allocates a single-rate filter with its delay line (zeros) and buffer, and initialises it; to be released by
+   ippsFIRSRFree_Idx. */
+IppStatus SIG5D_CDECL ippsFIRSRInitAlloc_64f_Idx(const Ipp64f* pTaps, int tapsIdx, int tapsLen, int algType,
+        IppsFIRHandle_64f** ppHandle);
+IppStatus SIG5D_CDECL ippsFIRSRInitAlloc_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, int tapsLen, int algType,
+        IppsFIRHandle_64fc** ppHandle);
+
+/* Allocates a multi-rate filter with its delay line (zeros) and buffer, and initialises it; to be released by
+   ippsFIRMRFree_Idx. */
+IppStatus SIG5D_CDECL ippsFIRMRInitAlloc_64f_Idx(const Ipp64f* pTaps, int tapsIdx, int tapsLen, int upFactor, int
+        upPhase, int downFactor, int downPhase, IppsFIRHandle_64f** ppHandle);
+IppStatus SIG5D_CDECL ippsFIRMRInitAlloc_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, int tapsLen, int upFactor, int
+        upPhase, int downFactor, int downPhase, IppsFIRHandle_64fc** ppHandle);
+
+/* Releases what ippsFIRSRInitAlloc allocated; null is ignored. */
+void SIG5D_CDECL ippsFIRSRFree_Idx(void* pHandle);
+
+/* Releases what ippsFIRMRInitAlloc allocated; null is ignored. */
+void SIG5D_CDECL ippsFIRMRFree_Idx(void* pHandle);
+
+/* Filters one sample: ippsFIRSR with numIters 1. A delay line that is null stays null whatever its index; the
+   buffer's index counts bytes. */
+IppStatus SIG5D_CDECL ippsFIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, const IppsFIRSpec_64f* pSpec, const Ipp64f*
+        pDlySrc, int dlySrcIdx, Ipp64f* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
+IppStatus SIG5D_CDECL ippsFIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, const IppsFIRSpec_64fc* pSpec, const Ipp64fc*
+        pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
+
 #ifdef __cplusplus
 }
 #endif

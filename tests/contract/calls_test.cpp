@@ -31,6 +31,7 @@ void probe(const Function& f, support::Stage& stage)
             const auto answer = stage.call(a, support::entryOf(f), phase);
             EXPECT_EQ(answer.intrusion, "") << support::nameOf(f) << " phase " << phase;
             release(f, answer);
+            registry::release(a);
             if (slow(f)) break;
             for (auto& v : a.values) v.p = nullptr; // the way out through the first check
             if (f.checkCount) {

@@ -14,4 +14,5 @@ if(NOT SIG5D_STATIC AND NOT SIG5D_SANITIZE)
              COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/image_test.py --image $<TARGET_FILE:sig5d>
                      --map ${CMAKE_BINARY_DIR}/Numlab.Sig5d.map --commands ${CMAKE_BINARY_DIR}/compile_commands.json
                      --version ${PROJECT_VERSION})
+    add_test(NAME ${build}/reproducible COMMAND ${CMAKE_SOURCE_DIR}/tools/check-reproducible ${build})
 endif()

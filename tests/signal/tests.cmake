@@ -16,3 +16,8 @@ target_compile_options(sig5d_stream32 PRIVATE ${SIG5D_FLAGS_h9})
 sig5d_test(stream kernel/stream_test.cpp $<TARGET_OBJECTS:sig5d_stream16> $<TARGET_OBJECTS:sig5d_stream32>)
 target_include_directories(stream_test PRIVATE ${CMAKE_SOURCE_DIR}/src ${SIG5D_GENERATED})
 target_compile_definitions(stream_test PRIVATE $<$<BOOL:${SIG5D_STATIC}>:SIG5D_STATIC>)
+
+sig5d_test(fft signal/processing/fft_test.cpp)
+target_link_libraries(fft_test PRIVATE sig5d_test_internal)
+
+sig5d_test(fir signal/fir_single_test.cpp signal/fir_multi_test.cpp frame/fir_handles_test.cpp)

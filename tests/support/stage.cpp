@@ -1,4 +1,5 @@
 #include "support/stage.h"
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -73,7 +74,8 @@ void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* sh
         if (arg.kind == Kind::scalar || arg.kind == Kind::index) continue;
         a.values[i].p = nullptr;
         if (a.null[i]) continue;
-        const size_t bytes = a.content[i].size();
+        size_t bytes = a.content[i].size();
+        if (shared && shared->source == i) bytes = std::max(bytes, a.content[shared->destination].size());
         GuardedRegion& r = region(static_cast<size_t>(i), bytes + 2 * canaryBytes + 4096);
         size_t start = place.atEnd ? r.size() - bytes - static_cast<size_t>(place.offset) : static_cast<size_t>(place.offset);
         if (arg.kind == Kind::opaque) start = start / 64 * 64; // records keep their alignment when they move
@@ -85,7 +87,7 @@ void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* sh
         const bool writable = !arg.isConst || (shared && shared->source == i);
         a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + start;
         std::memset(spot.low, canary, static_cast<size_t>(spot.high - spot.low));
-        if (bytes) std::memcpy(spot.own, a.content[i].data(), bytes);
+        if (bytes) std::memcpy(spot.own, a.content[i].data(), a.content[i].size());
     }
     if (shared) {
         spots_[shared->destination] = spots_[shared->source];
@@ -125,7 +127,7 @@ std::string Stage::changed(const registry::Arguments& a) const
 {
     for (size_t i = 0; i < spots_.size(); ++i) {
         const Spot& s = spots_[i];
-        if (s.own && s.bytes && std::memcmp(s.own, a.content[i].data(), s.bytes)) return a.f.args[i].name;
+        if (s.own && std::memcmp(s.own, a.content[i].data(), a.content[i].size())) return a.f.args[i].name;
     }
     return strayWrite(a);
 }

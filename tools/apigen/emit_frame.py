@@ -1,4 +1,4 @@
-"""Writes the small tables of the frame: status codes and messages, the list of sources for the build."""
+"""Writes the small tables of the frame: status codes and messages, opaque records, the list of sources for the build."""
 
 
 def short(name):
@@ -19,4 +19,9 @@ def frame_files(api):
         sources.append(f'list(APPEND {kind} "{path}")\n')
         if bodies:
             sources.append(f'set(SIG5D_BODIES_{path.replace("/", "_")} {" ".join(bodies)})\n')
-    return {"statuses.inc": codes, "status_table.inc": "".join(rows), "sources.cmake": "".join(sources)}
+    return {
+        "statuses.inc": codes,
+        "status_table.inc": "".join(rows),
+        "opaque_types.inc": "".join(f"struct {name};\n" for name in api.opaque),
+        "sources.cmake": "".join(sources),
+    }

@@ -42,6 +42,12 @@ def over_values(expression, args):
     return re.sub(r"((?<![\w\])])\*)?(?<![.\w>])\b([A-Za-z_]\w*)\b", value, expression)
 
 
+def known(expression, f):
+    """Whether the arguments alone give the value; otherwise only the fixture that builds the arguments knows it."""
+    names = {a.name for a in f.args} | {"long", "int", "unsigned"}
+    return not f.fixture or set(re.findall(r"[A-Za-z_]\w*", expression)) <= names
+
+
 def quoted(text):
     return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
@@ -52,7 +58,8 @@ def table(kind, name, rows):
 
 def argument(a, args, pool, f, number, out):
     element = ELEMENTS.get(a.type.suffix, a.type.kernel) if a.type else "none"
-    extent = pool.add("long long", f"(long long)({over_values(a.extent, args)})") if a.extent and a.pointer else "nullptr"
+    given = a.extent and a.pointer and known(a.extent, f)
+    extent = pool.add("long long", f"(long long)({over_values(a.extent, args)})") if given else "nullptr"
     domain, count = "nullptr", 0
     if a.name in f.domains:
         values = [pool.add("double", f"double({over_values(v, args)})") for v in f.domains[a.name]]

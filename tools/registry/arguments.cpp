@@ -48,8 +48,8 @@ Value chooseScalar(const Arg& arg, const Value* values, Random& random, long lon
     } else if (arg.element != Element::none) {
         v = scalar(random, arg.element, pattern);
     } else {
-        static const int candidates[] = {0, 1, 2, 3, 7, 8, 15, 16, 17, 31, 32, 33, 100, -1, -2, -8, -16, -31, -32,
-                                         -33, 2147483647, -2147483647 - 1};
+        static const int candidates[] = {0,  1,   2,  3,  7,  8,   15,  16,  17,  31,         32,
+                                         33, 100, -1, -2, -8, -16, -31, -32, -33, 2147483647, -2147483647 - 1};
         v.i = candidates[random.below(sizeof candidates / sizeof *candidates)];
     }
     return v;
@@ -117,6 +117,11 @@ Arguments build(const Function& f, Random& random, long long length, Pattern pat
     }
     if (fixtureOf(f).contents) fixtureOf(f).contents(a, random);
     return a;
+}
+
+void release(const Arguments& a)
+{
+    if (fixtureOf(a.f).release) fixtureOf(a.f).release(a);
 }
 
 } // namespace registry

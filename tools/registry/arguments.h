@@ -27,12 +27,16 @@ struct Fixture {
     std::function<void(Arguments&, Random&, long long length)> scalars;
     std::function<void(Arguments&)> extents;
     std::function<void(Arguments&, Random&)> contents;
+    std::function<void(const Arguments&)> release; // after a call: what it allocated
 };
 void addFixture(const char* name, Fixture fixture);
 
 // Scalars that pass all checks, arrays as long as "length" asks for (lengths in extents: that value or, where there are
 // several, values up to it), filled with the pattern. What is only written holds "prefill" again and again.
 Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill);
+
+// Gives back what a call with these arguments allocated.
+void release(const Arguments& a);
 
 // Scalars only; false when no valid ones were found.
 bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern);

@@ -1,0 +1,23 @@
+// One number in all lanes of a vector, by one load; left to itself the compiler takes up to three shuffles.
+#pragma once
+#include "kernel/vec.h"
+#if defined(__SSE3__) && SIG5D_LEVEL > 0
+#include <pmmintrin.h>
+#endif
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+template <int w> [[gnu::always_inline]] inline Vec<f64, w> broadcast(const f64& x)
+{
+#ifdef __AVX__
+    if constexpr (w == 4) return __builtin_ia32_vbroadcastsd256(&x);
+#endif
+#ifdef __SSE3__
+    if constexpr (w == 2) return _mm_loaddup_pd(&x);
+#endif
+    return splatn<w>(x);
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
