@@ -21,3 +21,19 @@ sig5d_test(fft signal/processing/fft_test.cpp)
 target_link_libraries(fft_test PRIVATE sig5d_test_internal)
 
 sig5d_test(fir signal/fir_single_test.cpp signal/fir_multi_test.cpp frame/fir_handles_test.cpp)
+
+# Conversions and complex thresholds in the same way; the narrow body is that of SSSE3, which packs bytes.
+foreach(width 16 32)
+    set(elementwise ${CMAKE_SOURCE_DIR}/src/signal/elementwise)
+    add_library(sig5d_convertstream${width} OBJECT ${elementwise}/convert_24.kernels.cpp
+                ${elementwise}/convert_round.kernels.cpp ${elementwise}/threshold_complex.kernels.cpp)
+    target_link_libraries(sig5d_convertstream${width} PRIVATE sig5d_product)
+endforeach()
+target_compile_definitions(sig5d_convertstream16 PRIVATE SIG5D_VARIANT=convertstream16 SIG5D_LEVEL=2)
+target_compile_options(sig5d_convertstream16 PRIVATE ${SIG5D_FLAGS_s8})
+target_compile_definitions(sig5d_convertstream32 PRIVATE SIG5D_VARIANT=convertstream32 SIG5D_LEVEL=5)
+target_compile_options(sig5d_convertstream32 PRIVATE ${SIG5D_FLAGS_h9})
+sig5d_test(convert_stream kernel/convert_stream_test.cpp $<TARGET_OBJECTS:sig5d_convertstream16>
+           $<TARGET_OBJECTS:sig5d_convertstream32>)
+target_include_directories(convert_stream_test PRIVATE ${CMAKE_SOURCE_DIR}/src ${SIG5D_GENERATED})
+target_compile_definitions(convert_stream_test PRIVATE $<$<BOOL:${SIG5D_STATIC}>:SIG5D_STATIC>)
