@@ -13,11 +13,6 @@ constexpr i32 halfInfinity = 0x7C00;
 constexpr u32 rebias = 112u << 23, singleInfinity = 0x7F800000, singleSign = 0x80000000,
               leastNormal = 113u << 23; // of half precision: 2^-14
 
-// Single precision to half: magnitudes by their bits, as integers.
-// Normal numbers: half a unit of the last place that stays, or what the mode wants instead, is added to the bits before
-// the others are cut off; a carry goes on into the exponent and from the largest one to infinity.
-// Below 2^-14 the result is a multiple of 2^-24: rounded like any other integer.
-
 #if SIG5D_LEVEL == 0
 
 struct FromHalf {
@@ -47,7 +42,8 @@ template <class V> inline auto from_half(V h)
     const V small = reinterpret_cast<V>(reinterpret_cast<Signed>(magnitude) < 0x400);
     const V x = (magnitude << 13) + rebias + (special & rebias) + (small & (1u << 23));
     const auto y = reinterpret_cast<Vec<f32, n>>(x) - reinterpret_cast<Vec<f32, n>>(small & leastNormal);
-    return reinterpret_cast<Vec<f32, n>>(reinterpret_cast<V>(y) | sign); // and the difference made NaNs quiet
+    // The difference made NaNs quiet; one of zero would be -0 where the thread rounds downward.
+    return reinterpret_cast<Vec<f32, n>>((reinterpret_cast<V>(y) & ~singleSign) | sign);
 }
 
 struct FromHalf {
@@ -59,6 +55,11 @@ struct FromHalf {
 };
 
 #endif
+
+// Single precision to half: magnitudes by their bits, as integers.
+// Normal numbers: half a unit of the last place that stays, or what the mode wants instead, is added to the bits before
+// the others are cut off; a carry goes on into the exponent and from the largest one to infinity.
+// Below 2^-14 the result is a multiple of 2^-24: rounded like any other integer.
 
 // The plain form, for any mode.
 inline f16 half_of(f32 x, int mode)
