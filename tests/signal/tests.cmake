@@ -37,3 +37,6 @@ sig5d_test(convert_stream kernel/convert_stream_test.cpp $<TARGET_OBJECTS:sig5d_
            $<TARGET_OBJECTS:sig5d_convertstream32>)
 target_include_directories(convert_stream_test PRIVATE ${CMAKE_SOURCE_DIR}/src ${SIG5D_GENERATED})
 target_compile_definitions(convert_stream_test PRIVATE $<$<BOOL:${SIG5D_STATIC}>:SIG5D_STATIC>)
+if(NOT SIG5D_STATIC)
+    target_link_libraries(convert_stream_test PRIVATE $<$<BOOL:${WIN32}>:ssp>)
+endif()
