@@ -78,6 +78,8 @@ std::vector<Value> candidates(const Job& job, int i)
     std::vector<double> numbers;
     if (!std::strcmp(a.name, job.chosenArgument)) {
         numbers = {static_cast<double>(job.chosenValue)};
+    } else if (!std::strcmp(a.name, "rndMode")) {
+        numbers = {1}; // what callers use, though not the largest
     } else {
         for (int k = 0; k < a.domainSize; ++k) numbers.push_back(a.domain[k](job.values.data()));
         std::stable_partition(numbers.begin(), numbers.end(), [](double x) { return x > 1; });

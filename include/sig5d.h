@@ -705,6 +705,110 @@ IppStatus SIG5D_STDCALL ippsAbs_32s_I(Ipp32s* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
 
+/* ---- Type conversions ---- */
+
+/* pDst[i] = pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsConvert_16f32f(const Ipp16f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16f32f_Idx(const Ipp16f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s32f(const Ipp16s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16s32f_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s32s(const Ipp16s* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16s32s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s64f_Sfs(const Ipp16s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_16s64f_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_16s8s_Sfs(const Ipp16s* pSrc, Ipp8s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_16s8s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_16u32f(const Ipp16u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16u32f_Idx(const Ipp16u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32s(const Ipp8u* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24u32u(const Ipp8u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f16f(const Ipp32f* pSrc, Ipp16f* pDst, int len, int rndMode);
+IppStatus SIG5D_CDECL ippsConvert_32f16f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16f* pDst, int dstIdx, int len, int
+        rndMode);
+IppStatus SIG5D_STDCALL ippsConvert_32f16s_Sfs(const Ipp32f* pSrc, Ipp16s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f16s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f16u_Sfs(const Ipp32f* pSrc, Ipp16u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f16u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f24s_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f24u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f32s_Sfs(const Ipp32f* pSrc, Ipp32s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f32s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f64f(const Ipp32f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32f64f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f8s_Sfs(const Ipp32f* pSrc, Ipp8s* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f8u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s16s(const Ipp32s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s16s_Sfs(const Ipp32s* pSrc, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s24s_Sfs(const Ipp32s* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s24s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s32f(const Ipp32s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s32f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f(const Ipp32s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f_Sfs(const Ipp32s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32u24u_Sfs(const Ipp32u* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32u24u_Sfs_Idx(const Ipp32u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f16s_Sfs(const Ipp64f* pSrc, Ipp16s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f16s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f16u_Sfs(const Ipp64f* pSrc, Ipp16u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f16u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f32f(const Ipp64f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64f32f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_64f32s_Sfs(const Ipp64f* pSrc, Ipp32s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f32s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f64s_Sfs(const Ipp64f* pSrc, Ipp64s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f64s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f8u_Sfs(const Ipp64f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f8u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64s64f(const Ipp64s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64s64f_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8s16s(const Ipp8s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s16s_Idx(const Ipp8s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8s32f(const Ipp8s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s32f_Idx(const Ipp8s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */
@@ -973,6 +1077,182 @@ IppStatus SIG5D_STDCALL ippsSwapBytes_64u(const Ipp64u* pSrc, Ipp64u* pDst, int 
 IppStatus SIG5D_STDCALL ippsSwapBytes_64u_I(Ipp64u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_64u_I_Idx(Ipp64u* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp64u* pDst, int dstIdx, int len);
+
+/* ---- Thresholds ---- */
+
+/* pDst[i] = pSrc[i] < level ? level : pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_LT_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_GT_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = |pSrc[i]| >= level ? pSrc[i] : pSrc[i] < 0 ? -level : level. Raises magnitudes and keeps signs; 0
+   becomes level. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i] < -level ? -level : pSrc[i]. Limits magnitudes and keeps signs. */
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = pSrc[i] < level ? value : pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level, Ipp16s
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level, Ipp16s value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level, Ipp16s value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level, Ipp64f value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len, Ipp64f level, Ipp64fc value);
+
+/* pDst[i] = pSrc[i] > level ? value : pSrc[i]. */
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level, Ipp16s value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level, Ipp64f value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len, Ipp64f level, Ipp64fc value);
+
+/* pDst[i] = levelLT <= pSrc[i] <= levelGT ? pSrc[i] : pSrc[i] < levelLT ? valueLT : valueGT. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s levelLT, Ipp16s
+        valueLT, Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_16s_I(Ipp16s* pSrcDst, int len, Ipp16s levelLT, Ipp16s valueLT,
+        Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s levelLT,
+        Ipp16s valueLT, Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int
+        len, Ipp16s levelLT, Ipp16s valueLT, Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s levelLT, Ipp32s
+        valueLT, Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_32s_I(Ipp32s* pSrcDst, int len, Ipp32s levelLT, Ipp32s valueLT,
+        Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s levelLT,
+        Ipp32s valueLT, Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int
+        len, Ipp32s levelLT, Ipp32s valueLT, Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f levelLT, Ipp64f
+        valueLT, Ipp64f levelGT, Ipp64f valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f levelLT, Ipp64f valueLT,
+        Ipp64f levelGT, Ipp64f valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f levelLT,
+        Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int
+        len, Ipp64f levelLT, Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
+
+/* relOp 0: pDst[i] = pSrc[i] < level ? level : pSrc[i]; relOp 4: pDst[i] = pSrc[i] > level ? level : pSrc[i].
+   Limits elements from below (relOp 0, "less than") or from above (relOp 4, "greater than"). */
+IppStatus SIG5D_STDCALL ippsThreshold_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
+        level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f level, int relOp);
+
+/* pDst[i] = |pSrc[i]| > level ? 1 / pSrc[i] : pSrc[i] < 0 ? -1 / level : 1 / level. Reciprocals, limited in
+   magnitude to that of the level. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len, Ipp64f level);
 
 /* ---- Status texts, processor variants, version ---- */
 
