@@ -28,7 +28,7 @@ struct Up {
     f64 operator()(f64 x) const
     {
         const f64 near = near_integer(x);
-        return near < x ? near + 1.0 : near;
+        return __builtin_copysign(near < x ? near + 1.0 : near, x); // -0.0 between -1 and 0
     }
 };
 
@@ -44,7 +44,6 @@ template <class V> inline V near_integer(V x)
     const Bits<V> rounded = bits(near) | (bits(x) & bits(sign)), fraction = size < limit;
     return reinterpret_cast<V>((rounded & fraction) | (bits(x) & ~fraction));
 }
-// Always a subtraction, so that -0.0 stays: of 1 or -1, or of +0.0.
 struct Down {
     template <class V> V operator()(V x) const
     {
@@ -56,7 +55,8 @@ struct Up {
     template <class V> V operator()(V x) const
     {
         const V near = near_integer(x);
-        return near - reinterpret_cast<V>((near < x) & bits(splatn<sizeof(V) / 8>(-1.0)));
+        const V up = near - reinterpret_cast<V>((near < x) & bits(splatn<sizeof(V) / 8>(-1.0)));
+        return reinterpret_cast<V>(bits(up) | (bits(x) & bits(splatn<sizeof(V) / 8>(-0.0)))); // -0.0 between -1 and 0;
     }
 };
 

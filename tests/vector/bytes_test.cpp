@@ -15,8 +15,10 @@ template <class D, class S> void converts(const std::string& name, const std::ve
     for (size_t n = 0; n <= source.size(); n += n < 70 ? 1 : source.size() - n > 70 ? source.size() - 70 - n : 1) {
         std::fill(found.begin(), found.end(), D(99));
         callIndexed(name, source.data(), found.data(), static_cast<int>(n));
-        ASSERT_TRUE(std::equal(found.begin(), found.begin() + static_cast<long>(n), expected.begin())) << name << ' ' << n;
-        ASSERT_TRUE(std::all_of(found.begin() + static_cast<long>(n), found.end(), [](D x) { return x == D(99); })) << name;
+        ASSERT_TRUE(std::equal(found.begin(), found.begin() + static_cast<long>(n), expected.begin()))
+            << name << ' ' << n;
+        ASSERT_TRUE(std::all_of(found.begin() + static_cast<long>(n), found.end(), [](D x) { return x == D(99); }))
+            << name;
     }
 }
 
@@ -80,7 +82,8 @@ TEST(Convert, Integers)
         std::iota(bytes.begin(), bytes.end(), Ipp8u(0));
         std::vector<Ipp16s> shorts(65536);
         std::iota(shorts.begin(), shorts.end(), Ipp16s(-32768));
-        std::vector<Ipp32s> words = {-5, 0, 255, 256, 2147483647, -2147483647 - 1, 32768, 65535, 65536, -32769, 127, 128};
+        std::vector<Ipp32s> words = {-5,    0,     255,   256,    2147483647, -2147483647 - 1,
+                                     32768, 65535, 65536, -32769, 127,        128};
         for (Ipp32s i = -400; i < 400; ++i) words.push_back(i);
         for (Ipp32s i = 0; i < 31; ++i) words.push_back(1 << i);
         converts<Ipp8u>("Convert_32s8u", words);

@@ -87,7 +87,8 @@ std::vector<Ipp32s> manySizes(size_t n, unsigned seed)
 template <class T> std::vector<T> all()
 {
     std::vector<T> v;
-    for (long i = std::numeric_limits<T>::min(); i <= std::numeric_limits<T>::max(); ++i) v.push_back(static_cast<T>(i));
+    for (long i = std::numeric_limits<T>::min(); i <= std::numeric_limits<T>::max(); ++i)
+        v.push_back(static_cast<T>(i));
     return v;
 }
 template <class T> std::vector<T> allButZero()
@@ -148,7 +149,8 @@ TEST(IntegerDivision, Of32Bits)
     constexpr Ipp32s lowest = std::numeric_limits<Ipp32s>::min(), highest = std::numeric_limits<Ipp32s>::max();
     inEveryVariant([=] {
         std::vector<Ipp32s> divisors = manySizes(500, 1);
-        for (Ipp32s x : {1, -1, 2, -2, 3, 7, 10, 641, highest, highest - 1, -highest, lowest, lowest + 2}) divisors.push_back(x);
+        for (Ipp32s x : {1, -1, 2, -2, 3, 7, 10, 641, highest, highest - 1, -highest, lowest, lowest + 2})
+            divisors.push_back(x);
         for (Ipp32s value : divisors) {
             auto a = manySizes(300, 2);
             for (Ipp32s x : {0, highest, highest - 1, -highest, lowest}) a.push_back(x);
