@@ -27,8 +27,11 @@ const struct Work {
     double divisions, squareRoots;
 } works[] = {
     {"ippsDiv", Element::f64, 1, 0},
+    {"ippsDiv", Element::c64f, 1, 0},
     {"ippsDivCRev", Element::f64, 1, 0},
     {"ippsSqrt", Element::f64, 0, 1},
+    {"ippsSqrt", Element::c64f, 2, 2},
+    {"ippsMagnitude", Element::f64, 0, 1},
     {"ippsMagnitude", Element::c64f, 0, 1},
 };
 
