@@ -1,6 +1,7 @@
 // Rounding to integers that stay doubles, and remainders of quotients that are truncated to 32 bits.
 #include "frame/entry.h"
 #include "kernel/loops.h"
+#include "vector/masks.h"
 #include <immintrin.h>
 
 namespace sig5d::SIG5D_VARIANT {
@@ -34,29 +35,25 @@ struct Up {
 
 #elif SIG5D_LEVEL < 3
 
-template <class V> using Bits = Vec<i64, sizeof(V) / 8>;
-template <class V> inline Bits<V> bits(V x) { return reinterpret_cast<Bits<V>>(x); }
 template <class V> inline V near_integer(V x)
 {
-    const V sign = splatn<sizeof(V) / 8>(-0.0), limit = splatn<sizeof(V) / 8>(allWhole);
-    const V size = reinterpret_cast<V>(bits(x) & ~bits(sign));
-    const V near = (size + limit) - limit;
-    const Bits<V> rounded = bits(near) | (bits(x) & bits(sign)), fraction = size < limit;
-    return reinterpret_cast<V>((rounded & fraction) | (bits(x) & ~fraction));
+    const V sign = both(x, all<V>(-0.0)), size = without(x, all<V>(-0.0)), limit = all<V>(allWhole);
+    const V near = either((size + limit) - limit, sign), fraction = less(size, limit);
+    return either(both(near, fraction), without(x, fraction));
 }
 struct Down {
     template <class V> V operator()(V x) const
     {
         const V near = near_integer(x);
-        return near - reinterpret_cast<V>((near > x) & bits(splatn<sizeof(V) / 8>(1.0)));
+        return near - both(less(x, near), all<V>(1.0));
     }
 };
 struct Up {
     template <class V> V operator()(V x) const
     {
         const V near = near_integer(x);
-        const V up = near - reinterpret_cast<V>((near < x) & bits(splatn<sizeof(V) / 8>(-1.0)));
-        return reinterpret_cast<V>(bits(up) | (bits(x) & bits(splatn<sizeof(V) / 8>(-0.0)))); // -0.0 between -1 and 0;
+        const V up = near + both(less(near, x), all<V>(1.0));
+        return either(up, both(x, all<V>(-0.0))); // -0.0 between -1 and 0
     }
 };
 

@@ -1,6 +1,7 @@
 // Signs of real and complex numbers, and products by them.
 #include "frame/entry.h"
 #include "kernel/loops.h"
+#include "vector/masks.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -72,12 +73,12 @@ template <int bytes> inline Parts<Vec<f64, 2>> load_part(Numbers<c64f, f64> a)
 // Numbers for complex results: in both lanes of each.
 template <int L> inline Vec<f64, 2 * L> loadn(Numbers<f64, c64f> a)
 {
-    if constexpr (L == 1) {
+#if SIG5D_LEVEL >= 4
+    if constexpr (L == 2)
+        return _mm256_permute_pd(_mm256_broadcast_pd(reinterpret_cast<const __m128d_u*>(a.p)), 0b1100);
+    else
+#endif
         return splatn<2>(*a.p);
-    } else {
-        const auto x = loadn<2>(a.p);
-        return __builtin_shufflevector(x, x, 0, 0, 1, 1);
-    }
 }
 template <int bytes> inline Vec<f64, 2> load_part(Numbers<f64, c64f> a) { return splatn<2>(*a.p); }
 template <int L> inline Parts<Vec<f64, 2 * L>> loadn(Numbers<c64f, c64f> a)
@@ -99,43 +100,35 @@ template <class D, class T> inline auto numbers(const T* a)
 }
 inline Pairs pairs(const c64f* a) { return {a}; }
 
-template <class V> using Mask = Vec<i64, sizeof(V) / 8>;
-template <class V> inline Mask<V> bits(f64 x) { return reinterpret_cast<Mask<V>>(splatn<sizeof(V) / 8>(x)); }
-
-template <class V> inline Mask<V> sign_of(V x) { return ((x > V{}) & bits<V>(1.0)) | ((x < V{}) & bits<V>(-1.0)); }
-template <class V> inline Mask<V> sign_of(Parts<V> x)
+template <class V> inline V sign_of(V x)
 {
-    const Mask<V> re = sign_of(x.re);
-    return re | (sign_of(x.im) & (reinterpret_cast<V>(re) == V{}));
+    return either(both(less(V{}, x), all<V>(1.0)), both(less(x, V{}), all<V>(-1.0)));
+}
+template <class V> inline V sign_of(Parts<V> x)
+{
+    const V re = sign_of(x.re);
+    return either(re, both(sign_of(x.im), same(re, V{})));
 }
 struct Sign {
-    template <class X> auto operator()(X x) const
-    {
-        const auto sign = sign_of(x);
-        return reinterpret_cast<Vec<f64, sizeof sign / 8>>(sign);
-    }
+    template <class X> auto operator()(X x) const { return sign_of(x); }
 };
 struct ComplexSign {
     template <class X> auto operator()(X x) const
     {
         auto sign = sign_of(x);
-        if constexpr (sizeof sign == 16)
-            sign &= Vec<i64, 2>{-1, 0};
-        else
-            sign &= Vec<i64, 4>{-1, 0, -1, 0};
-        return reinterpret_cast<Vec<f64, sizeof sign / 8>>(sign);
+        for (size_t i = 1; i < sizeof sign / sizeof(f64); i += 2) sign[i] = 0.0;
+        return sign;
     }
 };
 
-template <class V> inline Mask<V> negative(V x) { return x < V{}; }
-template <class V> inline Mask<V> zero(V x) { return x == V{}; }
-template <class V> inline Mask<V> negative(Parts<V> x) { return negative(x.re) | (zero(x.re) & negative(x.im)); }
-template <class V> inline Mask<V> zero(Parts<V> x) { return zero(x.re) & zero(x.im); }
+template <class V> inline V negative(V x) { return less(x, V{}); }
+template <class V> inline V zero(V x) { return same(x, V{}); }
+template <class V> inline V negative(Parts<V> x) { return either(negative(x.re), both(zero(x.re), negative(x.im))); }
+template <class V> inline V zero(Parts<V> x) { return both(zero(x.re), zero(x.im)); }
 struct TimesSign {
     template <class X, class V> V operator()(X x, V y) const
     {
-        const auto turned = reinterpret_cast<Mask<V>>(y) ^ (negative(x) & bits<V>(-0.0));
-        return reinterpret_cast<V>(turned & ~zero(x));
+        return without(turned(y, both(negative(x), all<V>(-0.0))), zero(x));
     }
 };
 
