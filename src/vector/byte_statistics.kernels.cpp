@@ -107,13 +107,21 @@ template <int bytes> inline Register<bytes> repeated(u8 x)
     return reinterpret_cast<Register<bytes>>(splatn<bytes>(x));
 }
 
+// The lowest bit that is set; one is. The compiler itself would write tzcnt, which is above every variant's level.
+inline u32 first_bit(u32 x)
+{
+    u32 number;
+    asm("bsf %1, %0" : "=r"(number) : "r"(x) : "cc");
+    return number;
+}
+
 // Where x comes first among n >= bytes elements that contain it.
 template <int bytes> inline size_t place_of(u8 x, const u8* p, size_t n)
 {
     const auto wanted = repeated<bytes>(x);
     for (size_t i = 0;; i += bytes) {
         if (i + bytes > n) i = n - bytes; // what it has in common with the vector before does not contain x
-        if (const u32 places = equal(at<bytes>(p + i), wanted)) return i + static_cast<size_t>(__builtin_ctz(places));
+        if (const u32 places = equal(at<bytes>(p + i), wanted)) return i + first_bit(places);
     }
 }
 

@@ -115,9 +115,11 @@ struct Sign {
 struct ComplexSign {
     template <class X> auto operator()(X x) const
     {
-        auto sign = sign_of(x);
-        for (size_t i = 1; i < sizeof sign / sizeof(f64); i += 2) sign[i] = 0.0;
-        return sign;
+        const auto sign = sign_of(x);
+        if constexpr (sizeof sign == 16)
+            return both(sign, reinterpret_cast<Vec<f64, 2>>(Vec<i64, 2>{-1, 0}));
+        else
+            return both(sign, reinterpret_cast<Vec<f64, 4>>(Vec<i64, 4>{-1, 0, -1, 0}));
     }
 };
 
