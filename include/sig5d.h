@@ -480,6 +480,335 @@ IppStatus SIG5D_CDECL ippsPowerSpectr_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx
 IppStatus SIG5D_STDCALL ippsPowerSpectr_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPowerSpectr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
+/* ---- Integer arithmetic with scale factors ---- */
+
+/* pDst[i] = (pSrc1[i] + pSrc2[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsAdd_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc2[i] - pSrc1[i]) * 2^-scaleFactor. Mind the order: the first array is subtracted from the second.
+   In place: pSrcDst[i] - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSub_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc[i] + val) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsAddC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = (pSrc[i] - val) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSubC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = (val - pSrc[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int
+        dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int
+        len, int scaleFactor);
+
+/* pDst[i] = pSrc1[i] * pSrc2[i] * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMul_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = pSrc[i] * val * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMulC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pSrcDst[i] = (pSrcDst[i] + pSrc1[i] * pSrc2[i]) * 2^-scaleFactor. The sum is scaled as a whole, what was in
+   pSrcDst too. */
+IppStatus SIG5D_STDCALL ippsAddProduct_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pSrcDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAddProduct_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx,
+        Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc2[i] * 2^-scaleFactor) / pSrc1[i]. Mind the order: the first array holds the divisors. In place:
+   pSrcDst[i] / pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsDiv_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc[i] * 2^-scaleFactor) / val. */
+IppStatus SIG5D_STDCALL ippsDivC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = |pSrc[i]|. */
+IppStatus SIG5D_STDCALL ippsAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_16s_I(Ipp16s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_32s_I(Ipp32s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+
+/* ---- Type conversions ---- */
+
+/* pDst[i] = pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsConvert_16f32f(const Ipp16f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16f32f_Idx(const Ipp16f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s32f(const Ipp16s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16s32f_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s32s(const Ipp16s* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16s32s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s64f_Sfs(const Ipp16s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_16s64f_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_16s8s_Sfs(const Ipp16s* pSrc, Ipp8s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_16s8s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_16u32f(const Ipp16u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16u32f_Idx(const Ipp16u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32s(const Ipp8u* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24u32u(const Ipp8u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f16f(const Ipp32f* pSrc, Ipp16f* pDst, int len, int rndMode);
+IppStatus SIG5D_CDECL ippsConvert_32f16f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16f* pDst, int dstIdx, int len, int
+        rndMode);
+IppStatus SIG5D_STDCALL ippsConvert_32f16s_Sfs(const Ipp32f* pSrc, Ipp16s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f16s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f16u_Sfs(const Ipp32f* pSrc, Ipp16u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f16u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f24s_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f24u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f32s_Sfs(const Ipp32f* pSrc, Ipp32s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f32s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f64f(const Ipp32f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32f64f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f8s_Sfs(const Ipp32f* pSrc, Ipp8s* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f8u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s16s(const Ipp32s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s16s_Sfs(const Ipp32s* pSrc, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s24s_Sfs(const Ipp32s* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s24s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s32f(const Ipp32s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s32f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f(const Ipp32s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f_Sfs(const Ipp32s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32u24u_Sfs(const Ipp32u* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32u24u_Sfs_Idx(const Ipp32u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f16s_Sfs(const Ipp64f* pSrc, Ipp16s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f16s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f16u_Sfs(const Ipp64f* pSrc, Ipp16u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f16u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f32f(const Ipp64f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64f32f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_64f32s_Sfs(const Ipp64f* pSrc, Ipp32s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f32s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f64s_Sfs(const Ipp64f* pSrc, Ipp64s* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f64s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64s* pDst, int dstIdx, int len,
+        int rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64f8u_Sfs(const Ipp64f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f8u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_64s64f(const Ipp64s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64s64f_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8s16s(const Ipp8s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s16s_Idx(const Ipp8s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8s32f(const Ipp8s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s32f_Idx(const Ipp8s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */
@@ -748,6 +1077,182 @@ IppStatus SIG5D_STDCALL ippsSwapBytes_64u(const Ipp64u* pSrc, Ipp64u* pDst, int 
 IppStatus SIG5D_STDCALL ippsSwapBytes_64u_I(Ipp64u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_64u_I_Idx(Ipp64u* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp64u* pDst, int dstIdx, int len);
+
+/* ---- Thresholds ---- */
+
+/* pDst[i] = pSrc[i] < level ? level : pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_LT_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_GT_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = |pSrc[i]| >= level ? pSrc[i] : pSrc[i] < 0 ? -level : level. Raises magnitudes and keeps signs; 0
+   becomes level. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i] < -level ? -level : pSrc[i]. Limits magnitudes and keeps signs. */
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+
+/* pDst[i] = pSrc[i] < level ? value : pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level, Ipp16s
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level, Ipp16s value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level, Ipp16s value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level, Ipp64f value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len, Ipp64f level, Ipp64fc value);
+
+/* pDst[i] = pSrc[i] > level ? value : pSrc[i]. */
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        Ipp16s level, Ipp16s value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level, Ipp64f value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
+        value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len, Ipp64f level, Ipp64fc value);
+
+/* pDst[i] = levelLT <= pSrc[i] <= levelGT ? pSrc[i] : pSrc[i] < levelLT ? valueLT : valueGT. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s levelLT, Ipp16s
+        valueLT, Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_16s_I(Ipp16s* pSrcDst, int len, Ipp16s levelLT, Ipp16s valueLT,
+        Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s levelLT,
+        Ipp16s valueLT, Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int
+        len, Ipp16s levelLT, Ipp16s valueLT, Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s levelLT, Ipp32s
+        valueLT, Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_32s_I(Ipp32s* pSrcDst, int len, Ipp32s levelLT, Ipp32s valueLT,
+        Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s levelLT,
+        Ipp32s valueLT, Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int
+        len, Ipp32s levelLT, Ipp32s valueLT, Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f levelLT, Ipp64f
+        valueLT, Ipp64f levelGT, Ipp64f valueGT);
+IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f levelLT, Ipp64f valueLT,
+        Ipp64f levelGT, Ipp64f valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f levelLT,
+        Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int
+        len, Ipp64f levelLT, Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
+
+/* relOp 0: pDst[i] = pSrc[i] < level ? level : pSrc[i]; relOp 4: pDst[i] = pSrc[i] > level ? level : pSrc[i].
+   Limits elements from below (relOp 0, "less than") or from above (relOp 4, "greater than"). */
+IppStatus SIG5D_STDCALL ippsThreshold_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
+        level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f level, int relOp);
+
+/* pDst[i] = |pSrc[i]| > level ? 1 / pSrc[i] : pSrc[i] < 0 ? -1 / level : 1 / level. Reciprocals, limited in
+   magnitude to that of the level. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len, Ipp64f level);
 
 /* ---- Status texts, processor variants, version ---- */
 
@@ -1492,6 +1997,107 @@ void SIG5D_CDECL RemDiv_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s* quot,
 void SIG5D_CDECL RemDiv_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, int quotIdx, Ipp8u* rem, int remIdx,
         const Ipp8u* divisor, int divisorIdx, unsigned int len);
 
+/* ---- Mixed real and complex arithmetic ---- */
+
+/* dst[i] = src[i] + value. A real number takes part as a complex one with the imaginary part +0.0. */
+void SIG5D_CDECL AddValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL AddValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL AddValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value - src[i]. The scalar minus the element. A real number takes part as a complex one with the
+   imaginary part +0.0. */
+void SIG5D_CDECL SubFromValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL SubFromValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL SubFromValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL SubFromValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = src[i] * value. */
+void SIG5D_CDECL ScaleByValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL ScaleByValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL ScaleByValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL ScaleByValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value / src[i]. The scalar divided by the element. */
+void SIG5D_CDECL DivideValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL DivideValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL DivideValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = (a[i].re + b[i], a[i].im + 0.0). */
+void SIG5D_CDECL AddVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL AddVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re - b[i], a[i].im - 0.0). */
+void SIG5D_CDECL SubVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i] - b[i].re, 0.0 - b[i].im). */
+void SIG5D_CDECL SubVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re * b[i], a[i].im * b[i]). */
+void SIG5D_CDECL MulVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] / b[i]. Correctly rounded quotients, part by part. */
+void SIG5D_CDECL DivVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] * conj(b[i]) = (a.re*b.re + a.im*b.im, a.im*b.re - a.re*b.im). Four products and two sums;
+   infinities and NaN as they come out of these. */
+void SIG5D_CDECL ConjMulcc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL ConjMulcc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a.re*b.re + b.im*a.im) * t, t * (a.im*b.re - a.re*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVeccc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a*b.re + b.im*0.0) * t, t * (0.0*b.re - a*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
 /* ---- Rounding, remainder and sign ---- */
 
 /* dst[i] = the smallest integer that is not below src[i]. The result is a double: of any size, and -0.0 for
@@ -1538,6 +2144,73 @@ void SIG5D_CDECL SgnMulcd(const Ipp64fc* src, Ipp64f* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMulcd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
 void SIG5D_CDECL SgnMuldc(const Ipp64f* src, Ipp64fc* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMuldc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* srcDst, int srcDstIdx, unsigned int len);
+
+/* ---- Running sums, ramps, products, powers and exchanges ---- */
+
+/* dst[0] = src[0]; dst[i] = src[i] + dst[i-1]. Strictly in index order: doubles round as a sum from left to right,
+   of which every step is stored. Integers wrap around in their own width. Complex parts are summed one by one. */
+void SIG5D_CDECL CumSum(const Ipp64f* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL CumSum_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSumc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL CumSumc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = src[i] for i < delta; dst[i] = src[i] + dst[i-delta] for delta <= i < len. A running sum of every
+   delta-th element, delta sums in all. Integers wrap around in their own width. */
+void SIG5D_CDECL CumSumDelta(const Ipp64f* src, Ipp64f* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDelta_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDeltac(const Ipp64fc* src, Ipp64fc* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDeltac_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+
+/* dst[i] = offset + step * i. Every element is computed from its index, as a product rounded and then a sum
+   rounded, each part for itself. */
+void SIG5D_CDECL Rampc(Ipp64fc* dst, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampc_Idx(Ipp64fc* dst, int dstIdx, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampd(Ipp64f* dst, unsigned int len, Ipp64f offset, Ipp64f step);
+
+/* dst[i] = (src[i].im, src[i].re). All bits are kept, also of a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL Flip(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Flip_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (src[i].im, -src[i].re). Only the sign bit of the real part changes, also of a zero or a NaN. Other
+   overlap than exact gives any values. */
+void SIG5D_CDECL FlipConj(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL FlipConj_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (-src[i].im, src[i].re). The product with the imaginary unit; only the sign bit of the imaginary part
+   changes, also of a zero or a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL MulI(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulI_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[len-1-i] = src[i]. Whole complex numbers in reverse order; all bits are kept. Other overlap than exact gives
+   any values. */
+void SIG5D_CDECL Reverse(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Reverse_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* *result = src[0] * src[1] * ... * src[len-1]. The product of no elements is 1. */
+void SIG5D_CDECL Product(const Ipp64f* src, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Product_Idx(const Ipp64f* src, int srcIdx, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Productc(const Ipp64fc* src, unsigned int len, Ipp64fc* result);
+void SIG5D_CDECL Productc_Idx(const Ipp64fc* src, int srcIdx, unsigned int len, Ipp64fc* result);
+
+/* dst[i] = a[i] ^ b[i] = e^(b[i] * log(a[i])) for 1 <= i < len. The principal value. Element 0 is left as it is. */
+void SIG5D_CDECL Powc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
 
 #ifdef __cplusplus
 }

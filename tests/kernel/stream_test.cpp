@@ -33,6 +33,9 @@ BODIES(ippsMulC_64fc, (const Ipp64fc*, Ipp64fc, Ipp64fc*, int))
 BODIES(ippsDiv_64fc, (const Ipp64fc*, const Ipp64fc*, Ipp64fc*, int))
 BODIES(ippsCplxToReal_64fc, (const Ipp64fc*, Ipp64f*, Ipp64f*, int))
 BODIES(ippsRealToCplx_64f, (const Ipp64f*, const Ipp64f*, Ipp64fc*, int))
+BODIES(ippsAdd_8u_Sfs, (const Ipp8u*, const Ipp8u*, Ipp8u*, int, int))
+BODIES(ippsSubC_32sc_Sfs, (const Ipp32sc*, Ipp32sc, Ipp32sc*, int, int))
+BODIES(ippsSubC_32sc_ISfs, (Ipp32sc, Ipp32sc*, int, int))
 
 using support::Bytes;
 using support::noise;
@@ -176,6 +179,33 @@ TEST_P(Stream, ComplexNumbers)
             for (size_t i = to; i < to + 2 * n; i += 2) w[i] = 0, w[i + 1] = 0.5;
             PICK(ippsDiv_64fc)(complex(w), complex(d), complex(d), count);
             for (size_t i = to; i < to + 2 * n; ++i) ASSERT_EQ(d[i], 4 * z[i]) << n << ' ' << to;
+        }
+}
+
+TEST_P(Stream, ScaledSums)
+{
+    const Bytes a = noise(1400), b = noise(1400, 2), before = noise(1400, 3);
+    const Ipp32sc value = {1000, -70000};
+    for (size_t n = 1; n <= 1300; n += n < 150 ? 1 : 23)
+        for (size_t to = 0; to < 40; to += 4) { // where numbers reach no aligned address, ordinary stores
+            Bytes d = before, expected = before;
+            for (size_t i = 0; i < n; ++i)
+                expected[to + i] = static_cast<unsigned char>(std::min(2 * (a[i] + b[5 + i]), 255));
+            PICK(ippsAdd_8u_Sfs)(&a[0], &b[5], &d[to], static_cast<int>(n), -1);
+            ASSERT_EQ(d, expected) << n << ' ' << to;
+
+            std::vector<Ipp32sc> source(n), difference(n), place(n + 6);
+            for (size_t i = 0; i < n; ++i) {
+                const int x = a[i] - 100, y = 3 * b[i];
+                source[i] = {x, y};
+                difference[i] = {x - value.re, y - value.im};
+            }
+            auto* const p = reinterpret_cast<Ipp32sc*>(reinterpret_cast<unsigned char*>(place.data()) + to);
+            PICK(ippsSubC_32sc_Sfs)(source.data(), value, p, static_cast<int>(n), 0);
+            ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
+            std::memcpy(p, source.data(), 8 * n);
+            PICK(ippsSubC_32sc_ISfs)(value, p, static_cast<int>(n), 0);
+            ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
         }
 }
 

@@ -1,5 +1,8 @@
 sig5d_test(elementwise_bits signal/copy_test.cpp signal/logic_test.cpp signal/bit_string_test.cpp)
 sig5d_test(elementwise_float signal/arith_float_test.cpp signal/root_test.cpp)
+sig5d_test(elementwise_scaled signal/scaled_test.cpp)
+sig5d_test(threshold signal/threshold_test.cpp)
+sig5d_test(convert signal/convert_test.cpp)
 
 # Kernels compiled for this test alone, which sets when they stream.
 set(streaming_kernels
@@ -9,6 +12,7 @@ set(streaming_kernels
     signal/elementwise/arith_complex
     signal/elementwise/divide
     signal/elementwise/complex_parts
+    signal/elementwise/scaled_sums
     matrix/submatrix
     matrix/transpose)
 list(TRANSFORM streaming_kernels PREPEND ${CMAKE_SOURCE_DIR}/src/)
@@ -30,3 +34,22 @@ sig5d_test(fft signal/processing/fft_test.cpp)
 target_link_libraries(fft_test PRIVATE sig5d_test_internal)
 
 sig5d_test(fir signal/fir_single_test.cpp signal/fir_multi_test.cpp frame/fir_handles_test.cpp)
+
+# Conversions and complex thresholds in the same way; the narrow body is that of SSSE3, which packs bytes.
+foreach(width 16 32)
+    set(elementwise ${CMAKE_SOURCE_DIR}/src/signal/elementwise)
+    add_library(sig5d_convertstream${width} OBJECT ${elementwise}/convert_24.kernels.cpp
+                ${elementwise}/convert_round.kernels.cpp ${elementwise}/threshold_complex.kernels.cpp)
+    target_link_libraries(sig5d_convertstream${width} PRIVATE sig5d_product)
+endforeach()
+target_compile_definitions(sig5d_convertstream16 PRIVATE SIG5D_VARIANT=convertstream16 SIG5D_LEVEL=2)
+target_compile_options(sig5d_convertstream16 PRIVATE ${SIG5D_FLAGS_s8})
+target_compile_definitions(sig5d_convertstream32 PRIVATE SIG5D_VARIANT=convertstream32 SIG5D_LEVEL=5)
+target_compile_options(sig5d_convertstream32 PRIVATE ${SIG5D_FLAGS_h9})
+sig5d_test(convert_stream kernel/convert_stream_test.cpp $<TARGET_OBJECTS:sig5d_convertstream16>
+           $<TARGET_OBJECTS:sig5d_convertstream32>)
+target_include_directories(convert_stream_test PRIVATE ${CMAKE_SOURCE_DIR}/src ${SIG5D_GENERATED})
+target_compile_definitions(convert_stream_test PRIVATE $<$<BOOL:${SIG5D_STATIC}>:SIG5D_STATIC>)
+if(NOT SIG5D_STATIC)
+    target_link_libraries(convert_stream_test PRIVATE $<$<BOOL:${WIN32}>:ssp>)
+endif()

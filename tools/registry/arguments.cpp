@@ -116,7 +116,8 @@ Arguments build(const Function& f, Random& random, long long length, Pattern pat
         }
         a.content[i].resize(a.bytes(i));
         for (size_t k = 0; k < a.content[i].size(); ++k) a.content[i][k] = static_cast<uint8_t>(prefill >> k % 8 * 8);
-        if (arg.kind == Kind::array && (arg.isConst || arg.inout) && a.extent[i] > 0)
+        const bool numbers = arg.kind == Kind::array || (arg.kind == Kind::result && arg.isConst); // a value by pointer
+        if (numbers && (arg.isConst || arg.inout) && a.extent[i] > 0)
             fill(random, arg.element, pattern, a.content[i].data(), static_cast<size_t>(a.extent[i]));
     }
     if (fixtureOf(f).contents) fixtureOf(f).contents(a, random);

@@ -1,0 +1,50 @@
+// Conversions of floating-point numbers to integers of 8, 16 and 32 bits: scaled, rounded, saturated.
+#include "frame/entry.h"
+#include "kernel/convert_loop.h"
+#include "kernel/rounding.h"
+#include "kernel/saturate.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+template <class D> using LimitsOf = Limits<width<D>, isSigned<D>>;
+
+template <class S, class D> void convert_plain(const S* a, D* d, int n, int mode, Scale scale)
+{
+    for (int i = 0; i < n; ++i) d[i] = static_cast<D>(rounded<LimitsOf<D>>(a[i], scale, mode));
+}
+
+#if SIG5D_LEVEL > 0
+
+template <class D, class Integers> struct Narrow {
+    Integers integers;
+    template <int n, class S> auto to(const S* p) const
+    {
+        return gather<D, n>(p, [this]<int k>(const S* q) { return integers.template to<k>(q); });
+    }
+};
+
+template <bool even, class S, class D> void convert_vectors(const S* a, D* d, int n, f64 factor, S bias)
+{
+    using Integers = Rounded<S, LimitsOf<D>, even>;
+    convert_compact(static_cast<size_t>(n), a, d, Narrow<D, Integers>{{static_cast<S>(factor), bias}});
+}
+
+#endif
+
+template <class S, class D> [[gnu::noinline]] void convert(const S* a, D* d, int n, int mode, int s)
+{
+#if SIG5D_LEVEL > 0
+    // Products in the precision of the source are exact, or on the way to zero or to a limit.
+    const Scale scale(s, sizeof(S) == 4 ? 126 : 1022);
+    if (scale.simple() && rounds_to_nearest()) {
+        if (mode == NearestEven) return convert_vectors<true, S>(a, d, n, scale.first, 0);
+        return convert_vectors<false, S>(a, d, n, scale.first, mode == NearestAway ? belowHalf<S> : 0);
+    }
+#endif
+    convert_plain(a, d, n, mode, Scale(s));
+}
+
+} // namespace
+#include "entries/signal/elementwise/convert_round.inc"
+} // namespace sig5d::SIG5D_VARIANT

@@ -1,0 +1,70 @@
+// Integers times a power of two in double precision.
+#include "frame/entry.h"
+#include "kernel/convert_loop.h"
+#include "kernel/lanes.h"
+#include "kernel/rounding.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// An integer is so far from the smallest number that only the second product can round.
+template <class S> void convert_far(const S* a, f64* d, int n, Scale scale)
+{
+    for (int i = 0; i < n; ++i) d[i] = static_cast<f64>(a[i]) * scale.first * scale.second;
+}
+
+struct Scaled {
+    f64 factor;
+    template <class S> f64 one(S x) const { return static_cast<f64>(x) * factor; }
+#if SIG5D_LEVEL > 0
+    template <int n, class S> auto to(const S* p) const { return doubles<n>(load_as_32<n>(p)) * factor; }
+#endif
+};
+
+#if SIG5D_LEVEL >= 3
+
+inline Vec<i64, 2> low_64(__m128i x) { return reinterpret_cast<Vec<i64, 2>>(_mm_cvtepi16_epi64(x)); }
+#if SIG5D_LEVEL >= 5
+inline Vec<i64, 4> all_64(__m128i x) { return reinterpret_cast<Vec<i64, 4>>(_mm256_cvtepi16_epi64(x)); }
+#endif
+
+// The integer added to the last bits of a double whose last bit is worth the factor, less that double: two additions
+// instead of a conversion and a product.
+struct ScaledShort {
+    f64 offset;
+    template <int n> auto to(const i16* p) const
+    {
+        const __m128i x = bits128(load_part<static_cast<int>(n * sizeof(i16))>(p));
+#if SIG5D_LEVEL >= 5
+        if constexpr (n == 4)
+            return value(all_64(x));
+        else
+#endif
+            return value(low_64(x));
+    }
+    template <class V> auto value(V x) const
+    {
+        using F = Vec<f64, sizeof(V) / 8>;
+        return reinterpret_cast<F>(x + reinterpret_cast<V>(splatn<sizeof(V) / 8>(offset))) - offset;
+    }
+};
+
+#endif
+
+template <class S> [[gnu::noinline]] void convert(const S* a, f64* d, int n, int s)
+{
+    const Scale scale(s);
+    const size_t count = static_cast<size_t>(n);
+    if (!scale.simple()) return convert_far(a, d, n, scale);
+#if SIG5D_LEVEL >= 3
+    // Rounding downward, a difference of zero would be -0.
+    if constexpr (sizeof(S) == 2)
+        if (s > -900 && s < 900 && rounds_to_nearest())
+            return convert_all(count, a, d, ScaledShort{0x1.8p52 * scale.first});
+#endif
+    convert_all(count, a, d, Scaled{scale.first});
+}
+
+} // namespace
+#include "entries/signal/elementwise/convert_scaled_double.inc"
+} // namespace sig5d::SIG5D_VARIANT
