@@ -1878,6 +1878,125 @@ IppStatus SIG5D_CDECL ippsFIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, const Ipps
 IppStatus SIG5D_CDECL ippsFIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, const IppsFIRSpec_64fc* pSpec, const Ipp64fc*
         pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
 
+/* ---- Integer conversions and byte statistics ---- */
+
+/* dst[i] = src[i]. */
+void SIG5D_CDECL Convert_16s64f(const Ipp16s* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Convert_16s64f_Idx(const Ipp16s* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Convert_16s8u(const Ipp16s* src, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL Convert_16s8u_Idx(const Ipp16s* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Convert_32s8u(const Ipp32s* src, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL Convert_32s8u_Idx(const Ipp32s* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Convert_8u16s(const Ipp8u* src, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL Convert_8u16s_Idx(const Ipp8u* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Convert_8u32s(const Ipp8u* src, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL Convert_8u32s_Idx(const Ipp8u* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Convert_8u64f(const Ipp8u* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Convert_8u64f_Idx(const Ipp8u* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+
+/* *max = the largest src[i]. */
+void SIG5D_CDECL Max_8u(const Ipp8u* src, unsigned int len, Ipp8u* max);
+void SIG5D_CDECL Max_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int len, Ipp8u* max);
+
+/* *min = the smallest src[i]. */
+void SIG5D_CDECL Min_8u(const Ipp8u* src, unsigned int len, Ipp8u* min);
+void SIG5D_CDECL Min_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int len, Ipp8u* min);
+
+/* *min = the smallest src[i]; *max = the largest src[i]. */
+void SIG5D_CDECL MaxMin_8u(const Ipp8u* src, unsigned int len, Ipp8u* min, Ipp8u* max);
+void SIG5D_CDECL MaxMin_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int len, Ipp8u* min, Ipp8u* max);
+
+/* *max = the largest src[i]; *index = the smallest i with src[i] = *max. */
+void SIG5D_CDECL MaxIndx_8u(const Ipp8u* src, unsigned int len, Ipp8u* max, Ipp32s* index);
+void SIG5D_CDECL MaxIndx_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int len, Ipp8u* max, Ipp32s* index);
+
+/* *min = the smallest src[i]; *index = the smallest i with src[i] = *min. */
+void SIG5D_CDECL MinIndx_8u(const Ipp8u* src, unsigned int len, Ipp8u* min, Ipp32s* index);
+void SIG5D_CDECL MinIndx_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int len, Ipp8u* min, Ipp32s* index);
+
+/* *min = src[*minIndex], the smallest; *max = src[*maxIndex], the largest. The indices are those of the first such
+   elements. The minimum comes first. */
+void SIG5D_CDECL MaxMinIndx_8u(const Ipp8u* src, unsigned int len, Ipp8u* min, Ipp32s* minIndex, Ipp8u* max, Ipp32s*
+        maxIndex);
+void SIG5D_CDECL MaxMinIndx_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int len, Ipp8u* min, Ipp32s* minIndex,
+        Ipp8u* max, Ipp32s* maxIndex);
+
+/* *sum = src[0] + ... + src[len-1] modulo 2^32. There is no scale factor. The sum is exact up to 8421504 elements,
+   whatever they are; beyond 2^31 - 1 it wraps around. */
+void SIG5D_CDECL Sum_8u32s_SFS(const Ipp8u* src, unsigned int len, Ipp32s* sum);
+void SIG5D_CDECL Sum_8u32s_SFS_Idx(const Ipp8u* src, int srcIdx, unsigned int len, Ipp32s* sum);
+
+/* ---- Integer division ---- */
+
+/* dst[i] = src[i] / value. Truncated towards zero: 7 / -2 = -3, -7 / 2 = -3. There is no scale factor. */
+void SIG5D_CDECL DivC_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
+void SIG5D_CDECL DivC_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL DivC_32s_SFS(const Ipp32s* src, Ipp32s value, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL DivC_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* dst, int dstIdx, unsigned int
+        len);
+
+/* dst[i] = src[i] - value * (src[i] / value). The remainder of the truncated quotient, with the sign of src[i]: 7
+   mod -2 = 1, -7 mod 2 = -1. */
+void SIG5D_CDECL ModC_16s_ISFS(Ipp16s* srcDst, Ipp16s value, unsigned int len);
+void SIG5D_CDECL ModC_16s_ISFS_Idx(Ipp16s* srcDst, int srcDstIdx, Ipp16s value, unsigned int len);
+void SIG5D_CDECL ModC_16s_SFS(const Ipp16s* src, Ipp16s value, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL ModC_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s value, Ipp16s* dst, int dstIdx, unsigned int
+        len);
+void SIG5D_CDECL ModC_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
+void SIG5D_CDECL ModC_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL ModC_32s_SFS(const Ipp32s* src, Ipp32s value, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL ModC_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* dst, int dstIdx, unsigned int
+        len);
+void SIG5D_CDECL ModC_8u_ISFS(Ipp8u* srcDst, Ipp8u value, unsigned int len);
+void SIG5D_CDECL ModC_8u_ISFS_Idx(Ipp8u* srcDst, int srcDstIdx, Ipp8u value, unsigned int len);
+void SIG5D_CDECL ModC_8u_SFS(const Ipp8u* src, Ipp8u value, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL ModC_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u value, Ipp8u* dst, int dstIdx, unsigned int len);
+
+/* quot[i] = src[i] / value; rem[i] = src[i] mod value. For each element in turn the quotient is stored, then the
+   remainder of the element as it is then. */
+void SIG5D_CDECL RemDivC_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int
+        remIdx, Ipp16s value, unsigned int len);
+void SIG5D_CDECL RemDivC_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s* quot, int quotIdx, Ipp32s* rem, int
+        remIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL RemDivC_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, int quotIdx, Ipp8u* rem, int remIdx,
+        Ipp8u value, unsigned int len);
+
+/* dst[i] = value / src[i]. The value divided by the element, truncated towards zero and to the width of the
+   elements: 16s gives -32768 for -32768 / -1. */
+void SIG5D_CDECL DivCREV_16s_ISFS(Ipp16s* srcDst, Ipp16s value, unsigned int len);
+void SIG5D_CDECL DivCREV_16s_ISFS_Idx(Ipp16s* srcDst, int srcDstIdx, Ipp16s value, unsigned int len);
+void SIG5D_CDECL DivCREV_16s_SFS(const Ipp16s* src, Ipp16s value, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL DivCREV_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s value, Ipp16s* dst, int dstIdx, unsigned
+        int len);
+void SIG5D_CDECL DivCREV_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
+void SIG5D_CDECL DivCREV_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL DivCREV_32s_SFS(const Ipp32s* src, Ipp32s value, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL DivCREV_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* dst, int dstIdx, unsigned
+        int len);
+void SIG5D_CDECL DivCREV_8u_ISFS(Ipp8u* srcDst, Ipp8u value, unsigned int len);
+void SIG5D_CDECL DivCREV_8u_ISFS_Idx(Ipp8u* srcDst, int srcDstIdx, Ipp8u value, unsigned int len);
+void SIG5D_CDECL DivCREV_8u_SFS(const Ipp8u* src, Ipp8u value, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL DivCREV_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u value, Ipp8u* dst, int dstIdx, unsigned int
+        len);
+
+/* quot[i] = value / src[i]; rem[i] = value mod src[i]. For each element in turn the quotient is stored, then the
+   remainder by the element as it is then. */
+void SIG5D_CDECL RemDivCREV_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int
+        remIdx, Ipp16s value, unsigned int len);
+void SIG5D_CDECL RemDivCREV_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s* quot, int quotIdx, Ipp32s* rem, int
+        remIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL RemDivCREV_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, int quotIdx, Ipp8u* rem, int remIdx,
+        Ipp8u value, unsigned int len);
+
+/* quot[i] = src[i] / divisor[i]; rem[i] = src[i] mod divisor[i]. For each element in turn the quotient is stored,
+   then the remainder of the elements as they are then. */
+void SIG5D_CDECL RemDiv_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int remIdx,
+        const Ipp16s* divisor, int divisorIdx, unsigned int len);
+void SIG5D_CDECL RemDiv_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s* quot, int quotIdx, Ipp32s* rem, int remIdx,
+        const Ipp32s* divisor, int divisorIdx, unsigned int len);
+void SIG5D_CDECL RemDiv_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, int quotIdx, Ipp8u* rem, int remIdx,
+        const Ipp8u* divisor, int divisorIdx, unsigned int len);
+
 /* ---- Mixed real and complex arithmetic ---- */
 
 /* dst[i] = src[i] + value. A real number takes part as a complex one with the imaginary part +0.0. */
@@ -1978,6 +2097,53 @@ void SIG5D_CDECL DivVeccc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int 
 void SIG5D_CDECL DivVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
 void SIG5D_CDECL DivVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
         unsigned int len);
+
+/* ---- Rounding, remainder and sign ---- */
+
+/* dst[i] = the smallest integer that is not below src[i]. The result is a double: of any size, and -0.0 for
+   elements above -1 and below 0. */
+void SIG5D_CDECL Ceil(const Ipp64f* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Ceil_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = the largest integer that is not above src[i]. The result is a double, of any size. */
+void SIG5D_CDECL Floor(const Ipp64f* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Floor_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = src[i] - value * q, q = trunc(src[i] * (1 / value)) as a signed 32-bit integer. The sign is that of
+   src[i], as with fmod. The quotient is made with the reciprocal, which is rounded: next to a multiple of a value
+   that has no exact reciprocal the result may be off by one value. */
+void SIG5D_CDECL RemVal(const Ipp64f* src, Ipp64f value, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL RemVal_Idx(const Ipp64f* src, int srcIdx, Ipp64f value, Ipp64f* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = a[i] - b[i] * q, q = trunc(a[i] / b[i]) as a signed 32-bit integer. The sign is that of a[i], as with
+   fmod. */
+void SIG5D_CDECL Rem(const Ipp64f* a, const Ipp64f* b, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Rem_Idx(const Ipp64f* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64f* dst, int dstIdx, unsigned int
+        len);
+
+/* dst[i] = 1 for src[i] > 0, -1 for src[i] < 0, else 0. Letters: the type of src and that of dst, c complex, d
+   real. A complex number has the sign of its real part, and where that is zero or NaN, the sign of its imaginary
+   part. A complex result is (sign, +0.0). */
+void SIG5D_CDECL Sgncc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Sgncc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Sgncd(const Ipp64fc* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Sgncd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Sgndc(const Ipp64f* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Sgndc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Sgndd(const Ipp64f* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Sgndd_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+
+/* srcDst[i] = +0.0 for src[i] = 0, -srcDst[i] for src[i] < 0, else srcDst[i]. A change of sign turns the sign bit
+   (of both parts of a complex number), also that of a NaN. A complex src[i] counts by its real part, and where
+   that is zero, by its imaginary part. */
+void SIG5D_CDECL SgnMul(const Ipp64f* src, Ipp64f* srcDst, unsigned int len);
+void SIG5D_CDECL SgnMul_Idx(const Ipp64f* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
+void SIG5D_CDECL SgnMulc(const Ipp64fc* src, Ipp64fc* srcDst, unsigned int len);
+void SIG5D_CDECL SgnMulc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* srcDst, int srcDstIdx, unsigned int len);
+void SIG5D_CDECL SgnMulcd(const Ipp64fc* src, Ipp64f* srcDst, unsigned int len);
+void SIG5D_CDECL SgnMulcd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
+void SIG5D_CDECL SgnMuldc(const Ipp64f* src, Ipp64fc* srcDst, unsigned int len);
+void SIG5D_CDECL SgnMuldc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* srcDst, int srcDstIdx, unsigned int len);
 
 /* ---- Running sums, ramps, products, powers and exchanges ---- */
 

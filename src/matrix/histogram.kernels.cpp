@@ -88,11 +88,11 @@ template <class Bin> inline Vec<i32, 4> ranks(const Bin* four)
 }
 
 // Four counters are read before any is stored: the last one of a bin has counted all of it.
-template <class Bin> inline void count_four(const Bin* b, i32* counts)
+template <class Bin> inline void count_four(const Bin* b, u32* counts)
 {
-    const auto added = ranks(b);
-    const i32 c0 = counts[b[0]] + 1, c1 = counts[b[1]] + added[1];
-    const i32 c2 = counts[b[2]] + added[2], c3 = counts[b[3]] + added[3];
+    const auto added = reinterpret_cast<Vec<u32, 4>>(ranks(b));
+    const u32 c0 = counts[b[0]] + 1, c1 = counts[b[1]] + added[1];
+    const u32 c2 = counts[b[2]] + added[2], c3 = counts[b[3]] + added[3];
     counts[b[0]] = c0;
     counts[b[1]] = c1;
     counts[b[2]] = c2;
@@ -109,7 +109,8 @@ template <class Bin> inline bool repetitive(const Bin* a, const Bin* b)
 
 #endif
 
-template <class Bins> inline void count_bins(Bins bins, size_t n, i32* counts)
+// Counters are without a sign, so that a full one wraps.
+template <class Bins> inline void count_bins(Bins bins, size_t n, u32* counts)
 {
     size_t k = 0;
 #if SIG5D_LEVEL > 0
@@ -136,11 +137,11 @@ template <class Bins> inline void count_bins(Bins bins, size_t n, i32* counts)
     for (; k < n; ++k) ++counts[bins.at(k)];
 }
 
-void histo_count(const u32* bins, i32* counts, u32 n) { count_bins(Given{bins}, n, counts); }
+void histo_count(const u32* bins, i32* counts, u32 n) { count_bins(Given{bins}, n, reinterpret_cast<u32*>(counts)); }
 
 void histogram_count(const f64* x, f64 scale, f64 offset, i32* counts, i32 bins, u32 n)
 {
-    count_bins(EqualWidth(x, n, scale, offset, bins), n, counts);
+    count_bins(EqualWidth(x, n, scale, offset, bins), n, reinterpret_cast<u32*>(counts));
 }
 
 void histogram_store(const f64* x, f64 scale, f64 offset, f64* d, i32 bins, u32 n)

@@ -1,0 +1,220 @@
+// Extremes of bytes, with the places where they come first, and sums.
+#include "frame/entry.h"
+#include "kernel/loops.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+struct Found {
+    u8 value;
+    size_t index;
+};
+
+#if SIG5D_LEVEL > 0
+
+inline __m128i larger(__m128i x, __m128i y) { return _mm_max_epu8(x, y); }
+inline __m128i smaller(__m128i x, __m128i y) { return _mm_min_epu8(x, y); }
+inline u32 equal(__m128i x, __m128i y) { return static_cast<u32>(_mm_movemask_epi8(_mm_cmpeq_epi8(x, y))); }
+inline __m128i distances(__m128i x, __m128i y) { return _mm_sad_epu8(x, y); }
+#if SIG5D_LEVEL >= 5
+inline __m256i larger(__m256i x, __m256i y) { return _mm256_max_epu8(x, y); }
+inline __m256i smaller(__m256i x, __m256i y) { return _mm256_min_epu8(x, y); }
+inline u32 equal(__m256i x, __m256i y) { return static_cast<u32>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(x, y))); }
+inline __m256i distances(__m256i x, __m256i y) { return _mm256_sad_epu8(x, y); }
+#endif
+
+template <int bytes> using Register = Vec<long long, bytes / 8>;
+template <int bytes> inline Register<bytes> at(const u8* p)
+{
+    return reinterpret_cast<Register<bytes>>(loadn<bytes>(p));
+}
+
+#endif
+
+struct Largest {
+    static constexpr u8 start = 0, last = 255; // what an element must surpass, and what none surpasses
+    static bool better(u8 x, u8 y) { return x > y; }
+#if SIG5D_LEVEL > 0
+    template <class V> static V best(V x, V y) { return larger(x, y); }
+#endif
+};
+struct Smallest {
+    static constexpr u8 start = 255, last = 0;
+    static bool better(u8 x, u8 y) { return x < y; }
+#if SIG5D_LEVEL > 0
+    template <class V> static V best(V x, V y) { return smaller(x, y); }
+#endif
+};
+
+// The first of the best elements.
+template <class Kind> inline Found plain_extreme(const u8* p, size_t n)
+{
+    Found found{Kind::start, 0};
+    for (size_t i = 0; i < n; ++i)
+        if (Kind::better(p[i], found.value)) found = {p[i], i};
+    return found;
+}
+inline u32 plain_sum(const u8* p, size_t n)
+{
+    u32 total = 0;
+    for (size_t i = 0; i < n; ++i) total += p[i];
+    return total;
+}
+
+#if SIG5D_LEVEL == 0
+
+template <class Kind, bool indexed> Found extreme(const u8* p, u32 n) { return plain_extreme<Kind>(p, n); }
+u32 sum_of(const u8* p, u32 n) { return plain_sum(p, n); }
+
+#else
+
+// Elements that are searched for the place once their values are known to contain it.
+constexpr size_t blockVectors = 32;
+
+// n >= bytes; the last vector may overlap others.
+template <class Kind, int bytes> inline Register<bytes> best_of(const u8* p, size_t n)
+{
+    using V = Register<bytes>;
+    const V tail = at<bytes>(p + (n - bytes));
+    V b0 = at<bytes>(p), b1 = tail, b2 = tail, b3 = tail;
+    for (; n >= 8 * bytes; n -= 8 * bytes, p += 8 * bytes) {
+        b0 = Kind::best(Kind::best(b0, at<bytes>(p)), at<bytes>(p + 4 * bytes));
+        b1 = Kind::best(Kind::best(b1, at<bytes>(p + bytes)), at<bytes>(p + 5 * bytes));
+        b2 = Kind::best(Kind::best(b2, at<bytes>(p + 2 * bytes)), at<bytes>(p + 6 * bytes));
+        b3 = Kind::best(Kind::best(b3, at<bytes>(p + 3 * bytes)), at<bytes>(p + 7 * bytes));
+    }
+    for (; n >= bytes; n -= bytes, p += bytes) b0 = Kind::best(b0, at<bytes>(p));
+    return Kind::best(Kind::best(b0, b1), Kind::best(b2, b3));
+}
+
+template <class Kind> inline u8 best_lane(__m128i x)
+{
+    x = Kind::best(x, _mm_unpackhi_epi64(x, x));
+    x = Kind::best(x, _mm_srli_epi64(x, 32));
+    x = Kind::best(x, _mm_srli_epi64(x, 16));
+    x = Kind::best(x, _mm_srli_epi64(x, 8));
+    return static_cast<u8>(_mm_cvtsi128_si32(x));
+}
+#if SIG5D_LEVEL >= 5
+template <class Kind> inline u8 best_lane(__m256i x)
+{
+    return best_lane<Kind>(Kind::best(_mm256_castsi256_si128(x), _mm256_extracti128_si256(x, 1)));
+}
+#endif
+
+template <int bytes> inline Register<bytes> repeated(u8 x)
+{
+    return reinterpret_cast<Register<bytes>>(splatn<bytes>(x));
+}
+
+// The lowest bit that is set; one is. The compiler itself would write tzcnt, which is above every variant's level.
+inline u32 first_bit(u32 x)
+{
+    u32 number;
+    asm("bsf %1, %0" : "=r"(number) : "r"(x) : "cc");
+    return number;
+}
+
+// Where x comes first among n >= bytes elements that contain it.
+template <int bytes> inline size_t place_of(u8 x, const u8* p, size_t n)
+{
+    const auto wanted = repeated<bytes>(x);
+    for (size_t i = 0;; i += bytes) {
+        if (i + bytes > n) i = n - bytes; // what it has in common with the vector before does not contain x
+        if (const u32 places = equal(at<bytes>(p + i), wanted)) return i + first_bit(places);
+    }
+}
+
+// Block by block, as long as there may be something better; at the end the best block is searched. n >= bytes.
+template <class Kind, int bytes, bool indexed> inline Found extreme_of(const u8* p, size_t n)
+{
+    constexpr size_t block = blockVectors * bytes;
+    Found found{Kind::start, 0};
+    size_t size = 0; // of the block that contains it
+    auto best = repeated<bytes>(Kind::start);
+    for (size_t begin = 0, end; begin < n && found.value != Kind::last; begin = end) {
+        end = n - begin < 2 * block ? n : begin + block - (begin ? 0 : reinterpret_cast<uintptr_t>(p) % bytes);
+        const auto here = best_of<Kind, bytes>(p + begin, end - begin);
+        if (equal(Kind::best(here, best), best) == static_cast<u32>((u64{1} << bytes) - 1)) continue;
+        found = {best_lane<Kind>(here), begin};
+        size = end - begin;
+        best = repeated<bytes>(found.value);
+    }
+    if constexpr (indexed)
+        if (size) found.index += place_of<bytes>(found.value, p + found.index, size);
+    return found;
+}
+
+template <class Kind, bool indexed> [[gnu::noinline]] Found extreme(const u8* p, u32 n)
+{
+    if (n >= vectorBytes) return extreme_of<Kind, vectorBytes, indexed>(p, n);
+    if (n >= 16) return extreme_of<Kind, 16, indexed>(p, n);
+    return plain_extreme<Kind>(p, n);
+}
+
+// Eight sums of eight bytes each or more a step. What is left over goes in eights and one by one.
+[[gnu::noinline]] u32 sum_of(const u8* p, u32 len)
+{
+    constexpr int bytes = vectorBytes;
+    using V = Register<bytes>;
+    const V zero{};
+    size_t n = len;
+    u32 total = 0;
+    if (n >= 16 * bytes) {
+        const size_t skip = misalignment(p);
+        total = plain_sum(p, skip);
+        p += skip;
+        n -= skip;
+    }
+    V s0{}, s1{}, s2{}, s3{};
+    for (; n >= 4 * bytes; n -= 4 * bytes, p += 4 * bytes) {
+        s0 += distances(at<bytes>(p), zero);
+        s1 += distances(at<bytes>(p + bytes), zero);
+        s2 += distances(at<bytes>(p + 2 * bytes), zero);
+        s3 += distances(at<bytes>(p + 3 * bytes), zero);
+    }
+    for (; n >= bytes; n -= bytes, p += bytes) s0 += distances(at<bytes>(p), zero);
+    for (; n >= 8; n -= 8, p += 8) {
+        const __m128i eight = _mm_sad_epu8(reinterpret_cast<__m128i>(load_part<8>(p)), __m128i{});
+        total += static_cast<u32>(_mm_cvtsi128_si32(eight));
+    }
+    const auto lanes = reinterpret_cast<Vec<u32, bytes / 4>>((s0 + s1) + (s2 + s3));
+    for (int i = 0; i < bytes / 4; i += 2) total += lanes[i];
+    return total + plain_sum(p, n);
+}
+
+#endif
+
+void maximum(const u8* a, u32 n, u8* max) { *max = extreme<Largest, false>(a, n).value; }
+void minimum(const u8* a, u32 n, u8* min) { *min = extreme<Smallest, false>(a, n).value; }
+void extremes(const u8* a, u32 n, u8* min, u8* max)
+{
+    const u8 low = extreme<Smallest, false>(a, n).value;
+    *max = extreme<Largest, false>(a, n).value;
+    *min = low;
+}
+void maximum(const u8* a, u32 n, u8* max, i32* index)
+{
+    const Found found = extreme<Largest, true>(a, n);
+    *max = found.value;
+    *index = static_cast<i32>(found.index);
+}
+void minimum(const u8* a, u32 n, u8* min, i32* index)
+{
+    const Found found = extreme<Smallest, true>(a, n);
+    *min = found.value;
+    *index = static_cast<i32>(found.index);
+}
+void extremes(const u8* a, u32 n, u8* min, i32* minIndex, u8* max, i32* maxIndex)
+{
+    const Found low = extreme<Smallest, true>(a, n), high = extreme<Largest, true>(a, n);
+    *min = low.value;
+    *minIndex = static_cast<i32>(low.index);
+    *max = high.value;
+    *maxIndex = static_cast<i32>(high.index);
+}
+void total(const u8* a, u32 n, i32* sum) { *sum = static_cast<i32>(sum_of(a, n)); }
+
+} // namespace
+#include "entries/vector/byte_statistics.inc"
+} // namespace sig5d::SIG5D_VARIANT

@@ -1,0 +1,135 @@
+// Exact integer division lane by lane, in floating point: a quotient of integers that is no integer lies further from
+// the next one than rounding moves it.
+#pragma once
+#include "vector/two_results.h"
+#if SIG5D_LEVEL > 0
+#include <immintrin.h>
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// The lower and the upper elements of a vector (of each half of 32 bytes), widened; and narrowed again to the low bits.
+inline Vec<i32, 4> low_i32(Vec<i16, 8> x)
+{
+    return reinterpret_cast<Vec<i32, 4>>(
+               _mm_unpacklo_epi16(reinterpret_cast<__m128i>(x), reinterpret_cast<__m128i>(x))) >>
+           16;
+}
+inline Vec<i32, 4> high_i32(Vec<i16, 8> x)
+{
+    return reinterpret_cast<Vec<i32, 4>>(
+               _mm_unpackhi_epi16(reinterpret_cast<__m128i>(x), reinterpret_cast<__m128i>(x))) >>
+           16;
+}
+inline Vec<i16, 8> narrowed(Vec<i32, 4> low, Vec<i32, 4> high)
+{
+    const Vec<i32, 4> l = low << 16 >> 16, h = high << 16 >> 16;
+    return reinterpret_cast<Vec<i16, 8>>(_mm_packs_epi32(reinterpret_cast<__m128i>(l), reinterpret_cast<__m128i>(h)));
+}
+inline Vec<i16, 8> low_i16(Vec<u8, 16> x)
+{
+    return reinterpret_cast<Vec<i16, 8>>(_mm_unpacklo_epi8(reinterpret_cast<__m128i>(x), __m128i{}));
+}
+inline Vec<i16, 8> high_i16(Vec<u8, 16> x)
+{
+    return reinterpret_cast<Vec<i16, 8>>(_mm_unpackhi_epi8(reinterpret_cast<__m128i>(x), __m128i{}));
+}
+inline Vec<u8, 16> narrowed(Vec<i16, 8> low, Vec<i16, 8> high)
+{
+    return reinterpret_cast<Vec<u8, 16>>(
+        _mm_packus_epi16(reinterpret_cast<__m128i>(low), reinterpret_cast<__m128i>(high)));
+}
+#if SIG5D_LEVEL >= 5
+inline Vec<i32, 8> low_i32(Vec<i16, 16> x)
+{
+    return reinterpret_cast<Vec<i32, 8>>(
+               _mm256_unpacklo_epi16(reinterpret_cast<__m256i>(x), reinterpret_cast<__m256i>(x))) >>
+           16;
+}
+inline Vec<i32, 8> high_i32(Vec<i16, 16> x)
+{
+    return reinterpret_cast<Vec<i32, 8>>(
+               _mm256_unpackhi_epi16(reinterpret_cast<__m256i>(x), reinterpret_cast<__m256i>(x))) >>
+           16;
+}
+inline Vec<i16, 16> narrowed(Vec<i32, 8> low, Vec<i32, 8> high)
+{
+    const Vec<i32, 8> l = low << 16 >> 16, h = high << 16 >> 16;
+    return reinterpret_cast<Vec<i16, 16>>(
+        _mm256_packs_epi32(reinterpret_cast<__m256i>(l), reinterpret_cast<__m256i>(h)));
+}
+inline Vec<i16, 16> low_i16(Vec<u8, 32> x)
+{
+    return reinterpret_cast<Vec<i16, 16>>(_mm256_unpacklo_epi8(reinterpret_cast<__m256i>(x), __m256i{}));
+}
+inline Vec<i16, 16> high_i16(Vec<u8, 32> x)
+{
+    return reinterpret_cast<Vec<i16, 16>>(_mm256_unpackhi_epi8(reinterpret_cast<__m256i>(x), __m256i{}));
+}
+inline Vec<u8, 32> narrowed(Vec<i16, 16> low, Vec<i16, 16> high)
+{
+    return reinterpret_cast<Vec<u8, 32>>(
+        _mm256_packus_epi16(reinterpret_cast<__m256i>(low), reinterpret_cast<__m256i>(high)));
+}
+#endif
+
+// In doubles: |x| <= 2^31, so that a quotient has an error below 2^-22 / |y|, and lies at least 1 / |y| away from an
+// integer that it is not.
+inline Vec<i32, 4> quotient_i32(Vec<i32, 4> x, Vec<i32, 4> y)
+{
+#if SIG5D_LEVEL >= 4
+    const auto q = _mm256_cvtepi32_pd(reinterpret_cast<__m128i>(x)) / _mm256_cvtepi32_pd(reinterpret_cast<__m128i>(y));
+    return reinterpret_cast<Vec<i32, 4>>(_mm256_cvttpd_epi32(q));
+#else
+    const auto upper = [](Vec<i32, 4> v) { return _mm_unpackhi_epi64(reinterpret_cast<__m128i>(v), __m128i{}); };
+    const auto low = _mm_cvtepi32_pd(reinterpret_cast<__m128i>(x)) / _mm_cvtepi32_pd(reinterpret_cast<__m128i>(y));
+    const auto high = _mm_cvtepi32_pd(upper(x)) / _mm_cvtepi32_pd(upper(y));
+    return reinterpret_cast<Vec<i32, 4>>(_mm_unpacklo_epi64(_mm_cvttpd_epi32(low), _mm_cvttpd_epi32(high)));
+#endif
+}
+#if SIG5D_LEVEL >= 5
+inline Vec<i32, 8> quotient_i32(Vec<i32, 8> x, Vec<i32, 8> y)
+{
+    const auto low = [](Vec<i32, 8> v) { return __builtin_shufflevector(v, v, 0, 1, 2, 3); };
+    const auto high = [](Vec<i32, 8> v) { return __builtin_shufflevector(v, v, 4, 5, 6, 7); };
+    return __builtin_shufflevector(quotient_i32(low(x), low(y)), quotient_i32(high(x), high(y)), 0, 1, 2, 3, 4, 5, 6,
+                                   7);
+}
+#endif
+
+// In single precision: |x| <= 2^15, the error is below 2^-8 / |y|.
+template <class V> inline V quotient_i24(V x, V y)
+{
+    using F = Vec<f32, sizeof(V) / 4>;
+    return __builtin_convertvector(__builtin_convertvector(x, F) / __builtin_convertvector(y, F), V);
+}
+template <class V> inline V quotient_i16(V x, V y)
+{
+    return narrowed(quotient_i24(low_i32(x), low_i32(y)), quotient_i24(high_i32(x), high_i32(y)));
+}
+
+template <class T, class V> inline V quotient(V x, V y)
+{
+    if constexpr (sizeof(T) == 4)
+        return quotient_i32(x, y);
+    else if constexpr (sizeof(T) == 2)
+        return quotient_i16(x, y);
+    else
+        return narrowed(quotient_i16(low_i16(x), low_i16(y)), quotient_i16(high_i16(x), high_i16(y)));
+}
+
+template <class T, class V> inline Division<V> division(V x, V y)
+{
+    if constexpr (sizeof(T) == 1) { // products of bytes need lanes of two
+        const auto low = division<i16>(low_i16(x), low_i16(y)), high = division<i16>(high_i16(x), high_i16(y));
+        return {narrowed(low.quotient, high.quotient), narrowed(low.remainder, high.remainder)};
+    } else {
+        using U = Vec<typename UnsignedLane<T>::type, sizeof(V) / sizeof(T)>;
+        const V q = quotient<T>(x, y);
+        return {q, reinterpret_cast<V>(reinterpret_cast<U>(x) - reinterpret_cast<U>(q) * reinterpret_cast<U>(y))};
+    }
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
+#endif

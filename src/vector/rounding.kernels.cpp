@@ -1,0 +1,106 @@
+// Rounding to integers that stay doubles, and remainders of quotients that are truncated to 32 bits.
+#include "frame/entry.h"
+#include "kernel/loops.h"
+#include "vector/masks.h"
+#include <immintrin.h>
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// From here on every double is an integer.
+constexpr f64 allWhole = 0x1p52;
+
+#if SIG5D_LEVEL == 0
+
+// x, or one of the integers next to it; NaN and what is an integer by its size unchanged.
+inline f64 near_integer(f64 x)
+{
+    const f64 size = __builtin_fabs(x);
+    return size < allWhole ? __builtin_copysign((size + allWhole) - allWhole, x) : x;
+}
+struct Down {
+    f64 operator()(f64 x) const
+    {
+        const f64 near = near_integer(x);
+        return near > x ? near - 1.0 : near;
+    }
+};
+struct Up {
+    f64 operator()(f64 x) const
+    {
+        const f64 near = near_integer(x);
+        return __builtin_copysign(near < x ? near + 1.0 : near, x); // -0.0 between -1 and 0
+    }
+};
+
+#elif SIG5D_LEVEL < 3
+
+template <class V> inline V near_integer(V x)
+{
+    const V sign = both(x, all<V>(-0.0)), size = without(x, all<V>(-0.0)), limit = all<V>(allWhole);
+    const V near = either((size + limit) - limit, sign), fraction = less(size, limit);
+    return either(both(near, fraction), without(x, fraction));
+}
+struct Down {
+    template <class V> V operator()(V x) const
+    {
+        const V near = near_integer(x);
+        return near - both(less(x, near), all<V>(1.0));
+    }
+};
+struct Up {
+    template <class V> V operator()(V x) const
+    {
+        const V near = near_integer(x);
+        const V up = near + both(less(near, x), all<V>(1.0));
+        return either(up, both(x, all<V>(-0.0))); // -0.0 between -1 and 0
+    }
+};
+
+#else
+
+struct Down {
+    Vec<f64, 2> operator()(Vec<f64, 2> x) const { return _mm_floor_pd(x); }
+#if SIG5D_LEVEL >= 4
+    Vec<f64, 4> operator()(Vec<f64, 4> x) const { return _mm256_floor_pd(x); }
+#endif
+};
+struct Up {
+    Vec<f64, 2> operator()(Vec<f64, 2> x) const { return _mm_ceil_pd(x); }
+#if SIG5D_LEVEL >= 4
+    Vec<f64, 4> operator()(Vec<f64, 4> x) const { return _mm256_ceil_pd(x); }
+#endif
+};
+
+#endif
+
+// Truncated to a signed 32-bit integer, -2^31 where it does not fit, as the processor's conversion does.
+inline f64 truncated(f64 x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
+#if SIG5D_LEVEL > 0
+inline Vec<f64, 2> truncated(Vec<f64, 2> x) { return _mm_cvtepi32_pd(_mm_cvttpd_epi32(x)); }
+#endif
+#if SIG5D_LEVEL >= 4
+inline Vec<f64, 4> truncated(Vec<f64, 4> x) { return _mm256_cvtepi32_pd(_mm256_cvttpd_epi32(x)); }
+#endif
+
+template <class V> inline V repeated(f64 x) { return splatn<sizeof(V) / sizeof x>(x); }
+
+struct RemainderByValue {
+    f64 value, reciprocal;
+    template <class V> V operator()(V x) const
+    {
+        return x - repeated<V>(value) * truncated(x * repeated<V>(reciprocal));
+    }
+};
+struct Remainder {
+    template <class V> V operator()(V x, V y) const { return x - y * truncated(x / y); }
+};
+
+void round_up(const f64* a, f64* d, u32 n) { map(n, d, Up{}, a); }
+void round_down(const f64* a, f64* d, u32 n) { map(n, d, Down{}, a); }
+void remainder_by_value(const f64* a, f64 v, f64* d, u32 n) { map(n, d, RemainderByValue{v, 1.0 / v}, a); }
+void remainder(const f64* a, const f64* b, f64* d, u32 n) { map(n, d, Remainder{}, a, b); }
+
+} // namespace
+#include "entries/vector/rounding.inc"
+} // namespace sig5d::SIG5D_VARIANT
