@@ -19,3 +19,9 @@ sig5d_test(fft signal/processing/fft_test.cpp)
 target_link_libraries(fft_test PRIVATE sig5d_test_internal)
 
 sig5d_test(fir signal/fir_single_test.cpp signal/fir_multi_test.cpp frame/fir_handles_test.cpp)
+
+sig5d_test(polar signal/polar_test.cpp)
+if(TARGET libm_mpfr_test) # where MPFR is
+    sig5d_test(polar_mpfr signal/polar_mpfr_test.cpp)
+    target_link_libraries(polar_mpfr_test PRIVATE ${SIG5D_MPFR} ${SIG5D_GMP})
+endif()
