@@ -6,6 +6,18 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
+// The second, if they are equal or one is NaN.
+inline f64 minimum(f64 a, f64 b) { return a < b ? a : b; }
+inline f64 maximum(f64 a, f64 b) { return a > b ? a : b; }
+#if SIG5D_LEVEL > 0
+inline Vec<f64, 2> minimum(Vec<f64, 2> a, Vec<f64, 2> b) { return _mm_min_pd(a, b); }
+inline Vec<f64, 2> maximum(Vec<f64, 2> a, Vec<f64, 2> b) { return _mm_max_pd(a, b); }
+#if SIG5D_LEVEL >= 4
+inline Vec<f64, 4> minimum(Vec<f64, 4> a, Vec<f64, 4> b) { return _mm256_min_pd(a, b); }
+inline Vec<f64, 4> maximum(Vec<f64, 4> a, Vec<f64, 4> b) { return _mm256_max_pd(a, b); }
+#endif
+#endif
+
 // A slope between 0 and 1 as the tangent of its angle less an eighth of a turn (pi/4) or none: hi + lo to about 100
 // bits.
 template <class V> struct Slope {
@@ -47,9 +59,9 @@ template <class V> inline V angle_of(Slope<V> a, V x, V y)
 
     // For t the angle to the nearer axis, that to the positive real axis is 0 + t, pi/2 - t, pi/2 + t or pi - t: a
     // multiple of pi/4, whose upper part has 50 bits so that the product is exact, and the arc tangent or its opposite.
-    const auto steep = absolute_value(y) > absolute_value(x), behind = with_sign(one, x) < zero;
-    const auto turn = Bits::of(steep ? constant<V>(-0.0) : zero) ^ (Bits::of(x) & Bits::all(signBit));
-    const V axis = steep ? constant<V>(2.0) : behind ? constant<V>(4.0) : zero;
+    const auto steep = absolute_value(y) > absolute_value(x);
+    const auto behind = Bits::of(x) & Bits::all(signBit), turn = behind ^ Bits::of(steep ? constant<V>(-0.0) : zero);
+    const V two = constant<V>(2.0), axis = two - (steep ? zero : with_sign(two, x));
     const V eighths = axis + Bits::back(Bits::of(a.eighths) ^ turn),
             start = eighths * constant<V>(0x1.921fb54442d18p-1);
     const V head = Bits::back(Bits::of(a.hi) ^ turn), tail = Bits::back(Bits::of(low) ^ turn);
@@ -79,9 +91,9 @@ template <class V> inline void replace_unusual(V& angle, int unusual, V x, V y)
 }
 
 // atan2(y, x) in [-pi, pi], with the special values of the C standard.
-template <class V> inline V angle(V x, V y)
+template <class V> [[gnu::always_inline]] inline V angle(V x, V y)
 {
-    const V a = absolute_value(x), b = absolute_value(y), smaller = a < b ? a : b, larger = a < b ? b : a;
+    const V a = absolute_value(x), b = absolute_value(y), smaller = minimum(a, b), larger = maximum(b, a);
     const auto usual = (larger >= constant<V>(0x1p-450)) & (larger <= constant<V>(0x1p450)) &
                        ((smaller >= constant<V>(0x1p-900)) | (smaller == V{}));
     V result = angle_of(slope(smaller, larger), x, y);

@@ -73,7 +73,7 @@ template <class V> inline void replace_far(Parts<V>& w, int far, V x)
 }
 
 // (cos, sin) of any x; infinities and NaN give NaN.
-template <class V> inline Parts<V> cos_sin(V x)
+template <class V> [[gnu::always_inline]] inline Parts<V> cos_sin(V x)
 {
     const int far = lanes_set(absolute_value(x) <= constant<V>(0x1p15)) ^ allLanes<V>;
     Parts<V> w = moderate_cos_sin(x);
