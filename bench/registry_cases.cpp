@@ -18,18 +18,27 @@ using registry::Value;
 const struct Choice {
     const char* argument;
     std::vector<int> values;
-} choices[] = {{"scaleFactor", {0, 1}}};
+} choices[] = {{"scaleFactor", {0, 1, 5, 15, -2}}};
 
 // Where work beyond moving the arrays is the limit: operations on doubles for each element.
 const struct Work {
-    const char* family;
+    const char* family; // or one function, after its family
     Element element;
     double divisions, squareRoots;
 } works[] = {
     {"ippsDiv", Element::f64, 1, 0},
+    {"ippsDiv", Element::c64f, 1, 0},
     {"ippsDivCRev", Element::f64, 1, 0},
     {"ippsSqrt", Element::f64, 0, 1},
+    {"ippsSqrt", Element::c64f, 2, 2},
+    {"ippsMagnitude", Element::f64, 0, 1},
     {"ippsMagnitude", Element::c64f, 0, 1},
+    {"DivideValue", Element::f64, 1, 0},
+    {"DivideValue", Element::c64f, 1, 0},
+    {"DivideValuedc", Element::f64, 2, 0},
+    {"DivVeccd", Element::c64f, 2, 0},
+    {"DivVeccc", Element::c64f, 1, 0},
+    {"DivVecdc", Element::f64, 1, 0},
 };
 
 bool isLength(const Arg& a) { return a.kind == Kind::scalar && a.inExtent && !a.domainSize; }
@@ -148,7 +157,7 @@ void prepare(const Job& job, Setup& s)
     const Function& f = *job.f;
     const std::vector<Value> values = placeArrays(job, s);
     for (const Work& w : works)
-        if (!std::strcmp(w.family, f.family) && f.args[0].element == w.element) {
+        if ((!std::strcmp(w.family, f.family) || !std::strcmp(w.family, f.name)) && f.args[0].element == w.element) {
             s.divisions = w.divisions * s.elements;
             s.squareRoots = w.squareRoots * s.elements;
         }

@@ -295,6 +295,416 @@ typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
+/* ---- Arithmetic on doubles, element by element ---- */
+
+/* pDst[i] = pSrc1[i] + pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsAdd_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAdd_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAdd_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAdd_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAdd_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc2[i] - pSrc1[i]. Mind the order: the first array is subtracted from the second. In place:
+   pSrcDst[i] - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSub_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSub_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSub_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSub_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSub_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSub_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSub_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSub_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] + val. */
+IppStatus SIG5D_STDCALL ippsAddC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAddC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAddC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAddC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAddC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAddC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pDst[i] = pSrc[i] - val. */
+IppStatus SIG5D_STDCALL ippsSubC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSubC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pDst[i] = val - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSubCRev_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int
+        len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx,
+        int len);
+
+/* pDst[i] = pSrc1[i] * pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsMul_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMul_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMul_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMul_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMul_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMul_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMul_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMul_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] * val. */
+IppStatus SIG5D_STDCALL ippsMulC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMulC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMulC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMulC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMulC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsMulC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMulC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsMulC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pDst[i] = pSrc[i] * (1 / val). The reciprocal is rounded once, then multiplied: not the rounded quotient. */
+IppStatus SIG5D_STDCALL ippsDivC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDivC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDivC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDivC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsDivC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDivC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDivC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDivC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
+        len);
+
+/* pSrcDst[i] = pSrcDst[i] + pSrc1[i] * pSrc2[i]. The product is rounded, then the sum: no fused multiply-add. */
+IppStatus SIG5D_STDCALL ippsAddProduct_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddProduct_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx,
+        Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAddProduct_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddProduct_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx,
+        Ipp64fc* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[i] = pSrc[i] * pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSqr_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqr_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqr_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqr_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSqr_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqr_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqr_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = |pSrc[i]|. Clears the sign bit, also that of a NaN. */
+IppStatus SIG5D_STDCALL ippsAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = (pSrc[i].re, -pSrc[i].im). Changes the sign bit of the imaginary part, also of a NaN. */
+IppStatus SIG5D_STDCALL ippsConj_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsConj_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsConj_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsConj_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = conj(pSrc[len-1-i]). The conjugates in reverse order. */
+IppStatus SIG5D_STDCALL ippsConjFlip_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsConjFlip_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc2[i] / pSrc1[i]. Mind the order: the first array holds the divisors. In place: pSrcDst[i] /
+   pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsDiv_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDiv_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDiv_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDiv_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsDiv_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
+        pDst, int dstIdx, int len);
+
+/* pDst[i] = sqrt(pSrc[i]). */
+IppStatus SIG5D_STDCALL ippsSqrt_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqrt_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSqrt_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_STDCALL ippsSqrt_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDstRe[i] = pSrc[i].re. */
+IppStatus SIG5D_STDCALL ippsReal_64fc(const Ipp64fc* pSrc, Ipp64f* pDstRe, int len);
+IppStatus SIG5D_CDECL ippsReal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstRe, int dstReIdx, int len);
+
+/* pDstIm[i] = pSrc[i].im. */
+IppStatus SIG5D_STDCALL ippsImag_64fc(const Ipp64fc* pSrc, Ipp64f* pDstIm, int len);
+IppStatus SIG5D_CDECL ippsImag_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstIm, int dstImIdx, int len);
+
+/* pDstRe[i] = pSrc[i].re, pDstIm[i] = pSrc[i].im. */
+IppStatus SIG5D_STDCALL ippsCplxToReal_64fc(const Ipp64fc* pSrc, Ipp64f* pDstRe, Ipp64f* pDstIm, int len);
+IppStatus SIG5D_CDECL ippsCplxToReal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstRe, int dstReIdx, Ipp64f*
+        pDstIm, int dstImIdx, int len);
+
+/* pDst[i] = (pSrcRe[i], pSrcIm[i]). One of the sources may be null: its part is 0. */
+IppStatus SIG5D_STDCALL ippsRealToCplx_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsRealToCplx_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64fc* pDst, int dstIdx, int len);
+
+/* pDst[i] = sqrt(re * re + im * im). Each operation is rounded; squares overflow from 1.34e154 on and vanish below
+   1.5e-162. */
+IppStatus SIG5D_STDCALL ippsMagnitude_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsMagnitude_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMagnitude_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsMagnitude_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = re * re + im * im. */
+IppStatus SIG5D_STDCALL ippsPowerSpectr_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsPowerSpectr_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsPowerSpectr_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsPowerSpectr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* ---- Integer arithmetic with scale factors ---- */
+
+/* pDst[i] = (pSrc1[i] + pSrc2[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsAdd_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc2[i] - pSrc1[i]) * 2^-scaleFactor. Mind the order: the first array is subtracted from the second.
+   In place: pSrcDst[i] - pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsSub_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
+        Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc[i] + val) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsAddC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = (pSrc[i] - val) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSubC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = (val - pSrc[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int
+        dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int
+        len, int scaleFactor);
+
+/* pDst[i] = pSrc1[i] * pSrc2[i] * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMul_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = pSrc[i] * val * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMulC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pSrcDst[i] = (pSrcDst[i] + pSrc1[i] * pSrc2[i]) * 2^-scaleFactor. The sum is scaled as a whole, what was in
+   pSrcDst too. */
+IppStatus SIG5D_STDCALL ippsAddProduct_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pSrcDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsAddProduct_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx,
+        Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc2[i] * 2^-scaleFactor) / pSrc1[i]. Mind the order: the first array holds the divisors. In place:
+   pSrcDst[i] / pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsDiv_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc[i] * 2^-scaleFactor) / val. */
+IppStatus SIG5D_STDCALL ippsDivC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = |pSrc[i]|. */
+IppStatus SIG5D_STDCALL ippsAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_16s_I(Ipp16s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_STDCALL ippsAbs_32s_I(Ipp32s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_CDECL ippsAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */
@@ -656,6 +1066,480 @@ IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
    (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
 IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
 
+/* ---- Matrices: transpose, sub-matrices, exchanges, triangles ---- */
+
+/* dst(j, i) = src(i, j), that is dst[j*dstStride+i] = src[i*srcStride+j]. Rows and columns are those of the
+   source; the destination receives cols rows of rows elements. Bits are moved. */
+void SIG5D_CDECL TransposeMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+
+/* dst(j, i) = conj(src(i, j)). The conjugate transpose. Conjugation inverts the sign bit of the imaginary part:
+   +0.0 becomes -0.0, a NaN keeps its payload. */
+void SIG5D_CDECL AdjungateMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL AdjungateMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+
+/* a(i, j) and a(j, i) exchanged for i > j. Transposes in place; the diagonal is not touched. */
+void SIG5D_CDECL TransposeSquareMatrix(Ipp64f* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_16s(Ipp16s* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_16s_Idx(Ipp16s* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_32s(Ipp32s* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_32s_Idx(Ipp32s* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_8u(Ipp8u* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_8u_Idx(Ipp8u* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_Idx(Ipp64f* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrixc(Ipp64fc* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrixc_Idx(Ipp64fc* a, int aIdx, unsigned int n, unsigned int stride);
+
+/* a(i, j) = conj(old a(j, i)). The conjugate transpose in place: every element, the diagonal too, gets the
+   conjugate of its mirror image. */
+void SIG5D_CDECL AdjungateSquareMatrixc(Ipp64fc* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL AdjungateSquareMatrixc_Idx(Ipp64fc* a, int aIdx, unsigned int n, unsigned int stride);
+
+/* dst(dstRow+i, dstCol+j) = src(srcRow+i, srcCol+j). Copies a block of rows x cols elements; elements of the
+   destination outside the block keep their contents. */
+void SIG5D_CDECL CopySubMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int srcRow, unsigned int srcCol, unsigned int
+        dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int srcRow, unsigned int srcCol, unsigned
+        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int srcRow, unsigned int srcCol, unsigned
+        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int srcRow, unsigned int srcCol, unsigned int
+        dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int srcRow, unsigned int srcCol, unsigned
+        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+
+/* dst(i, j) = src(i, j). Copies the top left block of a matrix into one of another row stride. Nothing is filled:
+   a caller that grows a matrix passes the old size and sets the new elements itself, one that shrinks it passes
+   the new size. */
+void SIG5D_CDECL ResizeMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+
+/* a(row1, k) and a(row2, k) exchanged for k < cols. A row exchanged with itself stays as it is. Bits are moved,
+   both parts of complex elements together. */
+void SIG5D_CDECL RowExchange(Ipp64f* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int stride);
+void SIG5D_CDECL RowExchange_16s(Ipp16s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchange_32s(Ipp32s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchange_32s_Idx(Ipp32s* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchange_8u(Ipp8u* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchange_8u_Idx(Ipp8u* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchange_Idx(Ipp64f* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+void SIG5D_CDECL RowExchangec(Ipp64fc* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchangec_Idx(Ipp64fc* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
+
+/* a(k, col1) and a(k, col2) exchanged for k < rows. A column exchanged with itself stays as it is. Bits are moved,
+   both parts of complex elements together. */
+void SIG5D_CDECL ColExchange(Ipp64f* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int stride);
+void SIG5D_CDECL ColExchange_16s(Ipp16s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchange_32s(Ipp32s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchange_32s_Idx(Ipp32s* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchange_8u(Ipp8u* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchange_8u_Idx(Ipp8u* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchange_Idx(Ipp64f* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+void SIG5D_CDECL ColExchangec(Ipp64fc* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchangec_Idx(Ipp64fc* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
+
+/* dst(i, j) = src(i, j) for j < i, and for j = i when diagonal is not 0. The matrix need not be square. Elements
+   outside the triangle keep their contents. */
+void SIG5D_CDECL LowerTriangle(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTrianglec(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+
+/* dst(i, j) = src(i, j) for j > i, and for j = i when diagonal is not 0. The matrix need not be square. Elements
+   outside the triangle keep their contents. */
+void SIG5D_CDECL UpperTriangle(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTrianglec(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+
+/* a(i, j) = 0 for j < i, and for j = i when diagonal is not 0. Sets all bits to zero: +0.0 in floating-point
+   matrices. */
+void SIG5D_CDECL ZeroLowerTriangle(Ipp64f* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_32s(Ipp32s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_32s_Idx(Ipp32s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_8u(Ipp8u* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_8u_Idx(Ipp8u* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
+        int diagonal);
+void SIG5D_CDECL ZeroLowerTrianglec(Ipp64fc* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+
+/* a(i, j) = 0 for j > i, and for j = i when diagonal is not 0. Sets all bits to zero: +0.0 in floating-point
+   matrices. */
+void SIG5D_CDECL ZeroUpperTriangle(Ipp64f* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_32s(Ipp32s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_32s_Idx(Ipp32s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_8u(Ipp8u* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_8u_Idx(Ipp8u* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
+        int diagonal);
+void SIG5D_CDECL ZeroUpperTrianglec(Ipp64fc* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+
+/* ---- Bit packing and pointer access ---- */
+
+/* bit i of words[w] = src[offset+32*w+i] != 0. Packs one bit an element, the first into the lowest bit. Bits
+   beyond `end` are 0. */
+void SIG5D_CDECL BitPack_16s(const Ipp16s* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
+        nWords);
+void SIG5D_CDECL BitPack_16s_Idx(const Ipp16s* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
+        int wordsIdx, unsigned int nWords);
+void SIG5D_CDECL BitPack_32s(const Ipp32s* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
+        nWords);
+void SIG5D_CDECL BitPack_32s_Idx(const Ipp32s* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
+        int wordsIdx, unsigned int nWords);
+void SIG5D_CDECL BitPack_8u(const Ipp8u* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
+        nWords);
+void SIG5D_CDECL BitPack_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
+        int wordsIdx, unsigned int nWords);
+
+/* dst[offset+i] = bit i%32 of words[i/32]. Writes 1 or 0 for each bit, the lowest first. `reserved` is ignored. */
+void SIG5D_CDECL BitUnpack_16s(const Ipp32u* words, unsigned int reserved, Ipp16s* dst, unsigned int offset, unsigned
+        int n);
+void SIG5D_CDECL BitUnpack_16s_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp16s* dst, int dstIdx,
+        unsigned int offset, unsigned int n);
+void SIG5D_CDECL BitUnpack_32s(const Ipp32u* words, unsigned int reserved, Ipp32s* dst, unsigned int offset, unsigned
+        int n);
+void SIG5D_CDECL BitUnpack_32s_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp32s* dst, int dstIdx,
+        unsigned int offset, unsigned int n);
+void SIG5D_CDECL BitUnpack_8u(const Ipp32u* words, unsigned int reserved, Ipp8u* dst, unsigned int offset, unsigned
+        int n);
+void SIG5D_CDECL BitUnpack_8u_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp8u* dst, int dstIdx,
+        unsigned int offset, unsigned int n);
+
+/* *out = *p. */
+void SIG5D_STDCALL GetValFromPtr(const Ipp64f* p, Ipp64f* out);
+
+/* the result is *p. */
+Ipp64f SIG5D_STDCALL GetValFromPtrf(const Ipp64f* p);
+
+/* *out = *p. */
+void SIG5D_STDCALL GetValcFromPtr(const Ipp64fc* p, Ipp64fc* out);
+
+/* *out = *p. */
+void SIG5D_STDCALL GetValIFromPtr(const Ipp32s* p, Ipp32s* out);
+
+/* *p = value. */
+void SIG5D_STDCALL SetValToPtr(Ipp64f* p, Ipp64f value);
+
+/* *p = *value. */
+void SIG5D_STDCALL SetValcToPtr(Ipp64fc* p, const Ipp64fc* value);
+
+/* *p = value. */
+void SIG5D_STDCALL SetValIToPtr(Ipp32s* p, Ipp32s value);
+
+/* ---- Histograms ---- */
+
+/* counts[bins[k]] += 1. Bin numbers are used as they are; only counters that a bin number names are touched. */
+void SIG5D_CDECL HistoCount(const Ipp32u* bins, Ipp32s* counts, unsigned int n);
+void SIG5D_CDECL HistoCount_Idx(const Ipp32u* bins, int binsIdx, Ipp32s* counts, int countsIdx, unsigned int n);
+
+/* counts[b] += 1, b = (int)((src[k] - offset)*scale), limited to 0 .. nBins-1. Bins of equal width: bin b holds
+   offset + b/scale up to offset + (b+1)/scale, and the outermost bins everything beyond. The product is truncated
+   toward zero; a NaN or what no 32-bit integer holds becomes -2147483648, hence bin 0. The counts are exact on
+   every processor. */
+void SIG5D_CDECL HistogramCount(const Ipp64f* src, Ipp64f scale, Ipp64f offset, Ipp32s* counts, int nBins, unsigned
+        int n);
+void SIG5D_CDECL HistogramCount_Idx(const Ipp64f* src, int srcIdx, Ipp64f scale, Ipp64f offset, Ipp32s* counts, int
+        countsIdx, int nBins, unsigned int n);
+
+/* dst[b] = src[k], b as for HistogramCount. Stores and does not add: each bin holds the last value that fell into
+   it, and keeps what it held when none did. */
+void SIG5D_CDECL HistogramSum(const Ipp64f* src, Ipp64f scale, Ipp64f offset, Ipp64f* dst, int nBins, unsigned int n);
+void SIG5D_CDECL HistogramSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f scale, Ipp64f offset, Ipp64f* dst, int dstIdx,
+        int nBins, unsigned int n);
+
+/* sums[bins[k]] += values[k], in the middle of the array by pairs. In a pair both sums are read before either is
+   written: when the two bins are the same, the first value of the pair is lost. Values outside of pairs are all
+   added. The pairs are the same on every processor and depend on the address of the values: with n < 8, or values
+   at an address that is no multiple of 8, there are none. Otherwise they begin at p = 0 when the values are
+   16-byte aligned, else at p = 1, and there are 4*((n-p)/8) of them, rounded down; none when n < p+8. */
+void SIG5D_CDECL HistoSum(const Ipp32u* bins, const Ipp64f* values, Ipp64f* sums, unsigned int n);
+void SIG5D_CDECL HistoSum_Idx(const Ipp32u* bins, int binsIdx, const Ipp64f* values, int valuesIdx, Ipp64f* sums, int
+        sumsIdx, unsigned int n);
+
+/* ---- Masks, index search and counting ---- */
+
+/* mask[k] = src[k] ? value, ? by code: 0 <, 1 <=, 2 >, 3 >=, 4 ==, 5 !=. A mask for the packs and unpacks: 1 where
+   the comparison holds, 0 where it does not. Another code leaves the mask as it is. 8u is unsigned. */
+void SIG5D_CDECL FindMaskC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+void SIG5D_CDECL FindMaskC_32s_Idx(unsigned int code, const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+void SIG5D_CDECL FindMaskC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+void SIG5D_CDECL FindMaskC_8u_Idx(unsigned int code, const Ipp8u* src, int srcIdx, Ipp8u value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
+
+/* mask[k] = src1[k] ? src2[k], ? by code as for FindMaskC. */
+void SIG5D_CDECL FindMask_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+void SIG5D_CDECL FindMask_32s_Idx(unsigned int code, const Ipp32s* src1, int src1Idx, const Ipp32s* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+void SIG5D_CDECL FindMask_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+void SIG5D_CDECL FindMask_8u_Idx(unsigned int code, const Ipp8u* src1, int src1Idx, const Ipp8u* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+
+/* *count = number of k with src[k] > value. NaNs count nothing. */
+void SIG5D_CDECL CountGT(const Ipp64f* src, Ipp64f value, unsigned int* count, unsigned int n);
+void SIG5D_CDECL CountGT_Idx(const Ipp64f* src, int srcIdx, Ipp64f value, unsigned int* count, unsigned int n);
+
+/* indexes[(*count)++] = k for each k with src[k] ? value, ? by code as for FindMaskC. The positions, counted from
+   src[0], where the comparison holds, in increasing order. The list needs room for no more than these. Another
+   code finds nothing: the count is 0. */
+void SIG5D_CDECL FindIndexesC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexesC_32s_Idx(unsigned int code, const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexesC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexesC_8u_Idx(unsigned int code, const Ipp8u* src, int srcIdx, Ipp8u value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+
+/* indexes[(*count)++] = k for each k with src1[k] ? src2[k], ? by code as for FindMaskC. As FindIndexesC, with two
+   arrays. */
+void SIG5D_CDECL FindIndexes_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int
+        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexes_32s_Idx(unsigned int code, const Ipp32s* src1, int src1Idx, const Ipp32s* src2, int
+        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexes_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int
+        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexes_8u_Idx(unsigned int code, const Ipp8u* src1, int src1Idx, const Ipp8u* src2, int src2Idx,
+        Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+
+/* ---- Pack and unpack by increment, index and mask ---- */
+
+/* dst[k] = src[k*inc]. Gathers every inc-th element. An increment of 0 fills the destination with src[0]. */
+void SIG5D_CDECL vbpacki(unsigned int n, const Ipp8u* src, unsigned int inc, Ipp8u* dst);
+void SIG5D_CDECL vbpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, unsigned int inc, Ipp8u* dst, int dstIdx);
+void SIG5D_CDECL vdpackic(unsigned int n, const Ipp64fc* src, unsigned int inc, Ipp64fc* dst);
+void SIG5D_CDECL vdpackic_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, unsigned int inc, Ipp64fc* dst, int
+        dstIdx);
+void SIG5D_CDECL vipacki(unsigned int n, const Ipp32s* src, unsigned int inc, Ipp32s* dst);
+void SIG5D_CDECL vipacki_Idx(unsigned int n, const Ipp32s* src, int srcIdx, unsigned int inc, Ipp32s* dst, int
+        dstIdx);
+void SIG5D_CDECL vspacki(unsigned int n, const Ipp16s* src, unsigned int inc, Ipp16s* dst);
+void SIG5D_CDECL vspacki_Idx(unsigned int n, const Ipp16s* src, int srcIdx, unsigned int inc, Ipp16s* dst, int
+        dstIdx);
+
+/* dst[k*inc] = src[k]. Scatters to every inc-th element; the elements between keep their values. With an increment
+   of 0 the last element of the source remains in dst[0]. */
+void SIG5D_CDECL vbunpacki(unsigned int n, const Ipp8u* src, Ipp8u* dst, unsigned int inc);
+void SIG5D_CDECL vbunpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int
+        inc);
+void SIG5D_CDECL vdunpackic(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, unsigned int inc);
+void SIG5D_CDECL vdunpackic_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int
+        inc);
+void SIG5D_CDECL viunpacki(unsigned int n, const Ipp32s* src, Ipp32s* dst, unsigned int inc);
+void SIG5D_CDECL viunpacki_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int
+        inc);
+void SIG5D_CDECL vsunpacki(unsigned int n, const Ipp16s* src, Ipp16s* dst, unsigned int inc);
+void SIG5D_CDECL vsunpacki_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int
+        inc);
+
+/* dst[k] = src[index[k]]. Gathers by 0-based indexes, which are used as they are. Only the elements that an index
+   names are read. */
+void SIG5D_CDECL vbpackv(unsigned int n, const Ipp8u* src, const Ipp32u* index, Ipp8u* dst);
+void SIG5D_CDECL vbpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp8u*
+        dst, int dstIdx);
+void SIG5D_CDECL vdpackvc(unsigned int n, const Ipp64fc* src, const Ipp32u* index, Ipp64fc* dst);
+void SIG5D_CDECL vdpackvc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, const Ipp32u* index, int indexIdx,
+        Ipp64fc* dst, int dstIdx);
+void SIG5D_CDECL vipackv(unsigned int n, const Ipp32s* src, const Ipp32u* index, Ipp32s* dst);
+void SIG5D_CDECL vipackv_Idx(unsigned int n, const Ipp32s* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp32s*
+        dst, int dstIdx);
+void SIG5D_CDECL vspackv(unsigned int n, const Ipp16s* src, const Ipp32u* index, Ipp16s* dst);
+void SIG5D_CDECL vspackv_Idx(unsigned int n, const Ipp16s* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp16s*
+        dst, int dstIdx);
+
+/* dst[index[k]] = src[k]. Scatters by 0-based indexes, which are used as they are. The last of several elements
+   for one index remains; elements without an index keep their values. */
+void SIG5D_CDECL vbunpackv(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32u* index);
+void SIG5D_CDECL vbunpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32u*
+        index, int indexIdx);
+void SIG5D_CDECL vdunpackvc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32u* index);
+void SIG5D_CDECL vdunpackvc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const
+        Ipp32u* index, int indexIdx);
+void SIG5D_CDECL viunpackv(unsigned int n, const Ipp32s* src, Ipp32s* dst, const Ipp32u* index);
+void SIG5D_CDECL viunpackv_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, const Ipp32u*
+        index, int indexIdx);
+void SIG5D_CDECL vsunpackv(unsigned int n, const Ipp16s* src, Ipp16s* dst, const Ipp32u* index);
+void SIG5D_CDECL vsunpackv_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, const Ipp32u*
+        index, int indexIdx);
+
+/* dst[j++] = src[k] for each k with mask[k] > 0. Collects the selected elements, those whose mask is positive. The
+   destination needs room for no more than these; elements beyond them keep their values. */
+void SIG5D_CDECL vbpackm(unsigned int n, const Ipp8u* src, const Ipp32s* mask, Ipp8u* dst);
+void SIG5D_CDECL vbpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp8u*
+        dst, int dstIdx);
+void SIG5D_CDECL vdpackmc(unsigned int n, const Ipp64fc* src, const Ipp32s* mask, Ipp64fc* dst);
+void SIG5D_CDECL vdpackmc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, const Ipp32s* mask, int maskIdx,
+        Ipp64fc* dst, int dstIdx);
+void SIG5D_CDECL vipackm(unsigned int n, const Ipp32s* src, const Ipp32s* mask, Ipp32s* dst);
+void SIG5D_CDECL vipackm_Idx(unsigned int n, const Ipp32s* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp32s*
+        dst, int dstIdx);
+void SIG5D_CDECL vspackm(unsigned int n, const Ipp16s* src, const Ipp32s* mask, Ipp16s* dst);
+void SIG5D_CDECL vspackm_Idx(unsigned int n, const Ipp16s* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp16s*
+        dst, int dstIdx);
+
+/* dst[j++] = src[k] for each k with mask[k] > 0. As the vpackm family, with the destination before the mask; the
+   result is the number of selected elements. */
+unsigned int SIG5D_CDECL PackByMask(unsigned int n, const Ipp64f* src, Ipp64f* dst, const Ipp32s* mask);
+unsigned int SIG5D_CDECL PackByMask_Idx(unsigned int n, const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, const
+        Ipp32s* mask, int maskIdx);
+unsigned int SIG5D_CDECL PackByMaskc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32s* mask);
+unsigned int SIG5D_CDECL PackByMaskc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx,
+        const Ipp32s* mask, int maskIdx);
+
+/* dst[k] = src[j++] for each k with mask[k] > 0. Distributes the source over the selected elements, those whose
+   mask is positive. The source needs no more elements than are selected; elements that are not selected keep their
+   values. */
+void SIG5D_CDECL vbunpackm(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32s* mask);
+void SIG5D_CDECL vbunpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32s*
+        mask, int maskIdx);
+void SIG5D_CDECL vdunpackmc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32s* mask);
+void SIG5D_CDECL vdunpackmc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const
+        Ipp32s* mask, int maskIdx);
+void SIG5D_CDECL viunpackm(unsigned int n, const Ipp32s* src, Ipp32s* dst, const Ipp32s* mask);
+void SIG5D_CDECL viunpackm_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, const Ipp32s*
+        mask, int maskIdx);
+void SIG5D_CDECL vsunpackm(unsigned int n, const Ipp16s* src, Ipp16s* dst, const Ipp32s* mask);
+void SIG5D_CDECL vsunpackm_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, const Ipp32s*
+        mask, int maskIdx);
+
 /* ---- FIR filters ---- */
 
 /* The bytes of a specification and of a work buffer for a single-rate filter of tapsLen taps. tapsType is 19 for
@@ -743,6 +1627,174 @@ IppStatus SIG5D_CDECL ippsFIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, const Ipps
         pDlySrc, int dlySrcIdx, Ipp64f* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
 IppStatus SIG5D_CDECL ippsFIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, const IppsFIRSpec_64fc* pSpec, const Ipp64fc*
         pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
+
+/* ---- Mixed real and complex arithmetic ---- */
+
+/* dst[i] = src[i] + value. A real number takes part as a complex one with the imaginary part +0.0. */
+void SIG5D_CDECL AddValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL AddValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL AddValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL AddValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value - src[i]. The scalar minus the element. A real number takes part as a complex one with the
+   imaginary part +0.0. */
+void SIG5D_CDECL SubFromValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL SubFromValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL SubFromValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL SubFromValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL SubFromValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = src[i] * value. */
+void SIG5D_CDECL ScaleByValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL ScaleByValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL ScaleByValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL ScaleByValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL ScaleByValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = value / src[i]. The scalar divided by the element. */
+void SIG5D_CDECL DivideValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
+        len);
+void SIG5D_CDECL DivideValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+void SIG5D_CDECL DivideValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
+void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
+
+/* dst[i] = (a[i].re + b[i], a[i].im + 0.0). */
+void SIG5D_CDECL AddVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL AddVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re - b[i], a[i].im - 0.0). */
+void SIG5D_CDECL SubVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i] - b[i].re, 0.0 - b[i].im). */
+void SIG5D_CDECL SubVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL SubVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = (a[i].re * b[i], a[i].im * b[i]). */
+void SIG5D_CDECL MulVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] / b[i]. Correctly rounded quotients, part by part. */
+void SIG5D_CDECL DivVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccd_Idx(const Ipp64fc* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* dst[i] = a[i] * conj(b[i]) = (a.re*b.re + a.im*b.im, a.im*b.re - a.re*b.im). Four products and two sums;
+   infinities and NaN as they come out of these. */
+void SIG5D_CDECL ConjMulcc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL ConjMulcc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a.re*b.re + b.im*a.im) * t, t * (a.im*b.re - a.re*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVeccc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVeccc_Idx(const Ipp64fc* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* t = 1.0 / (b.re*b.re + b.im*b.im); dst[i] = ((a*b.re + b.im*0.0) * t, t * (0.0*b.re - a*b.im)). As in
+   DivideValuec: without scaling, each step rounded to 53 bits with exponents that neither overflow nor underflow. */
+void SIG5D_CDECL DivVecdc(const Ipp64f* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL DivVecdc_Idx(const Ipp64f* a, int aIdx, const Ipp64fc* b, int bIdx, Ipp64fc* dst, int dstIdx,
+        unsigned int len);
+
+/* ---- Running sums, ramps, products, powers and exchanges ---- */
+
+/* dst[0] = src[0]; dst[i] = src[i] + dst[i-1]. Strictly in index order: doubles round as a sum from left to right,
+   of which every step is stored. Integers wrap around in their own width. Complex parts are summed one by one. */
+void SIG5D_CDECL CumSum(const Ipp64f* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL CumSum_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSumc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL CumSumc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = src[i] for i < delta; dst[i] = src[i] + dst[i-delta] for delta <= i < len. A running sum of every
+   delta-th element, delta sums in all. Integers wrap around in their own width. */
+void SIG5D_CDECL CumSumDelta(const Ipp64f* src, Ipp64f* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDelta_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+void SIG5D_CDECL CumSumDeltac(const Ipp64fc* src, Ipp64fc* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDeltac_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
+
+/* dst[i] = offset + step * i. Every element is computed from its index, as a product rounded and then a sum
+   rounded, each part for itself. */
+void SIG5D_CDECL Rampc(Ipp64fc* dst, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampc_Idx(Ipp64fc* dst, int dstIdx, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
+void SIG5D_CDECL Rampd(Ipp64f* dst, unsigned int len, Ipp64f offset, Ipp64f step);
+
+/* dst[i] = (src[i].im, src[i].re). All bits are kept, also of a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL Flip(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Flip_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (src[i].im, -src[i].re). Only the sign bit of the real part changes, also of a zero or a NaN. Other
+   overlap than exact gives any values. */
+void SIG5D_CDECL FlipConj(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL FlipConj_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (-src[i].im, src[i].re). The product with the imaginary unit; only the sign bit of the imaginary part
+   changes, also of a zero or a NaN. Other overlap than exact gives any values. */
+void SIG5D_CDECL MulI(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL MulI_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[len-1-i] = src[i]. Whole complex numbers in reverse order; all bits are kept. Other overlap than exact gives
+   any values. */
+void SIG5D_CDECL Reverse(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Reverse_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* *result = src[0] * src[1] * ... * src[len-1]. The product of no elements is 1. */
+void SIG5D_CDECL Product(const Ipp64f* src, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Product_Idx(const Ipp64f* src, int srcIdx, unsigned int len, Ipp64f* result);
+void SIG5D_CDECL Productc(const Ipp64fc* src, unsigned int len, Ipp64fc* result);
+void SIG5D_CDECL Productc_Idx(const Ipp64fc* src, int srcIdx, unsigned int len, Ipp64fc* result);
+
+/* dst[i] = a[i] ^ b[i] = e^(b[i] * log(a[i])) for 1 <= i < len. The principal value. Element 0 is left as it is. */
+void SIG5D_CDECL Powc(const Ipp64fc* a, const Ipp64fc* b, Ipp64fc* dst, unsigned int len);
 
 #ifdef __cplusplus
 }

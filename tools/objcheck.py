@@ -66,7 +66,7 @@ def functions(disassembly):
     """(name, [(mnemonic, operands)]) of every function."""
     name, body = None, []
     for line in disassembly.splitlines():
-        head = re.match(r"[0-9a-f]+ <(.+)>:$", line)
+        head = re.match(r"[0-9a-f]+ <(?!\.L)(.+)>:$", line)  # a local label is a place within a function
         if head:
             if name:
                 yield name, body

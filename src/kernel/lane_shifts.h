@@ -32,6 +32,18 @@ template <class T, class V> inline V shift_right_16(V x, int count)
     return reinterpret_cast<V>(high_product(reinterpret_cast<Register>(x), reinterpret_cast<Register>(factor), T{}));
 }
 
+// Any count below the width, at the price of the second step.
+inline __m128i shifted_16(__m128i x, int count, u16) { return _mm_srl_epi16(x, _mm_cvtsi32_si128(count)); }
+inline __m128i shifted_16(__m128i x, int count, i16) { return _mm_sra_epi16(x, _mm_cvtsi32_si128(count)); }
+#if SIG5D_LEVEL >= 5
+inline __m256i shifted_16(__m256i x, int count, u16) { return _mm256_srl_epi16(x, _mm_cvtsi32_si128(count)); }
+inline __m256i shifted_16(__m256i x, int count, i16) { return _mm256_sra_epi16(x, _mm_cvtsi32_si128(count)); }
+#endif
+template <class T, class V> inline V shift_right_16_any(V x, int count)
+{
+    return reinterpret_cast<V>(shifted_16(reinterpret_cast<Vec<long long, sizeof(V) / 8>>(x), count, T{}));
+}
+
 #if SIG5D_LEVEL >= 5
 
 // The count for each lane, by way of 32 bits (32-bit code would put 64 together in memory), and hidden from the
@@ -59,6 +71,7 @@ template <class T, class V> inline V shift_right(V x, int count)
 inline __m128i shifted_left(__m128i x, __m128i count, u32) { return _mm_sll_epi32(x, count); }
 inline __m128i shifted_left(__m128i x, __m128i count, u64) { return _mm_sll_epi64(x, count); }
 inline __m128i shifted_right(__m128i x, __m128i count, i32) { return _mm_sra_epi32(x, count); }
+inline __m128i shifted_right(__m128i x, __m128i count, u32) { return _mm_srl_epi32(x, count); }
 inline __m128i shifted_right(__m128i x, __m128i count, u64) { return _mm_srl_epi64(x, count); }
 
 template <class T, class V> inline V shift_left(V x, int count)

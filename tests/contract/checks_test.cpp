@@ -19,7 +19,7 @@ void spoil(Arguments& a, registry::Random& random)
         if (arg.kind == Kind::scalar && registry::isFloating(arg.element)) {
             static const double numbers[] = {-1, 0, 1, 0.25, 0.5, 7, -1e300, 1e300};
             a.values[i].re = numbers[random.below(8)];
-            a.values[i].im = numbers[random.below(8)];
+            a.values[i].im = random.oneIn(2) ? a.values[i].re : numbers[random.below(8)]; // also zero for both
         } else if (arg.kind == Kind::scalar) {
             a.values[i].i = odd[random.below(sizeof odd / sizeof *odd)];
         } else if (arg.kind != Kind::index) {

@@ -5,6 +5,7 @@
 #include "support/bytes.h"
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 #ifndef SIG5D_STATIC // a static library brings its own
 size_t sig5d_stream_bytes;
@@ -19,6 +20,22 @@ BODIES(ippsSet_64fc, (Ipp64fc, Ipp64fc*, int))
 BODIES(ippsXor_8u, (const Ipp8u*, const Ipp8u*, Ipp8u*, int))
 BODIES(ippsNot_8u_I, (Ipp8u*, int))
 BODIES(ippsFlip_16u, (const Ipp16u*, Ipp16u*, int))
+#define OWN_BODIES(name, arguments)                              \
+    extern "C" void SIG5D_CDECL sig5d_stream16_##name arguments; \
+    extern "C" void SIG5D_CDECL sig5d_stream32_##name arguments;
+using Size = unsigned;
+OWN_BODIES(ResizeMatrix_8u, (const Ipp8u*, Ipp8u*, Size, Size, Size, Size))
+OWN_BODIES(TransposeMatrix_8u, (const Ipp8u*, Ipp8u*, Size, Size, Size, Size))
+OWN_BODIES(TransposeMatrix_16s, (const Ipp16s*, Ipp16s*, Size, Size, Size, Size))
+OWN_BODIES(TransposeMatrix, (const Ipp64f*, Ipp64f*, Size, Size, Size, Size))
+OWN_BODIES(AdjungateMatrixc, (const Ipp64fc*, Ipp64fc*, Size, Size, Size, Size))
+BODIES(ippsMulC_64fc, (const Ipp64fc*, Ipp64fc, Ipp64fc*, int))
+BODIES(ippsDiv_64fc, (const Ipp64fc*, const Ipp64fc*, Ipp64fc*, int))
+BODIES(ippsCplxToReal_64fc, (const Ipp64fc*, Ipp64f*, Ipp64f*, int))
+BODIES(ippsRealToCplx_64f, (const Ipp64f*, const Ipp64f*, Ipp64fc*, int))
+BODIES(ippsAdd_8u_Sfs, (const Ipp8u*, const Ipp8u*, Ipp8u*, int, int))
+BODIES(ippsSubC_32sc_Sfs, (const Ipp32sc*, Ipp32sc, Ipp32sc*, int, int))
+BODIES(ippsSubC_32sc_ISfs, (Ipp32sc, Ipp32sc*, int, int))
 
 using support::Bytes;
 using support::noise;
@@ -85,6 +102,110 @@ TEST_P(Stream, FillsAndFlips)
             PICK(ippsFlip_16u)
             (reinterpret_cast<const Ipp16u*>(a.data()), reinterpret_cast<Ipp16u*>(&d[to]), static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
+        }
+}
+
+TEST_P(Stream, BlocksOfLongRows)
+{
+    const Bytes a = noise(5 * 4500), before = noise(5 * 4600, 2);
+    for (Size cols : {4096u, 4111u, 4290u})
+        for (size_t to : {0u, 1u, 17u, 40u}) {
+            Bytes d = before, expected = before;
+            for (size_t i = 0; i < 4; ++i) std::copy_n(&a[3 + i * 4400], cols, &expected[to + i * 4501]);
+            PICK(ResizeMatrix_8u)(&a[3], &d[to], 4, cols, 4400, 4501);
+            ASSERT_EQ(d, expected) << cols << ' ' << to;
+        }
+}
+
+namespace {
+
+// Rows of the result are a multiple of a cache line apart, as streaming asks for; results begin anywhere in a line.
+template <class T, class F> void streamsTransposed(F transpose, bool conjugate)
+{
+    const Size line = 64 / sizeof(T);
+    for (Size rows : {2 * line, 2 * line + 1, 3 * line - 1, 5 * line + 3, 7 * line})
+        for (Size cols : {400 / Size(sizeof(T)) + 16, 24577 / rows / Size(sizeof(T)) + 17})
+            for (size_t shift : {size_t(0), sizeof(T), 48 + sizeof(T)}) {
+                const size_t stride = 9 * line;
+                const Bytes a = noise(sizeof(T) * rows * (cols + 3));
+                Bytes d = noise(sizeof(T) * stride * cols + 192, 2);
+                const size_t at = -reinterpret_cast<uintptr_t>(d.data()) % 64 + shift;
+                Bytes expected = d;
+                for (size_t i = 0; i < rows; ++i)
+                    for (size_t j = 0; j < cols; ++j) {
+                        const size_t to = at + (j * stride + i) * sizeof(T);
+                        std::copy_n(&a[(i * (cols + 3) + j) * sizeof(T)], sizeof(T), &expected[to]);
+                        if (conjugate) expected[to + 15] ^= 0x80;
+                    }
+                transpose(reinterpret_cast<const T*>(a.data()), reinterpret_cast<T*>(&d[at]), rows, cols, cols + 3,
+                          static_cast<Size>(stride));
+                ASSERT_TRUE(d == expected) << sizeof(T) << " bytes, " << rows << 'x' << cols << ' ' << shift;
+            }
+}
+
+} // namespace
+
+TEST_P(Stream, Transposes)
+{
+    streamsTransposed<Ipp8u>(PICK(TransposeMatrix_8u), false);
+    streamsTransposed<Ipp16s>(PICK(TransposeMatrix_16s), false);
+    streamsTransposed<Ipp64f>(PICK(TransposeMatrix), false);
+    streamsTransposed<Ipp64fc>(PICK(AdjungateMatrixc), true);
+}
+
+// Values that small integers make are exact, whatever the order of operations.
+TEST_P(Stream, ComplexNumbers)
+{
+    for (size_t n : {1u, 3u, 9u, 16u, 40u, 41u, 300u, 613u})
+        for (size_t to = 0; to < 5; ++to) { // doubles; a complex array at an odd one is never aligned
+            std::vector<Ipp64f> z(2 * n + 10), w(z), d(z), re(n + 10), im(n + 10);
+            for (size_t i = 0; i < z.size(); ++i) z[i] = w[i] = static_cast<double>(i * i % 97) - 30;
+            const int count = static_cast<int>(n);
+            const auto complex = [&](std::vector<Ipp64f>& v) { return reinterpret_cast<Ipp64fc*>(&v[to]); };
+
+            PICK(ippsCplxToReal_64fc)(complex(z), &re[to], &im[4 - to], count);
+            PICK(ippsRealToCplx_64f)(&re[to], &im[4 - to], complex(d), count);
+            for (size_t i = 0; i < n; ++i)
+                ASSERT_TRUE(re[to + i] == z[to + 2 * i] && im[4 - to + i] == z[to + 2 * i + 1]) << n << ' ' << i;
+            ASSERT_TRUE(std::equal(&d[to], &d[to + 2 * n], &z[to])) << n << ' ' << to;
+            ASSERT_TRUE(re[to + n] == 0 && im[4 - to + n] == 0 && d[to + 2 * n] == 0);
+            PICK(ippsRealToCplx_64f)(nullptr, &im[4 - to], complex(d), count);
+            for (size_t i = 0; i < n; ++i) ASSERT_TRUE(d[to + 2 * i] == 0 && d[to + 2 * i + 1] == z[to + 2 * i + 1]);
+
+            PICK(ippsMulC_64fc)(complex(z), Ipp64fc{0, 2}, complex(d), count);
+            for (size_t i = to; i < to + 2 * n; i += 2) ASSERT_TRUE(d[i] == -2 * z[i + 1] && d[i + 1] == 2 * z[i]);
+            PICK(ippsMulC_64fc)(complex(w), Ipp64fc{0, 2}, complex(w), count);
+            ASSERT_TRUE(std::equal(&d[to], &d[to + 2 * n], &w[to])) << n << ' ' << to;
+            for (size_t i = to; i < to + 2 * n; i += 2) w[i] = 0, w[i + 1] = 0.5;
+            PICK(ippsDiv_64fc)(complex(w), complex(d), complex(d), count);
+            for (size_t i = to; i < to + 2 * n; ++i) ASSERT_EQ(d[i], 4 * z[i]) << n << ' ' << to;
+        }
+}
+
+TEST_P(Stream, ScaledSums)
+{
+    const Bytes a = noise(1400), b = noise(1400, 2), before = noise(1400, 3);
+    const Ipp32sc value = {1000, -70000};
+    for (size_t n = 1; n <= 1300; n += n < 150 ? 1 : 23)
+        for (size_t to = 0; to < 40; to += 4) { // where numbers reach no aligned address, ordinary stores
+            Bytes d = before, expected = before;
+            for (size_t i = 0; i < n; ++i)
+                expected[to + i] = static_cast<unsigned char>(std::min(2 * (a[i] + b[5 + i]), 255));
+            PICK(ippsAdd_8u_Sfs)(&a[0], &b[5], &d[to], static_cast<int>(n), -1);
+            ASSERT_EQ(d, expected) << n << ' ' << to;
+
+            std::vector<Ipp32sc> source(n), difference(n), place(n + 6);
+            for (size_t i = 0; i < n; ++i) {
+                const int x = a[i] - 100, y = 3 * b[i];
+                source[i] = {x, y};
+                difference[i] = {x - value.re, y - value.im};
+            }
+            auto* const p = reinterpret_cast<Ipp32sc*>(reinterpret_cast<unsigned char*>(place.data()) + to);
+            PICK(ippsSubC_32sc_Sfs)(source.data(), value, p, static_cast<int>(n), 0);
+            ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
+            std::memcpy(p, source.data(), 8 * n);
+            PICK(ippsSubC_32sc_ISfs)(value, p, static_cast<int>(n), 0);
+            ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
         }
 }
 

@@ -1,10 +1,23 @@
 sig5d_test(elementwise_bits signal/copy_test.cpp signal/logic_test.cpp signal/bit_string_test.cpp)
+sig5d_test(elementwise_float signal/arith_float_test.cpp signal/root_test.cpp)
+sig5d_test(elementwise_scaled signal/scaled_test.cpp)
 
 # Kernels compiled for this test alone, which sets when they stream.
+set(streaming_kernels
+    signal/elementwise/copy
+    signal/elementwise/logic
+    signal/elementwise/flip
+    signal/elementwise/arith_complex
+    signal/elementwise/divide
+    signal/elementwise/complex_parts
+    signal/elementwise/scaled_sums
+    matrix/submatrix
+    matrix/transpose)
+list(TRANSFORM streaming_kernels PREPEND ${CMAKE_SOURCE_DIR}/src/)
+list(TRANSFORM streaming_kernels APPEND .kernels.cpp)
+set_source_files_properties(${streaming_kernels} PROPERTIES COMPILE_OPTIONS -fno-stack-protector) # the guard is the DLL's
 foreach(width 16 32)
-    set(elementwise ${CMAKE_SOURCE_DIR}/src/signal/elementwise)
-    add_library(sig5d_stream${width} OBJECT ${elementwise}/copy.kernels.cpp ${elementwise}/logic.kernels.cpp
-                                            ${elementwise}/flip.kernels.cpp)
+    add_library(sig5d_stream${width} OBJECT ${streaming_kernels})
     target_link_libraries(sig5d_stream${width} PRIVATE sig5d_product)
 endforeach()
 target_compile_definitions(sig5d_stream16 PRIVATE SIG5D_VARIANT=stream16 SIG5D_LEVEL=1)

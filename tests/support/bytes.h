@@ -37,6 +37,13 @@ template <class... Args> IppStatus callIndexed(const std::string& name, Args... 
     }
     return reinterpret_cast<IppStatus(SIG5D_CDECL*)(Args...)>(entry)(args...);
 }
+// Functions without the prefix: they return nothing.
+template <class... Args> void callOwn(const std::string& name, Args... args)
+{
+    const Entry entry = find(name.c_str());
+    ASSERT_TRUE(entry) << name << " is not exported";
+    reinterpret_cast<void(SIG5D_CDECL*)(Args...)>(entry)(args...);
+}
 
 // Arrays at odd addresses work, but the sanitizer that looks for them does not know that they are meant to.
 inline bool mayStandAt(size_t offset, int elementBytes)

@@ -22,11 +22,12 @@ def shape_rows(f):
 
 def section(family, members):
     f = members[0][1]
+    said = [g for _, g, _ in members]  # types that were described apart are told of together
     out = [f"## {family}", ""]
-    if f.formula:
-        out += [f"`{f.formula}`", ""]
-    if f.doc:
-        out += [f.doc, ""]
+    for formula in dict.fromkeys(g.formula for g in said if g.formula):
+        out += [f"`{formula}`", ""]
+    for doc in dict.fromkeys(g.doc for g in said if g.doc):
+        out += [doc, ""]
     seen = []
     for _, g, form in members:
         if form == "plain" and shape_rows(g) and shape_rows(g) not in seen:
@@ -40,7 +41,7 @@ def section(family, members):
         out += [f"In place: {pairs}.", ""]
     if f.warnings:
         out += ["Warnings, after the whole array is written: " + ", ".join(f"`ippSts{w}`" for w in f.warnings) + ".", ""]
-    out += [n + "\n" for n in f.notes]
+    out += [n + "\n" for n in dict.fromkeys(n for g in said for n in g.notes)]
     out += ["```c"] + [prototype(*m) for m in members] + ["```", ""]
     return out
 

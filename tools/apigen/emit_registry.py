@@ -26,20 +26,22 @@ class Pool:
 
 
 def over_values(expression, args):
-    """Argument names become members of the value array: len -> a[3].i, *pPhase -> what it points to."""
+    """Argument names become members of the value array: len -> a[3].i, val.im -> a[1].im, *pPhase -> what it points to."""
 
     def value(match):
-        star, name = match.group(1) or "", match.group(2)
+        star, name, part = match.group(1) or "", match.group(2), match.group(3)
         for i, a in enumerate(args):
             if a.name != name:
                 continue
             if a.pointer:
                 return f"(*static_cast<const {a.base}*>(a[{i}].p))" if star else f"a[{i}].p"
+            if part:
+                return f"a[{i}]{part}"
             floating = a.type and a.type.kernel in ("f32", "f64", "c32f", "c64f")
             return star + (f"a[{i}].re" if floating else f"a[{i}].i")
         return match.group(0)
 
-    return re.sub(r"((?<![\w\])])\*)?(?<![.\w>])\b([A-Za-z_]\w*)\b", value, expression)
+    return re.sub(r"((?<![\w\])])\*)?(?<![.\w>])\b([A-Za-z_]\w*)\b(\.re\b|\.im\b)?", value, expression)
 
 
 def known(expression, f):

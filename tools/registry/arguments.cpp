@@ -109,10 +109,15 @@ Arguments build(const Function& f, Random& random, long long length, Pattern pat
     for (int i = 0; i < f.argCount; ++i) {
         const Arg& arg = f.args[i];
         if (arg.kind == Kind::scalar || arg.kind == Kind::index) continue;
-        a.null[i] = arg.optional && random.oneIn(4);
+        if (arg.optional && random.oneIn(4)) { // but not all that may be null, where one of them must be there
+            a.values[i].p = nullptr;
+            a.null[i] = a.valid();
+            if (!a.null[i]) a.values[i].p = somewhere();
+        }
         a.content[i].resize(a.bytes(i));
         for (size_t k = 0; k < a.content[i].size(); ++k) a.content[i][k] = static_cast<uint8_t>(prefill >> k % 8 * 8);
-        if (arg.kind == Kind::array && (arg.isConst || arg.inout) && a.extent[i] > 0)
+        const bool numbers = arg.kind == Kind::array || (arg.kind == Kind::result && arg.isConst); // a value by pointer
+        if (numbers && (arg.isConst || arg.inout) && a.extent[i] > 0)
             fill(random, arg.element, pattern, a.content[i].data(), static_cast<size_t>(a.extent[i]));
     }
     if (fixtureOf(f).contents) fixtureOf(f).contents(a, random);

@@ -7,7 +7,15 @@ namespace registry {
 namespace {
 
 template <class F>
-F adversarialFloat(Random& r)
+void anyBits(Random& r, F* to)
+{
+    const uint64_t bits = r.bits();
+    std::memcpy(to, &bits, sizeof *to);
+}
+
+// Numbers are stored, not returned: the result register of 32-bit code would make signalling NaN quiet.
+template <class F>
+void adversarialFloat(Random& r, F* to)
 {
     using L = std::numeric_limits<F>;
     const F specials[] = {F(0), -F(0), F(1), F(-1), F(0.5), F(-0.5), F(1.5), F(2.5), F(-2.5), L::min(), -L::min(),
@@ -15,33 +23,41 @@ F adversarialFloat(Random& r)
                           L::quiet_NaN(), -L::quiet_NaN(), L::epsilon(), F(127.5), F(255.5), F(-128.5), F(32767.5),
                           F(-32768.5), F(2147483647), F(-2147483648.0), F(4294967296.0), F(9.2233720368547758e18)};
     switch (r.below(4)) {
-    case 0: return specials[r.below(sizeof specials / sizeof *specials)];
-    case 1: return F(r.below(2001) - 1000) / F(2); // integers and halves
-    case 2: return F((double(r.bits() >> 11) * 0x1p-53 - 0.5) * std::ldexp(1.0, int(r.below(60)) - 30));
-    default: {
-        F any;
-        const uint64_t bits = r.bits();
-        std::memcpy(&any, &bits, sizeof any);
-        return any;
-    }
+    case 0: *to = specials[r.below(sizeof specials / sizeof *specials)]; return;
+    case 1: *to = F(r.below(2001) - 1000) / F(2); return; // integers and halves
+    case 2: *to = F((double(r.bits() >> 11) * 0x1p-53 - 0.5) * std::ldexp(1.0, int(r.below(60)) - 30)); return;
+    default: anyBits(r, to);
     }
 }
 
 template <class F>
-F floating(Random& r, Pattern p)
+void floating(Random& r, Pattern p, F* to)
 {
     using L = std::numeric_limits<F>;
     switch (p) {
-    case Pattern::anyBits: {
-        F any;
-        const uint64_t bits = r.bits();
-        std::memcpy(&any, &bits, sizeof any);
-        return any;
+    case Pattern::anyBits: return anyBits(r, to);
+    case Pattern::adversarial: return adversarialFloat(r, to);
+    case Pattern::tame: *to = F(double(r.bits() >> 11) * 0x1p-52 - 1.0); return;
+    case Pattern::lowest: *to = L::lowest(); return;
+    default: *to = L::max();
     }
-    case Pattern::adversarial: return adversarialFloat<F>(r);
-    case Pattern::tame: return F(double(r.bits() >> 11) * 0x1p-52 - 1.0);
-    case Pattern::lowest: return L::lowest();
-    default: return L::max();
+}
+
+template <class F>
+double number(Random& r, Pattern p)
+{
+    F x;
+    floating(r, p, &x);
+    return x;
+}
+
+template <class F>
+void fillFloating(Random& r, Pattern p, uint8_t* bytes, size_t n)
+{
+    for (size_t i = 0; i < n; ++i) {
+        F x;
+        floating(r, p, &x);
+        std::memcpy(bytes + i * sizeof x, &x, sizeof x);
     }
 }
 
@@ -102,10 +118,10 @@ bool isFloating(Element e)
 void fill(Random& r, Element e, Pattern p, uint8_t* bytes, size_t n)
 {
     switch (e) {
-    case Element::f32: return fillWith<float>(bytes, n, [&] { return floating<float>(r, p); });
-    case Element::c32f: return fillWith<float>(bytes, 2 * n, [&] { return floating<float>(r, p); });
-    case Element::f64: return fillWith<double>(bytes, n, [&] { return floating<double>(r, p); });
-    case Element::c64f: return fillWith<double>(bytes, 2 * n, [&] { return floating<double>(r, p); });
+    case Element::f32: return fillFloating<float>(r, p, bytes, n);
+    case Element::c32f: return fillFloating<float>(r, p, bytes, 2 * n);
+    case Element::f64: return fillFloating<double>(r, p, bytes, n);
+    case Element::c64f: return fillFloating<double>(r, p, bytes, 2 * n);
     case Element::i16: return fillWith<int16_t>(bytes, n, [&] { return integer<int16_t>(r, p); });
     case Element::c16s: return fillWith<int16_t>(bytes, 2 * n, [&] { return integer<int16_t>(r, p); });
     case Element::i32: return fillWith<int32_t>(bytes, n, [&] { return integer<int32_t>(r, p); });
@@ -124,11 +140,11 @@ Value scalar(Random& r, Element e, Pattern p)
 {
     Value v;
     switch (e) {
-    case Element::f32: v.re = floating<float>(r, p); break;
-    case Element::f64: v.re = floating<double>(r, p); break;
+    case Element::f32: v.re = number<float>(r, p); break;
+    case Element::f64: v.re = number<double>(r, p); break;
     case Element::c64f:
-        v.re = floating<double>(r, p);
-        v.im = floating<double>(r, p);
+        v.re = number<double>(r, p);
+        v.im = number<double>(r, p);
         break;
     case Element::u8: v.i = integer<uint8_t>(r, p); break;
     case Element::i8: v.i = integer<int8_t>(r, p); break;

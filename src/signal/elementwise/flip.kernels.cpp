@@ -1,4 +1,4 @@
-// Flip: arrays in reverse order.
+// Flip: arrays in reverse order, complex ones also conjugated.
 #include "frame/entry.h"
 #include "kernel/loops.h"
 #include <utility>
@@ -14,16 +14,33 @@ template <class T> struct Backwards {
     T operator[](size_t i) const { return *(end - 1 - i); }
 };
 
+// What becomes of the elements.
+struct Conjugate {
+    c64f operator()(c64f x) const { return {x.re, -x.im}; }
+#if SIG5D_LEVEL > 0
+    template <class V> V operator()(V x) const
+    {
+        // The last byte of each element of 16 holds the sign.
+        constexpr size_t numbers = sizeof(V) / sizeof(u64);
+        Vec<u64, numbers> signs{};
+        for (size_t i = 1; i < numbers; i += 2) signs[i] = u64{1} << 63;
+        return x ^ reinterpret_cast<V>(signs);
+    }
+#endif
+};
+
 #if SIG5D_LEVEL == 0
 
-template <class T> void flip_apart(size_t n, const T* a, T* d) { map(n, d, Same{}, Backwards<T>{a + n}); }
-template <class T> void flip_in_place(size_t n, T* d)
+template <class Op, class T> void flip_apart(size_t n, const T* a, T* d) { map(n, d, Op{}, Backwards<T>{a + n}); }
+template <class Op, class T> void flip_in_place(size_t n, T* d)
 {
-    for (T *p = d, *q = d + n - 1; p < q; ++p, --q) {
+    T *p = d, *q = d + n - 1;
+    for (; p < q; ++p, --q) {
         const T x = *p;
-        *p = *q;
-        *q = x;
+        *p = Op{}(*q);
+        *q = Op{}(x);
     }
+    if (p == q) *p = Op{}(*p);
 }
 
 #else
@@ -80,25 +97,26 @@ template <int bytes, class T> inline Vec<u8, 16> load_part(Backwards<T> a)
 
 template <class T> inline const T* lowest(Backwards<T> a, size_t n) { return a.end - n; }
 
-template <class T> [[gnu::noinline]] void flip_apart(size_t n, const T* a, T* d)
+template <class Op, class T> [[gnu::noinline]] void flip_apart(size_t n, const T* a, T* d)
 {
-    map(n, d, Same{}, Backwards<T>{a + n});
+    map(n, d, Op{}, Backwards<T>{a + n});
 }
 
 // From both ends towards the middle. As in map, the outermost vectors are computed first and stored last; and up to
 // four vectors map loads before it stores, so that it serves for short arrays and for the middle of long ones.
-template <class T> [[gnu::noinline]] void flip_in_place(size_t n, T* d)
+template <class Op, class T> [[gnu::noinline]] void flip_in_place(size_t n, T* d)
 {
     constexpr size_t L = lanes<T>;
-    if (n <= 4 * L) return flip_apart(n, d, d);
+    const Op op;
+    if (n <= 4 * L) return flip_apart<Op>(n, d, d);
     T* const last = d + (n - L);
-    const auto head = loadn<L>(Backwards<T>{d + n}), tail = loadn<L>(Backwards<T>{d + L});
+    const auto head = op(loadn<L>(Backwards<T>{d + n})), tail = op(loadn<L>(Backwards<T>{d + L}));
     const size_t skip = misalignment(d);
     T *p = d + skip, *q = d + (n - skip);
     size_t left = n - 2 * skip;
     for (; left > 4 * L; left -= 4 * L) { // two at each end: stores to one cache line go together
-        const auto x0 = loadn<L>(Backwards<T>{q}), x1 = loadn<L>(Backwards<T>{q - L});
-        const auto y0 = loadn<L>(Backwards<T>{p + L}), y1 = loadn<L>(Backwards<T>{p + 2 * L});
+        const auto x0 = op(loadn<L>(Backwards<T>{q})), x1 = op(loadn<L>(Backwards<T>{q - L}));
+        const auto y0 = op(loadn<L>(Backwards<T>{p + L})), y1 = op(loadn<L>(Backwards<T>{p + 2 * L}));
         put(p, x0);
         put(p + L, x1);
         keep(p);
@@ -108,20 +126,23 @@ template <class T> [[gnu::noinline]] void flip_in_place(size_t n, T* d)
         q -= 2 * L;
         keep(q);
     }
-    flip_apart(left, p, p);
+    flip_apart<Op>(left, p, p);
     put(d, head);
     put(last, tail);
 }
 
 #endif
 
-template <class T> void flip(const T* a, T* d, int n)
+template <class Op, class T> void flip_by(const T* a, T* d, int n)
 {
     if (a == d)
-        flip_in_place(static_cast<size_t>(n), d);
+        flip_in_place<Op>(static_cast<size_t>(n), d);
     else
-        flip_apart(static_cast<size_t>(n), a, d);
+        flip_apart<Op>(static_cast<size_t>(n), a, d);
 }
+
+template <class T> void flip(const T* a, T* d, int n) { flip_by<Same>(a, d, n); }
+void conj_flip(const c64f* a, c64f* d, int n) { flip_by<Conjugate>(a, d, n); }
 
 } // namespace
 #include "entries/signal/elementwise/flip.inc"

@@ -1,0 +1,252 @@
+// Integer results that are scaled: multiplied by 2^-scaleFactor, rounded to the nearest integer (ties to the even one)
+// and limited to the destination's type. All of that stands here; an operation gives its exact result only.
+//
+// An operation is a record with
+//     bits<T>          so that no result is larger than 2^bits in magnitude: larger scale factors give zeros;
+//     exact(x...)      the result: of elements (in px) a 64-bit integer, of vectors one of the representations below;
+//     saturated(x...)  optional, for vectors: the result with scale factor 0;
+//     quick<T, s>, quickly<s>(x...)  optional, for vectors: there is a shorter way to the result with scale factor s, 1
+//                      or 15.
+#pragma once
+#include "kernel/compact_loop.h"
+#include "kernel/lane_shifts.h"
+#include "kernel/long_products.h"
+#include "kernel/saturate.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// By how many bits a result that is within the limits goes up with scale factor s <= 0: from some count on, whatever is
+// not zero goes to a limit.
+template <class T> inline int raise_count(int s)
+{
+    constexpr int most = width<T> - isSigned<T>;
+    return s < -most ? most : -s;
+}
+
+// The plain form of everything below: r * 2^-s.
+template <class T> inline T scaled(i64 r, int s)
+{
+    if (s > 63) return 0; // a half at most
+    if (s <= 0) return saturated<T>(saturated<T>(r) * (i64(1) << raise_count<T>(s)));
+    const u64 half = u64(1) << (s - 1), rest = static_cast<u64>(r) & (2 * half - 1);
+    const i64 floor = r >> s;
+    return saturated<T>(floor + (rest > half || (rest == half && floor % 2 != 0)));
+}
+
+#if SIG5D_LEVEL == 0
+
+template <class T> inline c32s scaled(c64s r, int s) { return {scaled<T>(r.re, s), scaled<T>(r.im, s)}; }
+
+template <class T, class Op> struct Scaled {
+    Op op;
+    int s;
+    template <class... X> auto operator()(X... x) const { return scaled<T>(op.exact(x...), s); }
+};
+
+// d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
+template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
+{
+    map_compact<2>(n, d, Scaled<T, Op>{op, s}, a...);
+}
+
+#else
+
+// Representations of an exact result r.
+
+template <class V> struct Halves { // in lanes as wide as the elements, which r may exceed by a bit
+    V half;                        // r / 2, rounded down
+    V low;                         // r, without bits that do not fit
+};
+template <class V> struct Words { // of bytes: in unsigned 16-bit lanes, for the even and the odd elements
+    V even, odd;
+};
+template <class V> struct Doubled { // of 16 bits: in 32-bit lanes, in the order of unpacking and packing
+    V low, high;
+};
+template <class V> struct Split { // of 32 bits: in two 32-bit lanes
+    V low, high;
+};
+
+// From the lower and the upper halves of the results of 16-bit lanes.
+template <class V> inline auto unpacked(V low, V high)
+{
+    using W = Vec<i32, sizeof(V) / 4>;
+    return Doubled<W>{as<W>(interleaved_low(bits(low), bits(high))), as<W>(interleaved_high(bits(low), bits(high)))};
+}
+
+// From the results of the even and of the odd 32-bit lanes.
+template <class V, class W> inline Split<V> split(W even, W odd)
+{
+    return {as<V>(alternate(bits(even), bits(odd << 32))),
+            as<V>(alternate(bits(as<Vec<u64, sizeof(V) / 8>>(even) >> 32), bits(odd)))};
+}
+
+// Lane by lane to the right, 0 <= count < width, arithmetic for signed lanes.
+template <class V> inline V down(V x, int count)
+{
+    using T = Lane<V>;
+    if constexpr (sizeof(T) == 4)
+        return shift_right<T>(x, count);
+    else if constexpr (sizeof(T) == 2)
+        return shift_right_16_any<T>(x, count);
+    else
+        return shift_right<u64>(x, count) & all<V>(static_cast<u8>(0xFF >> count));
+}
+
+template <class V> inline V up(V x, int count)
+{
+    using T = Lane<V>;
+    if constexpr (sizeof(T) == 4)
+        return shift_left<u32>(x, count);
+    else if constexpr (sizeof(T) == 2)
+        return shift_left_16(x, count);
+    else
+        return shift_left_16(x, count) & all<V>(static_cast<u8>(0xFF << count));
+}
+
+// x / 2 to the nearest integer, halves up.
+template <class V> inline V halved(V x)
+{
+    if constexpr (!isSigned<Lane<V>> && sizeof(Lane<V>) < 4)
+        return average(x, V{});
+    else
+        return x - (x >> 1);
+}
+
+// 2^s - 1 and 2^(s-1): what is cut off, and the tie.
+template <class V> inline V rest_mask(int s) { return all<V>(static_cast<Lane<V>>((u64(1) << s) - 1)); }
+template <class V> inline V half_unit(int s) { return all<V>(static_cast<Lane<V>>(u64(1) << (s - 1))); }
+
+// Ties were rounded up, to an odd integer half of the time: then the even one is that below.
+template <class V, class M> inline V ties_to_even(V up, M tie) { return without(up, as<V>(tie) & all<V>(1)); }
+
+// r * 2^-s for each representation, 0 < s <= bits of the operation.
+
+template <class V> inline V scaled(Halves<V> r, int s) // s > 1
+{
+    V up;
+#if SIG5D_LEVEL >= 2
+    if constexpr (sizeof(Lane<V>) == 2)
+        up = rounded_product(r.half, all<V>(static_cast<i16>(1 << (16 - s)))); // half * 2^(16-s) * 2^-15
+    else
+#endif
+        up = halved(down(r.half, s - 2));
+    return ties_to_even(up, (r.low & rest_mask<V>(s)) == half_unit<V>(s));
+}
+
+template <class V> inline auto saturated(Words<V> r)
+{
+    const V limit = all<V>(255);
+    return as<Vec<u8, sizeof(V)>>(lower(r.even, limit) | lower(r.odd, limit) << 8);
+}
+template <class V> inline V scaled_word(V r, int s) // s > 1
+{
+    return ties_to_even(halved(shift_right_16<u16>(r, s - 1)), (r & rest_mask<V>(s)) == half_unit<V>(s));
+}
+template <class V> inline auto scaled(Words<V> r, int s)
+{
+    return saturated(Words<V>{scaled_word(r.even, s), scaled_word(r.odd, s)});
+}
+
+template <class V> inline auto saturated(Doubled<V> r) { return pack_saturated(r.low, r.high); }
+template <class V> inline V scaled_double(V r, int s)
+{
+    const V odd = down(r, s) & 1;
+    return down(r + odd + ((1 << (s - 1)) - 1), s); // r is small enough for the sum
+}
+template <class V> inline auto scaled(Doubled<V> r, int s)
+{
+    return saturated(Doubled<V>{scaled_double(r.low, s), scaled_double(r.high, s)});
+}
+
+template <class V> inline V saturated(Split<V> r) { return r.high == r.low >> 31 ? r.low : limit_of(r.high); }
+template <class V> inline V scaled(Split<V> r, int s)
+{
+    if (s > 32) {
+        const V tie = ((r.high & rest_mask<V>(s - 32)) == half_unit<V>(s - 32)) & (r.low == 0);
+        return ties_to_even(halved(down(r.high, s - 33)), tie);
+    }
+    using U = Vec<u32, sizeof(V) / 4>;
+    const V carried = as<V>(halved(down(as<U>(r.low), s - 1)));
+    const V q = ties_to_even(sum_modulo(up(r.high, 32 - s), carried), (r.low & rest_mask<V>(s)) == half_unit<V>(s));
+    // It does not fit if the bits above it differ, or if rounding made a negative number of a positive one.
+    const V sign = r.high >> 31, fits = (down(r.high, s - 1) == sign) & (sign | ~q);
+    return where_negative(fits, q, limit_of(sign));
+}
+
+// x * 2^count within the limits, 0 < count <= width, for signed lanes < width. The number that goes just beyond the
+// upper limit becomes a single bit above the element, or its sign: one less is the limit.
+template <class V> inline V raised(V x, int count)
+{
+    using T = Lane<V>;
+    const V beyond = all<V>(static_cast<T>(u64(1) << (width<T> - isSigned<T> - count)));
+    x = lower(x, beyond);
+    if constexpr (isSigned<T>) x = higher(x, -beyond);
+    return sum_modulo(up(x, count), as<V>(x == beyond));
+}
+
+// Operations on vectors, for the three ranges of s. What they work on may be a pair of elements.
+template <class Op> struct Saturated {
+    Op op;
+    template <class... V> auto result(V... x) const
+    {
+        if constexpr (requires { op.saturated(x...); })
+            return op.saturated(x...);
+        else
+            return saturated(op.exact(x...));
+    }
+    template <class V, class... W> V operator()(V x, W... y) const { return as<V>(result(x, y...)); }
+};
+template <class Op> struct Raised {
+    Op op;
+    int count;
+    template <class V, class... W> V operator()(V x, W... y) const
+    {
+        return as<V>(raised(Saturated<Op>{op}.result(x, y...), count));
+    }
+};
+template <class Op> struct Scaled {
+    Op op;
+    int s;
+    template <class V, class... W> V operator()(V x, W... y) const { return as<V>(scaled(op.exact(x, y...), s)); }
+};
+template <class Op, int s> struct Quick {
+    Op op;
+    template <class V, class... W> V operator()(V x, W... y) const { return op.template quickly<s>(x, y...); }
+};
+template <class Op, class T, int s> constexpr bool hasQuick = requires { requires Op::template quick<T, s>; };
+
+inline void clear(size_t bytes, u8* d)
+{
+    map(bytes, d, [] { return Vec<u8>{}; });
+}
+
+// d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
+template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
+{
+    constexpr int light = sizeof(T) < 4 ? 4 : 2; // vectors in flight where operations on them are few
+    if constexpr (hasQuick<Op, T, 1>)
+        if (s == 1) return map_compact<light>(n, d, Quick<Op, 1>{op}, a...);
+    if constexpr (hasQuick<Op, T, 15>)
+        if (s == 15) return map_compact<light>(n, d, Quick<Op, 15>{op}, a...);
+    if (s == 0)
+        map_compact<light>(n, d, Saturated<Op>{op}, a...);
+    else if (s < 0)
+        map_compact<2>(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
+    else if (s <= Op::template bits<T>)
+        map_compact<2>(n, d, Scaled<Op>{op, s}, a...);
+    else
+        clear(n * sizeof(D), reinterpret_cast<u8*>(d));
+}
+
+#endif
+
+// The one place for each operation and type where the loops are made.
+template <class Op, class T, class... A> [[gnu::noinline]] void run_scaled(size_t n, T* d, int s, A... a)
+{
+    map_scaled<T>(Op{}, s, n, d, a...);
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT

@@ -1,0 +1,142 @@
+// Runs of elements within rows: copied, exchanged, set to zero. Matrices are walked row by row around them.
+#pragma once
+#include "kernel/loops.h"
+#include "matrix/overlap.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// d[k] = a[k], k increasing: what overlapping runs must get.
+template <class T> inline void copy_in_order(const T* a, T* d, size_t n)
+{
+    for (size_t k = 0; k < n; ++k) {
+        d[k] = a[k];
+        one_by_one();
+    }
+}
+template <class T> inline void exchange_in_order(T* a, T* b, size_t n)
+{
+    for (size_t k = 0; k < n; ++k) {
+        const T x = a[k];
+        a[k] = b[k];
+        b[k] = x;
+        one_by_one();
+    }
+}
+
+#if SIG5D_LEVEL == 0
+
+template <class T> inline void copy_run(const T* a, T* d, size_t n, bool) { copy_in_order(a, d, n); }
+template <class T> inline void exchange_runs(T* a, T* b, size_t n) { exchange_in_order(a, b, n); }
+template <class T> inline void zero_run(T* d, size_t n)
+{
+    for (size_t k = 0; k < n; ++k) d[k] = T{};
+}
+
+#else
+
+inline void copy_bytes(size_t n, const u8* a, u8* d) { map(n, d, Same{}, a); }
+
+// The runs have nothing in common.
+[[gnu::noinline]] void copy_bytes_past_caches(size_t n, const u8* a, u8* d)
+{
+    const size_t skip = misalignment(d) + vectorBytes;
+    copy_bytes(skip, a, d);
+    const u8* from = a + skip;
+    u8* to = d + skip;
+    const size_t left = map_blocks(
+        n - skip, to, [](u8* p, auto v) { stream(p, v); }, Same{}, from);
+    stream_end();
+    copy_bytes(left, from, to);
+}
+
+// The order of elements shows only where the destination begins inside the source. A run goes past the caches if the
+// caller writes more than they hold and if it is so long that the lines at its ends, written in part, do not count.
+template <class T> inline void copy_run(const T* a, T* d, size_t n, bool pastCaches)
+{
+    const size_t distance = reinterpret_cast<uintptr_t>(d) - reinterpret_cast<uintptr_t>(a), bytes = n * sizeof(T);
+    const auto from = reinterpret_cast<const u8*>(a);
+    const auto to = reinterpret_cast<u8*>(d);
+    if (distance < bytes && distance) return copy_in_order(a, d, n);
+    if (pastCaches && bytes >= 4096 && apart(a, d, bytes)) return copy_bytes_past_caches(bytes, from, to);
+    copy_bytes(bytes, from, to);
+}
+
+template <int bytes> inline auto piece(const u8* p)
+{
+    if constexpr (bytes > 16)
+        return loadn<bytes>(p);
+    else
+        return load_part<bytes>(p);
+}
+
+// Rows of at most two vectors, for which a call each would cost more than the copy. The matrices have nothing in
+// common.
+template <int bytes> void copy_short_rows(size_t rows, size_t n, const u8* a, u8* d, size_t aStep, size_t dStep)
+{
+    if constexpr (bytes > 1)
+        if (n < bytes) return copy_short_rows<bytes / 2>(rows, n, a, d, aStep, dStep);
+    for (; rows; --rows) {
+        const auto head = piece<bytes>(a), tail = piece<bytes>(a + (n - bytes));
+        store_part<bytes>(d, head);
+        store_part<bytes>(d + (n - bytes), tail);
+        a += aStep;
+        d += dStep;
+    }
+}
+
+template <int bytes> inline void exchange_short(size_t n, u8* a, u8* b)
+{
+    if (n >= bytes) {
+        const auto aHead = load_part<bytes>(a), aTail = load_part<bytes>(a + (n - bytes));
+        const auto bHead = load_part<bytes>(b), bTail = load_part<bytes>(b + (n - bytes));
+        store_part<bytes>(a, bHead);
+        store_part<bytes>(a + (n - bytes), bTail);
+        store_part<bytes>(b, aHead);
+        store_part<bytes>(b + (n - bytes), aTail);
+    } else if constexpr (bytes > 1) {
+        exchange_short<bytes / 2>(n, a, b);
+    }
+}
+
+// As in map, the last vectors overlap the others: they are loaded first and stored at the end.
+inline void exchange_bytes(size_t n, u8* a, u8* b)
+{
+    constexpr size_t L = vectorBytes;
+    if (n < L) return exchange_short<L / 2>(n, a, b);
+    const Vec<u8> aTail = load(a + (n - L)), bTail = load(b + (n - L));
+    size_t k = 0;
+    for (; k + 2 * L <= n; k += 2 * L) {
+        const Vec<u8> a0 = load(a + k), a1 = load(a + k + L), b0 = load(b + k), b1 = load(b + k + L);
+        put(a + k, b0);
+        put(a + k + L, b1);
+        put(b + k, a0);
+        put(b + k + L, a1);
+    }
+    if (k + L <= n) {
+        const Vec<u8> a0 = load(a + k);
+        put(a + k, load(b + k));
+        put(b + k, a0);
+    }
+    put(a + (n - L), bTail);
+    put(b + (n - L), aTail);
+}
+
+template <class T> inline void exchange_runs(T* a, T* b, size_t n)
+{
+    const size_t distance = reinterpret_cast<uintptr_t>(b) - reinterpret_cast<uintptr_t>(a), bytes = n * sizeof(T);
+    if (distance == 0) return;
+    if (distance < bytes || -distance < bytes) return exchange_in_order(a, b, n);
+    exchange_bytes(bytes, reinterpret_cast<u8*>(a), reinterpret_cast<u8*>(b));
+}
+
+template <class T> inline void zero_run(T* d, size_t n)
+{
+    const Vec<u8> none{};
+    map(n * sizeof(T), reinterpret_cast<u8*>(d), [none] { return none; });
+}
+
+#endif
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT

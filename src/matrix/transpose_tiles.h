@@ -1,0 +1,186 @@
+// Transposes of whole matrices from register blocks: in which order the blocks are taken, and what is left at the
+// edges.
+#pragma once
+#include "matrix/transpose_block.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+#if SIG5D_LEVEL > 0
+
+constexpr size_t lineBytes = 64;
+
+inline void fetch(const u8* p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0); }
+
+// A matrix of elements of "size" bytes. Rows are "step" bytes apart.
+template <int size, class Byte> struct View {
+    Byte* p;
+    size_t step;
+    Byte* at(size_t i, size_t j) const { return p + i * step + j * size; }
+    View from(size_t i, size_t j) const { return {at(i, j), step}; }
+};
+template <int size> using In = View<size, const u8>;
+template <int size> using Out = View<size, u8>;
+
+// How results are written. A walk that writes whole lines fetches those that come next, since nobody else could know
+// that they are about to be written: that is worth a third from the second cache level on. Past the caches it fetches
+// the source instead, which few rows at a time leave to nobody else either.
+enum class Writing { blocks, lines, linesPastCaches };
+
+// Rows between a walk past the caches and the source that it fetches: a tile of it.
+template <int size> constexpr size_t rowsAhead = 2 * lineBytes / size;
+
+// Blocks of "columns" columns, "steps" times, moving on by so many bytes each time; the last step goes to a place of
+// its own: where steps do not divide the matrix it overlaps the one before it. A step is one block, or as many below
+// each other as make whole lines of the result, each of which is written in one go as far as registers go round.
+template <int size, int width, bool conj, int columns, Writing writing>
+inline void transpose_walk(In<size> a, Out<size> d, size_t steps, size_t aMove, size_t dMove, const u8* lastA,
+                           u8* lastD)
+{
+    constexpr bool past = writing == Writing::linesPastCaches;
+    constexpr int C = 16 / size, R = width / size, P = portion<size>;
+    constexpr int count = writing == Writing::blocks ? 1 : lineBytes / width;
+    constexpr int registers = sizeof(void*) == 4 ? 4 : 8; // the others are for shuffling
+    constexpr int together = past || P * count <= registers ? count : P < registers ? registers / P : 1;
+    while (steps) {
+        if (writing == Writing::lines) {
+#pragma GCC unroll 16
+            for (int k = 0; k < columns; ++k) fetch(d.p + k * d.step + 2 * lineBytes - 1);
+        }
+        if (past)
+            for (size_t k = 0; k < lineBytes / size; ++k) fetch(a.at(rowsAhead<size> + k, 0));
+#pragma GCC unroll 4
+        for (int block = 0; block < count; block += together)
+#pragma GCC unroll 4
+            for (int g = 0; g < columns; g += P) {
+                Reg<width> x[together][P];
+#pragma GCC unroll 4
+                for (int b = 0; b < together; ++b)
+                    load_columns<size, width, conj>(x[b], a.at((block + b) * R, g / C * C), a.step, g % C != 0);
+#pragma GCC unroll 16
+                for (int k = 0; k < P; ++k)
+#pragma GCC unroll 4
+                    for (int b = 0; b < together; ++b) {
+                        if constexpr (past)
+                            stream(d.at(g + k, (block + b) * R), x[b][k]);
+                        else
+                            put(d.at(g + k, (block + b) * R), x[b][k]);
+                    }
+            }
+        a.p += aMove;
+        d.p += dMove;
+        if (--steps == 1) {
+            a.p = lastA;
+            d.p = lastD;
+        }
+    }
+}
+
+constexpr size_t steps_in(size_t n, size_t step) { return (n + step - 1) / step; }
+
+// Strips of rows, block by block along the row.
+template <int size, int width, bool conj, int columns>
+void transpose_by_rows(In<size> a, Out<size> d, size_t rows, size_t cols)
+{
+    constexpr size_t R = width / size;
+    for (size_t done = 0; done < rows; done += R) {
+        const size_t i = done + R <= rows ? done : rows - R;
+        transpose_walk<size, width, conj, columns, Writing::blocks>(a.from(i, 0), d.from(0, i), steps_in(cols, columns),
+                                                                    columns * size, columns * d.step,
+                                                                    a.at(i, cols - columns), d.at(cols - columns, i));
+    }
+}
+
+// Strips of columns, line by line down the column, so that rows of the result are written from one end to the other.
+template <int size, int width, bool conj, int columns, Writing writing = Writing::lines>
+void transpose_by_columns(In<size> a, Out<size> d, size_t rows, size_t cols)
+{
+    constexpr size_t line = lineBytes / size;
+    for (size_t done = 0; done < cols; done += columns) {
+        const size_t j = done + columns <= cols ? done : cols - columns;
+        transpose_walk<size, width, conj, columns, writing>(a.from(0, j), d.from(j, 0), steps_in(rows, line),
+                                                            line * a.step, lineBytes, a.at(rows - line, j),
+                                                            d.at(j, rows - line));
+    }
+}
+
+// Rows at this distance that the first cache level holds side by side: steps with many factors of two put the rows into
+// few of its sets.
+inline size_t rows_without_conflict(size_t step)
+{
+    constexpr size_t way = 4096;
+    const size_t power = step & -step;
+    return power == 0 || power >= way ? 8 : 8 * (way / power);
+}
+
+// Beyond the first cache level: in tiles. Those have more rows as long as the second level holds both matrices, by up
+// to a third faster than with few.
+template <int size, int width, bool conj, int columns>
+void transpose_by_tiles(In<size> a, Out<size> d, size_t rows, size_t cols)
+{
+    constexpr size_t line = lineBytes / size, secondLevel = 512 * 1024;
+    size_t tileRows = (rows * cols <= secondLevel / size ? 32 : 8) * line, tileCols = (rows < line ? 64 : 4) * line;
+    const size_t aRows = rows_without_conflict(a.step), dRows = rows_without_conflict(d.step);
+    if (aRows < tileRows) tileRows = aRows < 16 ? 16 : aRows;
+    if (tileRows < line) tileRows = line;
+    if (dRows < tileCols && dRows >= (size == 8 ? 2 : 1) * line) tileCols = dRows;
+    // Tiles begin at line boundaries, where rows agree on them.
+    const size_t firstRows = tileRows + (-reinterpret_cast<uintptr_t>(d.p) % lineBytes) / size;
+    const size_t firstCols = tileCols + (-reinterpret_cast<uintptr_t>(a.p) % (2 * lineBytes)) / size;
+    for (size_t j = 0, nextJ = firstCols; j < cols; j = nextJ, nextJ += tileCols) {
+        if (nextJ + columns > cols) nextJ = cols;
+        if (rows < line) {
+            transpose_by_rows<size, width, conj, columns>(a.from(0, j), d.from(j, 0), rows, nextJ - j);
+            continue;
+        }
+        for (size_t i = 0, nextI = firstRows; i < rows; i = nextI, nextI += tileRows) {
+            if (nextI + line > rows) nextI = rows;
+            transpose_by_columns<size, width, conj, columns>(a.from(i, j), d.from(j, i), nextI - i, nextJ - j);
+        }
+    }
+}
+
+// Beyond all caches, where every row of the result begins at the same place of a line. Two lines of each are written
+// at a time: more rows of the source would not stay in the first cache level.
+template <int size, int width, bool conj, int columns>
+void transpose_past_caches(In<size> a, Out<size> d, size_t rows, size_t cols)
+{
+    constexpr size_t line = lineBytes / size, tileCols = 16 * line;
+    const size_t first = -reinterpret_cast<uintptr_t>(d.p) % lineBytes / size, last = rows - (rows - first) % line;
+    transpose_by_columns<size, width, conj, columns>(a, d, line, cols);
+    for (size_t j = 0, nextJ = tileCols; j < cols; j = nextJ, nextJ += tileCols) {
+        if (nextJ + columns > cols) nextJ = cols;
+        for (size_t i = first, nextI; i < last; i = nextI) {
+            nextI = i + rowsAhead<size> < last ? i + rowsAhead<size> : last;
+            transpose_by_columns<size, width, conj, columns, Writing::linesPastCaches>(a.from(i, j), d.from(j, i),
+                                                                                       nextI - i, nextJ - j);
+        }
+    }
+    stream_end();
+    transpose_by_columns<size, width, conj, columns>(a.from(rows - line, 0), d.from(0, rows - line), line, cols);
+}
+
+// The smallest matrix that transpose_apart takes.
+template <int size> constexpr size_t smallestBlock = 16 / size;
+
+// a and d have no byte in common, and no two rows of d do.
+template <int size, bool conj> void transpose_apart(In<size> a, Out<size> d, size_t rows, size_t cols)
+{
+    constexpr int C = 16 / size, wide = widest<size>, columns = C > 4 ? C : 4;
+    constexpr size_t firstLevel = 24576;
+    if (cols < columns) {
+        if (rows < wide / size) return transpose_by_rows<size, 16, conj, C>(a, d, rows, cols);
+        return transpose_by_rows<size, wide, conj, C>(a, d, rows, cols);
+    }
+    if (rows < wide / size) return transpose_by_rows<size, 16, conj, columns>(a, d, rows, cols);
+    if (rows * cols <= firstLevel / size) return transpose_by_rows<size, wide, conj, columns>(a, d, rows, cols);
+    const bool linesAgree = d.step % lineBytes == 0 && reinterpret_cast<uintptr_t>(d.p) % size == 0;
+    if (linesAgree && rows >= 2 * lineBytes / size && streamingPays(u64(rows) * cols * size))
+        return transpose_past_caches<size, wide, conj, columns>(a, d, rows, cols);
+    transpose_by_tiles<size, wide, conj, columns>(a, d, rows, cols);
+}
+
+#endif
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT

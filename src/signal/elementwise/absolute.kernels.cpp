@@ -1,0 +1,33 @@
+// Absolute values of integers; that of the lowest, which does not fit, is the highest.
+#include "frame/entry.h"
+#include "kernel/compact_loop.h"
+#include "kernel/saturate.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+struct Absolute {
+#if SIG5D_LEVEL == 0
+    template <class T> T operator()(T x) const { return saturated<T>(x < 0 ? -static_cast<i64>(x) : x); }
+#else
+    template <class V> V operator()(V x) const
+    {
+        using U = Vec<u32, sizeof(V) / 4>;
+        if constexpr (sizeof(Lane<V>) == 2) {
+            return higher(x, subtract_saturated(V{}, x));
+        } else { // the lowest stays itself: it is the only negative one
+            const V a = higher(x, difference_modulo(V{}, x));
+            return SIG5D_LEVEL < 3 ? a ^ (a >> 31) : as<V>(lower(as<U>(a), all<U>(highest<i32>)));
+        }
+    }
+#endif
+};
+
+template <class T> [[gnu::noinline]] void absolute(const T* a, T* d, int n)
+{
+    map_compact<4>(static_cast<size_t>(n), d, Absolute{}, a);
+}
+
+} // namespace
+#include "entries/signal/elementwise/absolute.inc"
+} // namespace sig5d::SIG5D_VARIANT

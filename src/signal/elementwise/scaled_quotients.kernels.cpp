@@ -1,0 +1,131 @@
+// Quotients of integers, of two arrays or of an array and a value, scaled. A divisor of zero is a warning, after all
+// elements have been computed.
+//
+// The rounded quotient of two floating-point numbers is on the same side of every tie as the exact one, or on it like
+// that, if the significand has more bits than dividend, divisor and result leave open: doubles always do, single
+// precision does for 8 bits, and for 16 bits while results are not scaled up.
+#include "frame/entry.h"
+#include "kernel/repeated.h"
+#include "kernel/scale.h"
+#include <emmintrin.h>
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// Beyond these scale factors all results are zero or limits. A zero divisor is taken for a number so small that any
+// quotient is far beyond the limits, and that of zero is zero: no exceptions, and no infinity, which has no integer.
+template <class F> constexpr int mostScaled = sizeof(F) == 4 ? 24 : 64;
+template <class F> constexpr F insteadOfZero = sizeof(F) == 4 ? F(0x1p-60) : F(0x1p-200);
+
+template <class F> inline F scale_of(int s)
+{
+    constexpr int most = mostScaled<F>;
+    s = s < -most ? -most : s > most ? most : s;
+    return static_cast<F>(__builtin_bit_cast(f64, static_cast<u64>(1023 - s) << 52));
+}
+
+#if SIG5D_LEVEL == 0
+
+inline i64 nearest(f64 q) { return _mm_cvtsd_si32(_mm_set_sd(q)); }
+
+template <class T, class F> struct Quotient {
+    F scale;
+    int& zeroDivisors;
+    T operator()(T x, T y) const
+    {
+        zeroDivisors |= y == 0;
+        const f64 q = static_cast<f64>(x) * scale / (y == 0 ? insteadOfZero<f64> : y);
+        return saturated<T>(nearest(q < lowest_of<i32> ? lowest_of<i32> : q > highest<i32> ? highest<i32> : q));
+    }
+};
+
+#else
+
+// 32-bit integers as floating-point numbers, in as many vectors as they take, and back to the nearest.
+inline __m128 singles(__m128i x) { return _mm_cvtepi32_ps(x); }
+inline __m128d low_doubles(__m128i x) { return _mm_cvtepi32_pd(x); }
+inline __m128d high_doubles(__m128i x) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64(x, x)); }
+inline __m128i nearest(__m128 x) { return _mm_cvtps_epi32(x); }
+inline __m128i nearest(__m128d low, __m128d high)
+{
+    return _mm_unpacklo_epi64(_mm_cvtpd_epi32(low), _mm_cvtpd_epi32(high));
+}
+inline __m128i low_bytes(__m128i x, __m128i y) { return _mm_unpacklo_epi8(x, y); }
+inline __m128i high_bytes(__m128i x, __m128i y) { return _mm_unpackhi_epi8(x, y); }
+inline int any_set(__m128i masks) { return _mm_movemask_epi8(masks); }
+#if SIG5D_LEVEL >= 5
+inline __m256 singles(__m256i x) { return _mm256_cvtepi32_ps(x); }
+inline __m256d low_doubles(__m256i x) { return _mm256_cvtepi32_pd(_mm256_castsi256_si128(x)); }
+inline __m256d high_doubles(__m256i x) { return _mm256_cvtepi32_pd(_mm256_extracti128_si256(x, 1)); }
+inline __m256i nearest(__m256 x) { return _mm256_cvtps_epi32(x); }
+inline __m256i nearest(__m256d low, __m256d high)
+{
+    return _mm256_set_m128i(_mm256_cvtpd_epi32(high), _mm256_cvtpd_epi32(low));
+}
+inline __m256i low_bytes(__m256i x, __m256i y) { return _mm256_unpacklo_epi8(x, y); }
+inline __m256i high_bytes(__m256i x, __m256i y) { return _mm256_unpackhi_epi8(x, y); }
+inline int any_set(__m256i masks) { return _mm256_movemask_epi8(masks); }
+#endif
+
+// Within the range of 32-bit integers (nearly, in single precision, but no result is that large).
+template <class F, class V> inline V quotient(V x, V y, F scale)
+{
+    const V least = all<V>(static_cast<F>(lowest_of<i32>)), most = all<V>(sizeof(F) == 4 ? F(0x1p30) : F(highest<i32>));
+    const auto tiny = bits(all<V>(insteadOfZero<F>)) & bits(y == V{}); // zero has no bits of its own
+    const V q = x * scale / as<V>(bits(y) | tiny);
+    return lower(higher(q, least), most);
+}
+
+// Of elements that stand in 32-bit lanes; of elements in lanes half as wide; a quarter.
+template <class F, class V> inline V quotients(V x, V y, F scale)
+{
+    const auto a = bits(x), b = bits(y);
+    if constexpr (sizeof(Lane<V>) == 1) {
+        using W = Vec<i16, sizeof(V) / 2>;
+        const auto zero = bits(V{});
+        const W low = quotients<F>(as<W>(low_bytes(a, zero)), as<W>(low_bytes(b, zero)), scale);
+        const W high = quotients<F>(as<W>(high_bytes(a, zero)), as<W>(high_bytes(b, zero)), scale);
+        return as<V>(packed_bytes(bits(low), bits(high)));
+    } else if constexpr (sizeof(Lane<V>) == 2) {
+        const auto p = unpacked(x, x >> 15), q = unpacked(y, y >> 15);
+        return pack_saturated(quotients<F>(p.low, q.low, scale), quotients<F>(p.high, q.high, scale));
+    } else if constexpr (sizeof(F) == 4) {
+        return as<V>(nearest(quotient(singles(a), singles(b), scale)));
+    } else {
+        return as<V>(nearest(quotient(low_doubles(a), low_doubles(b), scale),
+                             quotient(high_doubles(a), high_doubles(b), scale)));
+    }
+}
+
+template <class T, class F> struct Quotient {
+    F scale;
+    int& zeroDivisors;
+    template <class V> V operator()(V x, V y) const
+    {
+        zeroDivisors |= any_set(bits(as<V>(y == V{})));
+        return quotients<F>(x, y, scale);
+    }
+};
+
+#endif
+
+template <class F, class T, class... A> [[gnu::noinline]] Status run(size_t n, T* d, int s, A... a)
+{
+    int zeroDivisors = 0;
+    map_compact<2>(n, d, Quotient<T, F>{scale_of<F>(s), zeroDivisors}, a...);
+    return zeroDivisors ? StsDivByZero : StsNoErr;
+}
+
+template <class T, class... A> Status choose(int n, T* d, int s, A... a)
+{
+    if (sizeof(T) == 1 || (sizeof(T) == 2 && s >= 0)) return run<f32>(count(d, n), d, s, a...);
+    return run<f64>(count(d, n), d, s, a...);
+}
+
+// b / a: the divisor comes first.
+template <class T> Status divide(const T* a, const T* b, T* d, int n, int s) { return choose(n, d, s, b, a); }
+template <class T> Status divide(const T* a, T v, T* d, int n, int s) { return choose(n, d, s, a, repeated(v)); }
+
+} // namespace
+#include "entries/signal/elementwise/scaled_quotients.inc"
+} // namespace sig5d::SIG5D_VARIANT
