@@ -976,8 +976,9 @@ IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp6
 
 /* ---- Polar and Cartesian coordinates ---- */
 
-/* pDst[i] = atan2(pSrcIm[i], pSrcRe[i]). The angle to the positive real axis, in radians from -pi to pi, to less
-   than 1 ulp. -pi itself comes from an imaginary part of -0 alone. */
+/* pDst[i] = atan2(pSrcIm[i], pSrcRe[i]). The angle to the positive real axis, in radians from -pi to pi. -pi comes
+   from imaginary parts next to the negative real axis alone: -0, and what is too small beside the real part to
+   show. */
 IppStatus SIG5D_STDCALL ippsPhase_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPhase_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDst, int dstIdx, int len);

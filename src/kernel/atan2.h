@@ -62,8 +62,8 @@ template <class V> inline V angle_of(Slope<V> a, V x, V y)
     const auto steep = absolute_value(y) > absolute_value(x);
     const auto behind = Bits::of(x) & Bits::all(signBit), turn = behind ^ Bits::of(steep ? constant<V>(-0.0) : zero);
     const V two = constant<V>(2.0), axis = two - (steep ? zero : with_sign(two, x));
-    const V eighths = axis + Bits::back(Bits::of(a.eighths) ^ turn),
-            start = eighths * constant<V>(0x1.921fb54442d18p-1);
+    const V eighths = axis + Bits::back(Bits::of(a.eighths) ^ turn);
+    const V start = eighths * constant<V>(0x1.921fb54442d18p-1);
     const V head = Bits::back(Bits::of(a.hi) ^ turn), tail = Bits::back(Bits::of(low) ^ turn);
     const V sum = start + head, lost = head - (sum - start);
     return with_sign(sum + ((lost + eighths * constant<V>(0x1.1a62633145c07p-55)) - tail), y);
