@@ -995,8 +995,8 @@ IppStatus SIG5D_STDCALL ippsCartToPolar_64fc(const Ipp64fc* pSrc, Ipp64f* pDstMa
 IppStatus SIG5D_CDECL ippsCartToPolar_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstMagn, int dstMagnIdx,
         Ipp64f* pDstPhase, int dstPhaseIdx, int len);
 
-/* pDstRe[i] = pSrcMagn[i] * cos(pSrcPhase[i]), pDstIm[i] = pSrcMagn[i] * sin(pSrcPhase[i]). Sine and cosine are
-   right to less than 1 ulp for every finite phase; the products are rounded once more. */
+/* pDstRe[i] = pSrcMagn[i] * cos(pSrcPhase[i]), pDstIm[i] = pSrcMagn[i] * sin(pSrcPhase[i]). Products of the
+   magnitude with the cosine and the sine, which are right to less than 1 ulp for every finite phase. */
 IppStatus SIG5D_STDCALL ippsPolarToCart_64f(const Ipp64f* pSrcMagn, const Ipp64f* pSrcPhase, Ipp64f* pDstRe, Ipp64f*
         pDstIm, int len);
 IppStatus SIG5D_CDECL ippsPolarToCart_64f_Idx(const Ipp64f* pSrcMagn, int srcMagnIdx, const Ipp64f* pSrcPhase, int

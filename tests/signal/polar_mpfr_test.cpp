@@ -42,7 +42,7 @@ double finite(uint64_t bits)
 bool report(const char* function, const char* kind, const Worst& w)
 {
     std::printf("%-6s %-40s %.4f ulp at %a %a\n", function, kind, w.error, w.x, w.y);
-    return w.error < 0.9;
+    return w.error < 0.95;
 }
 
 template <class Point> bool phases(const char* kind, long points, Point point)
