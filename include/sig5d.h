@@ -1078,6 +1078,37 @@ IppStatus SIG5D_STDCALL ippsSwapBytes_64u_I(Ipp64u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_64u_I_Idx(Ipp64u* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp64u* pDst, int dstIdx, int len);
 
+/* ---- Polar and Cartesian coordinates ---- */
+
+/* pDst[i] = atan2(pSrcIm[i], pSrcRe[i]). The angle to the positive real axis, in radians from -pi to pi. -pi comes
+   from imaginary parts next to the negative real axis alone: -0, and what is too small beside the real part to
+   show. */
+IppStatus SIG5D_STDCALL ippsPhase_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsPhase_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsPhase_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsPhase_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDstMagn[i] = sqrt(pSrcRe[i]^2 + pSrcIm[i]^2), pDstPhase[i] = atan2(pSrcIm[i], pSrcRe[i]). The magnitude by this
+   formula, as ippsMagnitude gives it: squares may overflow or vanish. The phase as ippsPhase gives it. */
+IppStatus SIG5D_STDCALL ippsCartToPolar_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDstMagn, Ipp64f*
+        pDstPhase, int len);
+IppStatus SIG5D_CDECL ippsCartToPolar_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
+        Ipp64f* pDstMagn, int dstMagnIdx, Ipp64f* pDstPhase, int dstPhaseIdx, int len);
+IppStatus SIG5D_STDCALL ippsCartToPolar_64fc(const Ipp64fc* pSrc, Ipp64f* pDstMagn, Ipp64f* pDstPhase, int len);
+IppStatus SIG5D_CDECL ippsCartToPolar_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstMagn, int dstMagnIdx,
+        Ipp64f* pDstPhase, int dstPhaseIdx, int len);
+
+/* pDstRe[i] = pSrcMagn[i] * cos(pSrcPhase[i]), pDstIm[i] = pSrcMagn[i] * sin(pSrcPhase[i]). Products of the
+   magnitude with the cosine and the sine, which are right to less than 1 ulp for every finite phase. */
+IppStatus SIG5D_STDCALL ippsPolarToCart_64f(const Ipp64f* pSrcMagn, const Ipp64f* pSrcPhase, Ipp64f* pDstRe, Ipp64f*
+        pDstIm, int len);
+IppStatus SIG5D_CDECL ippsPolarToCart_64f_Idx(const Ipp64f* pSrcMagn, int srcMagnIdx, const Ipp64f* pSrcPhase, int
+        srcPhaseIdx, Ipp64f* pDstRe, int dstReIdx, Ipp64f* pDstIm, int dstImIdx, int len);
+IppStatus SIG5D_STDCALL ippsPolarToCart_64fc(const Ipp64f* pSrcMagn, const Ipp64f* pSrcPhase, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsPolarToCart_64fc_Idx(const Ipp64f* pSrcMagn, int srcMagnIdx, const Ipp64f* pSrcPhase, int
+        srcPhaseIdx, Ipp64fc* pDst, int dstIdx, int len);
+
 /* ---- Thresholds ---- */
 
 /* pDst[i] = pSrc[i] < level ? level : pSrc[i]. */

@@ -1,35 +1,19 @@
 // The scalar functions against MPFR: prints the largest errors in ulp. An argument sets the number of points of each
 // kind (10^7 takes a minute; the test runs 3 * 10^5).
+#include "support/mpfr_ulps.h"
 #include "kernel/libm.h"
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <mpfr.h>
 #include <random>
 
 using namespace sig5d;
+using support::Real;
+using support::ulps;
 
 namespace {
-
-struct Real {
-    mpfr_t v;
-    explicit Real(int bits) { mpfr_init2(v, bits); }
-    ~Real() { mpfr_clear(v); }
-};
-
-// |got - exact| in units of the last place of the exact value.
-double ulps(double got, const Real& exact)
-{
-    if (mpfr_zero_p(exact.v)) return got == 0 ? 0 : HUGE_VAL;
-    static Real difference(200);
-    mpfr_sub_d(difference.v, exact.v, got, MPFR_RNDN);
-    const long place = std::max(long(mpfr_get_exp(exact.v)) - 53, -1074L);
-    mpfr_mul_2si(difference.v, difference.v, -place, MPFR_RNDN);
-    const double error = std::fabs(mpfr_get_d(difference.v, MPFR_RNDN));
-    return error >= 0 ? error : HUGE_VAL;
-}
 
 struct Worst {
     double error = 0, x = 0;

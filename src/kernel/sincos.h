@@ -1,0 +1,85 @@
+// Sine and cosine of numbers and vectors of numbers, the same bits for both. Arguments up to 2^15 are reduced here;
+// others go to the library's scalar functions one by one.
+#pragma once
+#include "kernel/libm.h"
+#include "kernel/parts.h"
+#include "kernel/polynomial.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// The rest of an argument after the nearest multiple of pi/2: rest - below, and the multiple in the low bits of
+// "quadrant".
+template <class V> struct ReducedAngle {
+    V rest, below;
+    typename BitsOf<V>::type quadrant;
+};
+
+// For |x| <= 2^15 (Cody and Waite, 1980): pi/2 as two numbers of 38 bits, whose products with the multiple are exact,
+// and a third. So near to a multiple that bits would be missing comes no double of this size.
+template <class V> inline ReducedAngle<V> reduced_angle(V x)
+{
+    const V shift = constant<V>(0x1.8p52);
+    const V shifted = x * constant<V>(0x1.45f306dc9c883p-1) + shift, n = shifted - shift;
+    const V first = x - n * constant<V>(0x1.921fb54440000p+0); // exact: both are near
+    const V product = n * constant<V>(0x1.68c234c4c0000p-39), second = first - product;
+    const V third = n * constant<V>(0x1.98a2e03707345p-77) - ((first - second) - product);
+    const V rest = second - third;
+    return {rest, third - (second - rest), BitsOf<V>::of(shifted)};
+}
+
+// Of rest - below in [-pi/4, pi/4]. The first terms of both series are added last, with what their rounding lost; the
+// others are minimax polynomials in rest^2 with errors of 2^-58 (sine) and 2^-64 (cosine).
+template <class V> inline Parts<V> near_zero_cos_sin(V rest, V below)
+{
+    static constexpr f64 sine[] = {0x1.5555555555549p-3,   -0x1.111111110f8a6p-7, 0x1.a01a019c16191p-13,
+                                   -0x1.71de357b1a5cap-19, 0x1.ae5e689d17ad5p-26, -0x1.5d93a3b6fc2d0p-33};
+    static constexpr f64 cosine[] = {0x1.555555555554cp-5,   -0x1.6c16c16c1521fp-10, 0x1.a01a019cbf61ep-16,
+                                     -0x1.27e4f812b5515p-22, 0x1.1ee9f15162e55p-29,  -0x1.8fb13027e8b9dp-37};
+    const V one = constant<V>(1.0);
+    const V z = rest * rest, half = z * constant<V>(0.5), c = one - half;
+    const V cosine_rest = ((one - c) - half) + (z * z * polynomial(cosine, z) + rest * below);
+    const V sine_rest = rest * (z * polynomial(sine, z)) + below * c;
+    return {c + cosine_rest, rest - sine_rest};
+}
+
+// (cos, sin) of x, |x| <= 2^15. The sine of -0 is -0.
+template <class V> inline Parts<V> moderate_cos_sin(V x)
+{
+    using Bits = BitsOf<V>;
+    const auto [rest, below, quadrant] = reduced_angle(x);
+    const Parts<V> a = near_zero_cos_sin(rest, below);
+    const auto one = Bits::all(1), sign = Bits::all(signBit);
+    // Odd multiples of pi/2 exchange the two.
+    const auto cosine = Bits::of(a.re), sine = Bits::of(a.im);
+    const auto exchange = (cosine ^ sine) & (Bits::all(0) - (quadrant & one));
+    return {Bits::back(cosine ^ exchange ^ (((quadrant + one) << 62) & sign)),
+            Bits::back(sine ^ exchange ^ ((quadrant << 62) & sign))};
+}
+
+inline void replace_far(Parts<f64>& w, int, f64 x)
+{
+    const libm::CosSin a = libm::cosSin(x);
+    w = {a.cos, a.sin};
+}
+template <class V> inline void replace_far(Parts<V>& w, int far, V x)
+{
+    for (int i = 0; i < static_cast<int>(sizeof(V) / sizeof(f64)); ++i) {
+        if (!(far >> i & 1)) continue;
+        const libm::CosSin a = libm::cosSin(x[i]);
+        w.re[i] = a.cos;
+        w.im[i] = a.sin;
+    }
+}
+
+// (cos, sin) of any x; infinities and NaN give NaN.
+template <class V> [[gnu::always_inline]] inline Parts<V> cos_sin(V x)
+{
+    const int far = lanes_set(absolute_value(x) <= constant<V>(0x1p15)) ^ allLanes<V>;
+    Parts<V> w = moderate_cos_sin(x);
+    if (__builtin_expect(far, 0)) replace_far(w, far, x);
+    return w;
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
