@@ -52,6 +52,8 @@ target_include_directories(convert_stream_test PRIVATE ${CMAKE_SOURCE_DIR}/src $
 target_compile_definitions(convert_stream_test PRIVATE $<$<BOOL:${SIG5D_STATIC}>:SIG5D_STATIC>)
 if(NOT SIG5D_STATIC)
     target_link_libraries(convert_stream_test PRIVATE $<$<BOOL:${WIN32}>:ssp>)
+endif()
+
 sig5d_test(polar signal/polar_test.cpp)
 if(TARGET libm_mpfr_test) # where MPFR is
     sig5d_test(polar_mpfr signal/polar_mpfr_test.cpp)
