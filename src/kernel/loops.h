@@ -114,6 +114,25 @@ inline size_t map_blocks(size_t n, D*& d, Store write, Op op, A&... a)
     return n;
 }
 
+// Whether a source can be read in any order while d is written: not where it overlaps d, unless it is d itself.
+template <class D, class A> inline bool same_place(const D*, const A&) { return false; }
+template <class D> inline bool same_place(const D* d, const D* a) { return d == a; }
+
+// The same for arrays that no cache holds. Returns the elements that are left.
+template <class D, class Store, class Op, class... A>
+inline size_t map_sections(size_t n, D*& d, Store write, Op op, A&... a)
+{
+    constexpr size_t four = 4 * lanes<D>, turn = bytesInTurn / sizeof(D);
+    const auto piece = [write, op](D* p, auto... q) {
+#pragma GCC unroll 1
+        for (size_t k = 0; k < turn; k += four) map_four(p, write, op, q...);
+    };
+    const size_t done = in_sections(n, turn, [&](size_t i) { piece(d + i, a + i...); });
+    d += done;
+    (void(a += done), ...);
+    return n - done;
+}
+
 // d[i] = op(a[i], ...) for 0 <= i < n. A source may be d itself, or overlap it and begin behind it. Sources are
 // pointers to elements of the destination's size, or what offers the same operators and loads.
 //
@@ -132,17 +151,19 @@ template <class D, class Op, class... A> [[gnu::always_inline]] inline void map(
         size_t skip = misalignment(d);
         // A value that is repeated in a vector of bytes must begin anew there.
         if constexpr (requires { op.period; }) skip &= ~(op.period - 1);
-        const bool streaming = streamingPays(n * sizeof(D)) && (apart(d, lowest(a, n), n * sizeof(D)) && ...) &&
-                               aligned(d + skip, vectorBytes);
+        const bool large = streamingPays(n * sizeof(D)) && aligned(d + skip, vectorBytes);
+        const bool streaming = large && (apart(d, lowest(a, n), n * sizeof(D)) && ...);
+        const bool anyOrder = large && ((same_place(d, a) || apart(d, lowest(a, n), n * sizeof(D))) && ...);
         d += skip;
         (void(a += skip), ...);
         size_t left = n - skip;
         const auto past_caches = [](D* p, auto v) { stream(p, v); };
         const auto ordinary = [](D* p, auto v) { put(p, v); };
         if (streaming) {
-            left = map_blocks(left, d, past_caches, op, a...);
+            left = map_sections(left, d, past_caches, op, a...);
             stream_end();
         } else {
+            if (anyOrder) left = map_sections(left, d, ordinary, op, a...);
             left = map_blocks(left, d, ordinary, op, a...);
         }
         for (; left > L; left -= L) {

@@ -58,8 +58,8 @@ protected:
 
 TEST_P(Stream, OneAndTwoSourcesAnywhere)
 {
-    const Bytes a = noise(1400), b = noise(1400, 2), before = noise(1400, 3);
-    for (size_t n = 1; n <= 1300; n += n < 300 ? 1 : 23)
+    const Bytes a = noise(5000), b = noise(5000, 2), before = noise(5000, 3);
+    for (size_t n = 1; n <= 4900; n += n < 300 ? 1 : n < 1300 ? 23 : 171) // from 1536 on in sections
         for (size_t to = 0; to < 40; to += 3) {
             Bytes d = before, expected = before;
             std::copy_n(&a[7], n, &expected[to]);
@@ -73,15 +73,15 @@ TEST_P(Stream, OneAndTwoSourcesAnywhere)
 
 TEST_P(Stream, OverlapAndInPlace)
 {
-    for (size_t n : {1u, 200u, 513u, 1000u}) {
+    for (size_t n : {1u, 200u, 513u, 1000u, 1600u, 4000u}) {
         for (size_t to : {0u, 1u, 31u, 33u, 64u, 70u, 200u}) {
-            Bytes d = noise(1500), expected = d;
+            Bytes d = noise(4500), expected = d;
             const Bytes source = d;
             std::copy_n(&source[64], n, &expected[to]);
             PICK(ippsMove_8u)(&d[64], &d[to], static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
         }
-        Bytes d = noise(1500), expected = d;
+        Bytes d = noise(4500), expected = d;
         for (size_t i = 0; i < n; ++i) expected[3 + i] = static_cast<unsigned char>(~d[3 + i]);
         PICK(ippsNot_8u_I)(&d[3], static_cast<int>(n));
         ASSERT_EQ(d, expected) << n;
