@@ -118,16 +118,23 @@ inline size_t map_blocks(size_t n, D*& d, Store write, Op op, A&... a)
 template <class D, class A> inline bool same_place(const D*, const A&) { return false; }
 template <class D> inline bool same_place(const D* d, const D* a) { return d == a; }
 
+template <size_t n, class D, class Store, class Op, class... A> inline void map_turn(D* d, Store write, Op op, A... a)
+{
+#pragma GCC unroll 1
+    for (size_t i = 0; i < n; i += 4 * lanes<D>) map_four(d, write, op, a...);
+}
+
 // The same for arrays that no cache holds. Returns the elements that are left.
 template <class D, class Store, class Op, class... A>
 inline size_t map_sections(size_t n, D*& d, Store write, Op op, A&... a)
 {
-    constexpr size_t four = 4 * lanes<D>, turn = bytesInTurn / sizeof(D);
-    const auto piece = [write, op](D* p, auto... q) {
-#pragma GCC unroll 1
-        for (size_t k = 0; k < turn; k += four) map_four(p, write, op, q...);
-    };
-    const size_t done = in_sections(n, turn, [&](size_t i) { piece(d + i, a + i...); });
+    constexpr size_t L = lanes<D>, turn = bytesInTurn / sizeof(D);
+    for (; !aligned(d, 64) && n >= L; n -= L) { // in turns of whole cache lines
+        write(d, op(loadn<L>(a)...));
+        d += L;
+        (void(a += L), ...);
+    }
+    const size_t done = in_sections(n, turn, [&](size_t i) { map_turn<turn>(d + i, write, op, a + i...); });
     d += done;
     (void(a += done), ...);
     return n - done;
