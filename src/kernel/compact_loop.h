@@ -101,8 +101,7 @@ template <class T> [[gnu::always_inline]] inline void store_ends(T* array, size_
 }
 
 // As many groups of vectors as leave one element or more. Returns the elements that are left.
-template <int group, class D, class Store, class Op, class... A>
-inline size_t map_groups(size_t n, D*& d, Store write, Op op, A&... a)
+template <int group, class D, class Op, class... A> inline size_t map_groups(size_t n, D*& d, Op op, A&... a)
 {
     constexpr int L = lanes<D>;
     for (; n > group * L; n -= group * L) {
@@ -111,7 +110,7 @@ inline size_t map_groups(size_t n, D*& d, Store write, Op op, A&... a)
         for (int i = 0; i < group; ++i) v[i] = op(held(loadn<L>(a + i * L))...);
 #pragma GCC unroll 8
         for (int i = 0; i < group; ++i) {
-            write(d + i * L, v[i]);
+            put(d + i * L, v[i]);
             keep(d);
         }
         d += group * L;
@@ -131,19 +130,12 @@ template <int group, class D, class Op, class... A>
     D* const last = d + (n - L);
     const auto head = op(loadn<L>(a)...), tail = op(loadn<L>(a + (n - L))...);
     const size_t skip = L - reinterpret_cast<uintptr_t>(d) % vectorBytes / sizeof(D);
-    const bool streaming = streamingPays(n * sizeof(D)) && (apart(d, lowest(a, n), n * sizeof(D)) && ...) &&
-                           aligned(d + skip, vectorBytes);
+    const LargeArray large = large_array(n, d, a...);
     d += skip;
     (void(a += skip), ...);
     size_t left = n - skip;
-    if (streaming) {
-        left = map_groups<2>(
-            left, d, [](D* p, auto v) { stream(p, v); }, op, a...);
-        stream_end();
-    } else {
-        left = map_groups<group>(
-            left, d, [](D* p, auto v) { put(p, v); }, op, a...);
-    }
+    if (large.inSections && aligned(d, vectorBytes)) left = map_sections<2>(left, d, large, op, a...);
+    left = map_groups<group>(left, d, op, a...);
     for (; left > L; left -= L) {
         put(d, op(loadn<L>(a)...));
         d += L;

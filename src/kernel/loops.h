@@ -114,27 +114,59 @@ inline size_t map_blocks(size_t n, D*& d, Store write, Op op, A&... a)
     return n;
 }
 
-// Whether a source can be read in any order while d is written: not where it overlaps d, unless it is d itself.
+// How a large array d is written. In sections: where every source is d itself or has no byte in common with it. Past
+// the caches: where none is d.
+struct LargeArray {
+    bool inSections, pastCaches;
+    template <class V> void operator()(void* p, V v) const
+    {
+        if (pastCaches)
+            stream(p, v);
+        else
+            put(p, v);
+    }
+};
 template <class D, class A> inline bool same_place(const D*, const A&) { return false; }
 template <class D> inline bool same_place(const D* d, const D* a) { return d == a; }
-
-template <size_t n, class D, class Store, class Op, class... A> inline void map_turn(D* d, Store write, Op op, A... a)
+template <class D, class... A> inline LargeArray large_array(size_t n, [[maybe_unused]] D* d, A... a)
 {
-#pragma GCC unroll 1
-    for (size_t i = 0; i < n; i += 4 * lanes<D>) map_four(d, write, op, a...);
+    if (!streamingPays(n * sizeof(D))) return {false, false};
+    return {((same_place(d, a) || apart(d, lowest(a, n), n * sizeof(D))) && ...),
+            (apart(d, lowest(a, n), n * sizeof(D)) && ...)};
 }
 
-// The same for arrays that no cache holds. Returns the elements that are left.
-template <class D, class Store, class Op, class... A>
-inline size_t map_sections(size_t n, D*& d, Store write, Op op, A&... a)
+template <int group, size_t n, class D, class Op, class... A>
+inline void map_turn(D* d, LargeArray write, Op op, A... a)
+{
+    constexpr int L = lanes<D>;
+#pragma GCC unroll 1
+    for (size_t i = 0; i < n; i += group * L) {
+        decltype(op(loadn<L>(a)...)) v[group];
+#pragma GCC unroll 4
+        for (int k = 0; k < group; ++k) v[k] = op(loadn<L>(a + k * L)...);
+#pragma GCC unroll 4
+        for (int k = 0; k < group; ++k) {
+            write(d + k * L, v[k]);
+            keep(d);
+        }
+        d += group * L;
+        (void(a += group * L), ...);
+        keep(d);
+    }
+}
+
+// A large array, so many vectors at a time; d is aligned to the size of a vector. Returns the elements that are left.
+template <int group, class D, class Op, class... A>
+inline size_t map_sections(size_t n, D*& d, LargeArray write, Op op, A&... a)
 {
     constexpr size_t L = lanes<D>, turn = bytesInTurn / sizeof(D);
     for (; !aligned(d, 64) && n >= L; n -= L) { // in turns of whole cache lines
-        write(d, op(loadn<L>(a)...));
+        put(d, op(loadn<L>(a)...));
         d += L;
         (void(a += L), ...);
     }
-    const size_t done = in_sections(n, turn, [&](size_t i) { map_turn<turn>(d + i, write, op, a + i...); });
+    const size_t done = in_sections(n, turn, [&](size_t i) { map_turn<group, turn>(d + i, write, op, a + i...); });
+    if (write.pastCaches) stream_end();
     d += done;
     (void(a += done), ...);
     return n - done;
@@ -158,21 +190,13 @@ template <class D, class Op, class... A> [[gnu::always_inline]] inline void map(
         size_t skip = misalignment(d);
         // A value that is repeated in a vector of bytes must begin anew there.
         if constexpr (requires { op.period; }) skip &= ~(op.period - 1);
-        const bool large = streamingPays(n * sizeof(D)) && aligned(d + skip, vectorBytes);
-        const bool streaming = large && (apart(d, lowest(a, n), n * sizeof(D)) && ...);
-        const bool anyOrder = large && ((same_place(d, a) || apart(d, lowest(a, n), n * sizeof(D))) && ...);
+        const LargeArray large = large_array(n, d, a...);
         d += skip;
         (void(a += skip), ...);
         size_t left = n - skip;
-        const auto past_caches = [](D* p, auto v) { stream(p, v); };
-        const auto ordinary = [](D* p, auto v) { put(p, v); };
-        if (streaming) {
-            left = map_sections(left, d, past_caches, op, a...);
-            stream_end();
-        } else {
-            if (anyOrder) left = map_sections(left, d, ordinary, op, a...);
-            left = map_blocks(left, d, ordinary, op, a...);
-        }
+        if (large.inSections && aligned(d, vectorBytes)) left = map_sections<4>(left, d, large, op, a...);
+        left = map_blocks(
+            left, d, [](D* p, auto v) { put(p, v); }, op, a...);
         for (; left > L; left -= L) {
             put(d, op(loadn<L>(a)...));
             d += L;
