@@ -26,20 +26,22 @@ const struct Work {
     Element element;
     double divisions, squareRoots;
 } works[] = {
-    {"ippsDiv", Element::f64, 1, 0},
-    {"ippsDiv", Element::c64f, 1, 0},
-    {"ippsDivCRev", Element::f64, 1, 0},
-    {"ippsSqrt", Element::f64, 0, 1},
-    {"ippsSqrt", Element::c64f, 2, 2},
-    {"ippsMagnitude", Element::f64, 0, 1},
-    {"ippsMagnitude", Element::c64f, 0, 1},
-    {"DivideValue", Element::f64, 1, 0},
-    {"DivideValue", Element::c64f, 1, 0},
-    {"DivideValuedc", Element::f64, 2, 0},
-    {"DivVeccd", Element::c64f, 2, 0},
-    {"DivVeccc", Element::c64f, 1, 0},
+    {"ippsDiv", Element::f64, 1, 0},        {"ippsDiv", Element::c64f, 1, 0},    {"ippsDivCRev", Element::f64, 1, 0},
+    {"ippsSqrt", Element::f64, 0, 1},       {"ippsSqrt", Element::c64f, 2, 2},   {"ippsMagnitude", Element::f64, 0, 1},
+    {"ippsMagnitude", Element::c64f, 0, 1}, {"DivideValue", Element::f64, 1, 0}, {"DivideValue", Element::c64f, 1, 0},
+    {"DivideValuedc", Element::f64, 2, 0},  {"DivVeccd", Element::c64f, 2, 0},   {"DivVeccc", Element::c64f, 1, 0},
     {"DivVecdc", Element::f64, 1, 0},
 };
+
+using Rule = double (*)(const Value*); // a scalar's value as it follows from others
+
+Value number(double x)
+{
+    Value v;
+    v.re = v.im = x;
+    v.i = v.i2 = static_cast<long long>(x);
+    return v;
+}
 
 bool isLength(const Arg& a) { return a.kind == Kind::scalar && a.inExtent && !a.domainSize; }
 
@@ -55,11 +57,14 @@ struct Job {
     std::vector<Value> values;
     const char* chosenArgument = "";
     int chosenValue = 0;
+    std::vector<Rule> rules = {}; // of the scalars that have one: row strides follow the lengths
 
     void setLengths(long long n)
     {
         for (int i = 0; i < f->argCount; ++i)
             if (isLength(f->args[i])) values[i].i = n;
+        for (int i = 0; i < f->argCount; ++i)
+            if (rules[i]) values[i] = number(rules[i](values.data()));
     }
     bool valid() const
     {
@@ -72,28 +77,28 @@ struct Job {
 
 // Values to try for a scalar, ordinary ones first: numbers that differ from argument to argument, grow with it, and are
 // nothing special.
-std::vector<Value> candidates(const Job& job, int i)
+struct Candidate {
+    double value;
+    Rule rule;
+};
+std::vector<Candidate> candidates(const Job& job, int i)
 {
     const Arg& a = job.f->args[i];
-    std::vector<double> numbers;
+    std::vector<Candidate> all;
+    const auto add = [&](std::initializer_list<double> values) {
+        for (double x : values) all.push_back({x, nullptr});
+    };
     if (!std::strcmp(a.name, job.chosenArgument)) {
-        numbers = {static_cast<double>(job.chosenValue)};
+        add({static_cast<double>(job.chosenValue)});
     } else if (!std::strcmp(a.name, "rndMode")) {
-        numbers = {1}; // what callers use, though not the largest
+        add({1}); // what callers use, though not the largest
     } else {
-        for (int k = 0; k < a.domainSize; ++k) numbers.push_back(a.domain[k](job.values.data()));
-        std::stable_partition(numbers.begin(), numbers.end(), [](double x) { return x > 1; });
+        for (int k = 0; k < a.domainSize; ++k) all.push_back({a.domain[k](job.values.data()), a.domain[k]});
+        std::stable_partition(all.begin(), all.end(), [](const Candidate& c) { return c.value > 1; });
     }
-    if (numbers.empty() && a.element == Element::none) numbers = {1, 0, 2, 3, 8};
-    if (numbers.empty() && registry::isFloating(a.element)) numbers = {0.3125 + 0.0625 * i, -0.3125, 0, 1};
-    if (numbers.empty()) numbers = {37.0 + i, 3, 1, 0, -1};
-    std::vector<Value> all;
-    for (double x : numbers) {
-        Value v;
-        v.re = v.im = x;
-        v.i = v.i2 = static_cast<long long>(x);
-        all.push_back(v);
-    }
+    if (all.empty() && a.element == Element::none) add({1, 0, 2, 3, 8});
+    if (all.empty() && registry::isFloating(a.element)) add({0.3125 + 0.0625 * i, -0.3125, 0, 1});
+    if (all.empty()) add({37.0 + i, 3, 1, 0, -1});
     return all;
 }
 
@@ -103,8 +108,9 @@ bool chooseScalars(Job& job, int i, int& attempts)
     if (i == job.f->argCount) return --attempts, job.valid();
     const Arg& a = job.f->args[i];
     if (a.kind != Kind::scalar || isLength(a)) return chooseScalars(job, i + 1, attempts);
-    for (const Value& v : candidates(job, i)) {
-        job.values[i] = v;
+    for (const Candidate& c : candidates(job, i)) {
+        job.values[i] = number(c.value);
+        job.rules[i] = c.rule;
         if (chooseScalars(job, i + 1, attempts)) return true;
         if (attempts <= 0) return false;
     }
@@ -213,6 +219,7 @@ void addJob(Job job, const std::string& name, const Selection& selection, std::v
     const Function& f = *job.f;
     int attempts = 1000;
     job.values.resize(static_cast<size_t>(f.argCount));
+    job.rules.resize(job.values.size());
     for (int i = 0; i < f.argCount; ++i)
         if (f.args[i].kind != Kind::scalar && f.args[i].kind != Kind::index) job.values[i].p = somewhere();
     job.setLengths(16);
