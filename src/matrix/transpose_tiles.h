@@ -11,6 +11,7 @@ namespace {
 constexpr size_t lineBytes = 64;
 
 inline void fetch(const u8* p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0); }
+inline void fetch_for_later(const u8* p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T1); }
 
 // A matrix of elements of "size" bytes. Rows are "step" bytes apart.
 template <int size, class Byte> struct View {
@@ -101,6 +102,8 @@ inline size_t rows_without_conflict(size_t step)
     return power == 0 || power >= way ? 8 : 8 * (way / power);
 }
 
+inline bool sharesFewSets(size_t step) { return step % 1024 == 0; }
+
 // Beyond the first cache level: in tiles. Those have more rows as long as the second level holds both matrices, by up
 // to a third faster than with few.
 template <int size, int width, bool conj, int columns>
@@ -142,28 +145,32 @@ template <int pieces, class F, class... Piece> [[gnu::noinline]] void with_room(
     }
 }
 
-// Beyond the second cache level, where every row of the result begins at the same place of a line: tiles, of which two
-// lines in each row are read and two written, past the caches. Each is copied first: rows that share few cache sets
-// would push each other out before all of their columns are taken. (Single lines took up to 1.4 times as long.) Bytes
-// get half as many rows, since even those take 8 KB.
-template <int size> struct Tile {
-    static constexpr int rows = size == 1 ? lineBytes : 2 * lineBytes / size, cols = 2 * lineBytes / size;
+// Tiles that are copied before they are written: rows that share few cache sets push each other out before all of
+// their columns are taken. The copy lies in pieces, side by side, of as many rows. Meanwhile the tile that lies "ahead"
+// bytes further is fetched.
+template <int size, int rows_, int cols_> struct Tile {
+    static constexpr int rows = rows_, cols = cols_;
     static constexpr int step = rows * cols * size < pieceBytes ? cols * size : pieceBytes / rows; // in a piece
     static constexpr int pieces = cols * size / step;
 };
 
-template <int size, int width, bool conj>
-inline void transpose_tile_past_caches(In<size> a, Out<size> d, u8* const (&piece)[Tile<size>::pieces])
+template <int size, int width, class Tile> inline void copy_tile(In<size> a, u8* const* piece, size_t ahead)
 {
-    using Tile = Tile<size>;
-    constexpr int R = width / size, P = portion<size>, together = lineBytes / width;
-    for (int i = 0; i < Tile::rows; ++i)
+    for (int i = 0; i < Tile::rows; ++i) {
+        for (int k = 0; k < Tile::cols * size; k += lineBytes) fetch_for_later(a.at(i, 0) + ahead + k);
 #pragma GCC unroll 16
-        for (int k = 0; k < 2 * int(lineBytes); k += width) {
+        for (int k = 0; k < Tile::cols * size; k += width) {
             Reg<width> x;
             __builtin_memcpy(&x, a.at(i, 0) + k, width);
             put(piece[k / Tile::step] + i * Tile::step + k % Tile::step, x);
         }
+    }
+}
+
+template <int size, int width, bool conj, bool pastCaches, class Tile>
+inline void transpose_copy(u8* const* piece, Out<size> d)
+{
+    constexpr int R = width / size, P = portion<size>, together = lineBytes / width;
     for (int g = 0; g < Tile::cols; g += P) {
         const u8* const columns = piece[g * size / Tile::step] + g * size % Tile::step / 16 * 16;
         for (int i = 0; i < Tile::rows; i += together * R) {
@@ -175,22 +182,32 @@ inline void transpose_tile_past_caches(In<size> a, Out<size> d, u8* const (&piec
 #pragma GCC unroll 16
             for (int k = 0; k < P; ++k)
 #pragma GCC unroll 4
-                for (int b = 0; b < together; ++b) stream(d.at(g + k, i + b * R), x[b][k]);
+                for (int b = 0; b < together; ++b) {
+                    if constexpr (pastCaches)
+                        stream(d.at(g + k, i + b * R), x[b][k]);
+                    else
+                        put(d.at(g + k, i + b * R), x[b][k]);
+                }
         }
     }
 }
 
+// Past the caches, where every row of the result begins at the same place of a line. Two lines of each row are read and
+// two written, since single lines took up to 1.4 times as long; of bytes half as many rows, which take 8 KB already.
+template <int size> using TilePastCaches = Tile<size, (size == 1 ? 1 : 2) * lineBytes / size, 2 * lineBytes / size>;
+
 template <int size, int width, bool conj, int columns>
 void transpose_past_caches(In<size> a, Out<size> d, size_t rows, size_t cols)
 {
-    using Tile = Tile<size>;
+    using Tile = TilePastCaches<size>;
     constexpr size_t line = lineBytes / size;
     const size_t first = -reinterpret_cast<uintptr_t>(d.p) % lineBytes / size, end = rows - (rows - first) % Tile::rows;
     with_room<Tile::pieces>([=](u8* const(&piece)[Tile::pieces]) {
         for (size_t i = first; i < end; i += Tile::rows)
             for (size_t done = 0; done < cols; done += Tile::cols) {
                 const size_t j = done + Tile::cols <= cols ? done : cols - Tile::cols;
-                transpose_tile_past_caches<size, width, conj>(a.from(i, j), d.from(j, i), piece);
+                copy_tile<size, width, Tile>(a.from(i, j), piece, Tile::cols * size);
+                transpose_copy<size, width, conj, true, Tile>(piece, d.from(j, i));
             }
     });
     stream_end();
@@ -214,9 +231,11 @@ template <int size, bool conj> void transpose_apart(In<size> a, Out<size> d, siz
     }
     if (rows < wide / size) return transpose_by_rows<size, 16, conj, columns>(a, d, rows, cols);
     if (rows * cols <= firstLevel / size) return transpose_by_rows<size, wide, conj, columns>(a, d, rows, cols);
+    using Tile = TilePastCaches<size>;
     const bool linesAgree = d.step % lineBytes == 0 && reinterpret_cast<uintptr_t>(d.p) % size == 0;
-    if (linesAgree && rows >= 2 * Tile<size>::rows && cols >= Tile<size>::cols &&
-        streamingPays(16 * u64(rows) * cols * size))
+    // Both matrices count; and where rows share few sets, writing to the caches is the slower the more rows there are.
+    const u64 bytes = u64(rows) * cols * size * (sharesFewSets(a.step) || sharesFewSets(d.step) ? 16 : 2);
+    if (linesAgree && rows >= 2 * Tile::rows && cols >= Tile::cols && streamingPays(bytes))
         return transpose_past_caches<size, wide, conj, columns>(a, d, rows, cols);
     transpose_by_tiles<size, wide, conj, columns>(a, d, rows, cols);
 }
