@@ -87,7 +87,7 @@ template <int L> inline Parts<Vec<f64, 2 * L>> loadn(Numbers<c64f, c64f> a)
     if constexpr (L == 1)
         return {__builtin_shufflevector(x, x, 0, 0), __builtin_shufflevector(x, x, 1, 1)};
     else
-        return {__builtin_shufflevector(x, x, 0, 0, 2, 2), __builtin_shufflevector(x, x, 1, 1, 3, 3)};
+        return {_mm256_movedup_pd(x), _mm256_permute_pd(x, 0b1111)}; // the first comes with the load
 }
 template <int bytes> inline Parts<Vec<f64, 2>> load_part(Numbers<c64f, c64f> a) { return loadn<1>(a); }
 
@@ -100,37 +100,44 @@ template <class D, class T> inline auto numbers(const T* a)
 }
 inline Pairs pairs(const c64f* a) { return {a}; }
 
-template <class V> inline V sign_of(V x)
+// The part that decides on the sign, and on the direction: the imaginary one where the real one does not. (Not by a
+// sum, which flushing would change.)
+template <class V> inline V chosen(Parts<V> x, V mask) { return either(without(x.re, mask), both(x.im, mask)); }
+template <class V> inline V of_sign(V x) { return x; }
+template <class V> inline V of_sign(Parts<V> x) { return chosen(x, same_or_nan(x.re, V{})); }
+template <class V> inline V of_direction(V x) { return x; }
+template <class V> inline V of_direction(Parts<V> x) { return chosen(x, same(x.re, V{})); }
+
+// In lanes of 1 and -1.
+template <class V> inline V sign_of(V x, V one, V minusOne)
 {
-    return either(both(less(V{}, x), all<V>(1.0)), both(less(x, V{}), all<V>(-1.0)));
-}
-template <class V> inline V sign_of(Parts<V> x)
-{
-    const V re = sign_of(x.re);
-    return either(re, both(sign_of(x.im), same(re, V{})));
+    return either(both(less(V{}, x), one), both(less(x, V{}), minusOne));
 }
 struct Sign {
-    template <class X> auto operator()(X x) const { return sign_of(x); }
+    template <class X> auto operator()(X x) const
+    {
+        auto s = of_sign(x);
+        using V = decltype(s);
+        return sign_of(s, all<V>(1.0), all<V>(-1.0));
+    }
 };
+inline __m128d real_value(__m128d, f64 x) { return __m128d{x, 0.0}; }
+#if SIG5D_LEVEL >= 4
+inline __m256d real_value(__m256d, f64 x) { return __m256d{x, 0.0, x, 0.0}; }
+#endif
 struct ComplexSign {
     template <class X> auto operator()(X x) const
     {
-        const auto sign = sign_of(x);
-        if constexpr (sizeof sign == 16)
-            return both(sign, reinterpret_cast<Vec<f64, 2>>(Vec<i64, 2>{-1, 0}));
-        else
-            return both(sign, reinterpret_cast<Vec<f64, 4>>(Vec<i64, 4>{-1, 0, -1, 0}));
+        const auto s = of_sign(x);
+        return sign_of(s, real_value(s, 1.0), real_value(s, -1.0));
     }
 };
 
-template <class V> inline V negative(V x) { return less(x, V{}); }
-template <class V> inline V zero(V x) { return same(x, V{}); }
-template <class V> inline V negative(Parts<V> x) { return either(negative(x.re), both(zero(x.re), negative(x.im))); }
-template <class V> inline V zero(Parts<V> x) { return both(zero(x.re), zero(x.im)); }
 struct TimesSign {
     template <class X, class V> V operator()(X x, V y) const
     {
-        return without(turned(y, both(negative(x), all<V>(-0.0))), zero(x));
+        const V s = of_direction(x);
+        return without(turned(y, both(less(s, V{}), all<V>(-0.0))), same(s, V{}));
     }
 };
 
