@@ -221,7 +221,7 @@ void transpose_past_caches(In<size> a, Out<size> d, size_t rows, size_t cols)
 template <int size> constexpr size_t smallestBlock = 16 / size;
 
 // a and d have no byte in common, and no two rows of d do.
-template <int size, bool conj> void transpose_apart(In<size> a, Out<size> d, size_t rows, size_t cols)
+template <int size, bool conj> [[gnu::noinline]] void transpose_apart(In<size> a, Out<size> d, size_t rows, size_t cols)
 {
     constexpr int C = 16 / size, wide = widest<size>, columns = C > 4 ? C : 4;
     constexpr size_t firstLevel = 24576;
