@@ -95,8 +95,9 @@ template <class T> void add(const char* name, Function<T> transpose, Count rows,
 }
 
 const bench::Cases transposes([] {
-    const Count shapes[][3] = {{10, 10, 0},     {50, 50, 0},     {51, 53, 0},     {180, 180, 0},   {256, 256, 0},
-                               {257, 255, 0},   {360, 360, 0},   {512, 512, 0},   {1000, 1500, 0}, {1001, 1501, 0},
+    const Count shapes[][3] = {{3, 3, 0},       {4, 4, 0},       {10, 10, 0},     {50, 50, 0},
+                               {51, 53, 0},     {180, 180, 0},   {256, 256, 0},   {257, 255, 0},
+                               {360, 360, 0},   {512, 512, 0},   {1000, 1500, 0}, {1001, 1501, 0},
                                {2048, 2048, 0}, {2048, 2048, 8}, {2049, 2047, 0}, {3000, 2000, 0}};
     for (const auto& [rows, cols, gap] : shapes) {
         add<double>("TransposeMatrix", TransposeMatrix, rows, cols, gap);

@@ -61,7 +61,8 @@ void transposed(const T* a, T* d, size_t rows, size_t cols, size_t aStride, size
     if (!cols) return;
 #if SIG5D_LEVEL > 0
     constexpr int size = sizeof(T);
-    if (rows >= smallestBlock<size> && cols >= smallestBlock<size> &&
+    constexpr size_t few = 25; // moved one by one in less time than it takes to see that they may be moved otherwise
+    if (rows * cols > few && rows >= smallestBlock<size> && cols >= smallestBlock<size> &&
         any_order(a, d, rows, cols, aStride, dStride, size))
         return transpose_apart<size, conj>({reinterpret_cast<const u8*>(a), aStride * size},
                                            {reinterpret_cast<u8*>(d), dStride * size}, rows, cols);

@@ -74,14 +74,38 @@ template <class F> inline void below_diagonal(size_t i0, size_t iEnd, size_t j0,
         for (size_t j = j0; j < jEnd && j <= i; j += step) f(i, j);
 }
 
+// Exchanges squares of one or two lines' length, from copies of both. Returns the rows that are done: all but less than
+// a square.
+template <int size, int width, bool conj> size_t exchange_copies(Out<size> a, size_t n)
+{
+    constexpr int side = (size < 4 ? 1 : 2) * lineBytes / size;
+    using Square = Tile<size, side, side>;
+    constexpr int pieces = Square::pieces;
+    const size_t whole = n - n % side;
+    with_room<2 * pieces>([=](u8* const(&piece)[2 * pieces]) {
+        below_diagonal(0, whole, 0, whole, side, [=](size_t i, size_t j) {
+            const Out<size> p = a.from(i, j), q = a.from(j, i);
+            copy_tile<size, width, Square>(In<size>{p.p, a.step}, piece, Square::cols * size);
+            if (i != j) {
+                copy_tile<size, width, Square>(In<size>{q.p, a.step}, piece + pieces, Square::rows * a.step);
+                transpose_copy<size, width, conj, false, Square>(piece + pieces, p);
+            }
+            transpose_copy<size, width, conj, false, Square>(piece, q);
+        });
+    });
+    return whole;
+}
+
 template <int size, int width, bool conj> void exchange_all(Out<size> a, size_t n)
 {
     constexpr size_t side = width / size > 4 ? width / size : 4, line = lineBytes / size, tile = 64;
-    const size_t whole = n - n % side;
+    constexpr u64 secondLevel = u64(2) << 20;
+    const bool copies = sharesFewSets(a.step) && u64(n) * n * size >= secondLevel;
+    const size_t whole = n - n % side, done = copies ? exchange_copies<size, width, conj>(a, n) : 0;
     const auto end = [=](size_t i) { return i < whole ? i : whole; };
     // Steps that put many rows into few sets of the first cache level: all of a line is exchanged before the next one.
     const size_t group = a.step % 1024 == 0 ? line : tile;
-    below_diagonal(0, whole, 0, whole, tile, [=](size_t ti, size_t tj) {
+    below_diagonal(done, whole, 0, whole, tile, [=](size_t ti, size_t tj) {
         below_diagonal(ti, end(ti + tile), tj, end(tj + tile), group, [=](size_t gi, size_t gj) {
             below_diagonal(gi, end(gi + group), gj, end(gj + group), side, [=](size_t i, size_t j) {
                 exchange_squares<size, width, conj, side, false>(a.at(i, j), a.at(j, i), a.step, 0);

@@ -11,6 +11,7 @@ namespace {
 constexpr size_t lineBytes = 64;
 
 inline void fetch(const u8* p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0); }
+inline void fetch_for_later(const u8* p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T1); }
 
 // A matrix of elements of "size" bytes. Rows are "step" bytes apart.
 template <int size, class Byte> struct View {
@@ -23,12 +24,8 @@ template <int size> using In = View<size, const u8>;
 template <int size> using Out = View<size, u8>;
 
 // How results are written. A walk that writes whole lines fetches those that come next, since nobody else could know
-// that they are about to be written: that is worth a third from the second cache level on. Past the caches it fetches
-// the source instead, which few rows at a time leave to nobody else either.
-enum class Writing { blocks, lines, linesPastCaches };
-
-// Rows between a walk past the caches and the source that it fetches: a tile of it.
-template <int size> constexpr size_t rowsAhead = 2 * lineBytes / size;
+// that they are about to be written: that is worth a third from the second cache level on.
+enum class Writing { blocks, lines };
 
 // Blocks of "columns" columns, "steps" times, moving on by so many bytes each time; the last step goes to a place of
 // its own: where steps do not divide the matrix it overlaps the one before it. A step is one block, or as many below
@@ -37,18 +34,15 @@ template <int size, int width, bool conj, int columns, Writing writing>
 inline void transpose_walk(In<size> a, Out<size> d, size_t steps, size_t aMove, size_t dMove, const u8* lastA,
                            u8* lastD)
 {
-    constexpr bool past = writing == Writing::linesPastCaches;
     constexpr int C = 16 / size, R = width / size, P = portion<size>;
     constexpr int count = writing == Writing::blocks ? 1 : lineBytes / width;
     constexpr int registers = sizeof(void*) == 4 ? 4 : 8; // the others are for shuffling
-    constexpr int together = past || P * count <= registers ? count : P < registers ? registers / P : 1;
+    constexpr int together = P * count <= registers ? count : P < registers ? registers / P : 1;
     while (steps) {
         if (writing == Writing::lines) {
 #pragma GCC unroll 16
             for (int k = 0; k < columns; ++k) fetch(d.p + k * d.step + 2 * lineBytes - 1);
         }
-        if (past)
-            for (size_t k = 0; k < lineBytes / size; ++k) fetch(a.at(rowsAhead<size> + k, 0));
 #pragma GCC unroll 4
         for (int block = 0; block < count; block += together)
 #pragma GCC unroll 4
@@ -60,12 +54,7 @@ inline void transpose_walk(In<size> a, Out<size> d, size_t steps, size_t aMove, 
 #pragma GCC unroll 16
                 for (int k = 0; k < P; ++k)
 #pragma GCC unroll 4
-                    for (int b = 0; b < together; ++b) {
-                        if constexpr (past)
-                            stream(d.at(g + k, (block + b) * R), x[b][k]);
-                        else
-                            put(d.at(g + k, (block + b) * R), x[b][k]);
-                    }
+                    for (int b = 0; b < together; ++b) put(d.at(g + k, (block + b) * R), x[b][k]);
             }
         a.p += aMove;
         d.p += dMove;
@@ -92,15 +81,15 @@ void transpose_by_rows(In<size> a, Out<size> d, size_t rows, size_t cols)
 }
 
 // Strips of columns, line by line down the column, so that rows of the result are written from one end to the other.
-template <int size, int width, bool conj, int columns, Writing writing = Writing::lines>
+template <int size, int width, bool conj, int columns>
 void transpose_by_columns(In<size> a, Out<size> d, size_t rows, size_t cols)
 {
     constexpr size_t line = lineBytes / size;
     for (size_t done = 0; done < cols; done += columns) {
         const size_t j = done + columns <= cols ? done : cols - columns;
-        transpose_walk<size, width, conj, columns, writing>(a.from(0, j), d.from(j, 0), steps_in(rows, line),
-                                                            line * a.step, lineBytes, a.at(rows - line, j),
-                                                            d.at(j, rows - line));
+        transpose_walk<size, width, conj, columns, Writing::lines>(a.from(0, j), d.from(j, 0), steps_in(rows, line),
+                                                                   line * a.step, lineBytes, a.at(rows - line, j),
+                                                                   d.at(j, rows - line));
     }
 }
 
@@ -112,6 +101,8 @@ inline size_t rows_without_conflict(size_t step)
     const size_t power = step & -step;
     return power == 0 || power >= way ? 8 : 8 * (way / power);
 }
+
+inline bool sharesFewSets(size_t step) { return step % 1024 == 0; }
 
 // Beyond the first cache level: in tiles. Those have more rows as long as the second level holds both matrices, by up
 // to a third faster than with few.
@@ -140,31 +131,97 @@ void transpose_by_tiles(In<size> a, Out<size> d, size_t rows, size_t cols)
     }
 }
 
-// Beyond all caches, where every row of the result begins at the same place of a line. Two lines of each are written
-// at a time: more rows of the source would not stay in the first cache level.
+// Calls f with addresses of so many pieces of the stack, 2 KB each: a single frame of 4 KB or more would have to touch
+// its pages one by one on Windows.
+constexpr int pieceBytes = 2048;
+template <int pieces, class F, class... Piece> [[gnu::noinline]] void with_room(F f, Piece*... room)
+{
+    alignas(lineBytes) u8 piece[pieceBytes];
+    if constexpr (sizeof...(Piece) + 1 == pieces) {
+        u8* const all[] = {room..., piece};
+        f(all);
+    } else {
+        with_room<pieces>(f, room..., piece);
+    }
+}
+
+// Tiles that are copied before they are written: rows that share few cache sets push each other out before all of
+// their columns are taken. The copy lies in pieces, side by side, of as many rows. Meanwhile the tile that lies "ahead"
+// bytes further is fetched.
+template <int size, int rows_, int cols_> struct Tile {
+    static constexpr int rows = rows_, cols = cols_;
+    static constexpr int step = rows * cols * size < pieceBytes ? cols * size : pieceBytes / rows; // in a piece
+    static constexpr int pieces = cols * size / step;
+};
+
+template <int size, int width, class Tile> inline void copy_tile(In<size> a, u8* const* piece, size_t ahead)
+{
+    for (int i = 0; i < Tile::rows; ++i) {
+        for (int k = 0; k < Tile::cols * size; k += lineBytes) fetch_for_later(a.at(i, 0) + ahead + k);
+#pragma GCC unroll 16
+        for (int k = 0; k < Tile::cols * size; k += width) {
+            Reg<width> x;
+            __builtin_memcpy(&x, a.at(i, 0) + k, width);
+            put(piece[k / Tile::step] + i * Tile::step + k % Tile::step, x);
+        }
+    }
+}
+
+template <int size, int width, bool conj, bool pastCaches, class Tile>
+inline void transpose_copy(u8* const* piece, Out<size> d)
+{
+    constexpr int R = width / size, P = portion<size>, together = lineBytes / width;
+    for (int g = 0; g < Tile::cols; g += P) {
+        const u8* const columns = piece[g * size / Tile::step] + g * size % Tile::step / 16 * 16;
+        for (int i = 0; i < Tile::rows; i += together * R) {
+            Reg<width> x[together][P];
+#pragma GCC unroll 4
+            for (int b = 0; b < together; ++b)
+                load_columns<size, width, conj>(x[b], columns + (i + b * R) * Tile::step, Tile::step,
+                                                g * size % 16 != 0);
+#pragma GCC unroll 16
+            for (int k = 0; k < P; ++k)
+#pragma GCC unroll 4
+                for (int b = 0; b < together; ++b) {
+                    if constexpr (pastCaches)
+                        stream(d.at(g + k, i + b * R), x[b][k]);
+                    else
+                        put(d.at(g + k, i + b * R), x[b][k]);
+                }
+        }
+    }
+}
+
+// Past the caches, where every row of the result begins at the same place of a line. Two lines of each row are read and
+// two written, since single lines took up to 1.4 times as long; of bytes half as many rows, which take 8 KB already.
+template <int size> using TilePastCaches = Tile<size, (size == 1 ? 1 : 2) * lineBytes / size, 2 * lineBytes / size>;
+
 template <int size, int width, bool conj, int columns>
 void transpose_past_caches(In<size> a, Out<size> d, size_t rows, size_t cols)
 {
-    constexpr size_t line = lineBytes / size, tileCols = 16 * line;
-    const size_t first = -reinterpret_cast<uintptr_t>(d.p) % lineBytes / size, last = rows - (rows - first) % line;
-    transpose_by_columns<size, width, conj, columns>(a, d, line, cols);
-    for (size_t j = 0, nextJ = tileCols; j < cols; j = nextJ, nextJ += tileCols) {
-        if (nextJ + columns > cols) nextJ = cols;
-        for (size_t i = first, nextI; i < last; i = nextI) {
-            nextI = i + rowsAhead<size> < last ? i + rowsAhead<size> : last;
-            transpose_by_columns<size, width, conj, columns, Writing::linesPastCaches>(a.from(i, j), d.from(j, i),
-                                                                                       nextI - i, nextJ - j);
-        }
-    }
+    using Tile = TilePastCaches<size>;
+    constexpr size_t line = lineBytes / size;
+    const size_t first = -reinterpret_cast<uintptr_t>(d.p) % lineBytes / size, end = rows - (rows - first) % Tile::rows;
+    with_room<Tile::pieces>([=](u8* const(&piece)[Tile::pieces]) {
+        for (size_t i = first; i < end; i += Tile::rows)
+            for (size_t done = 0; done < cols; done += Tile::cols) {
+                const size_t j = done + Tile::cols <= cols ? done : cols - Tile::cols;
+                copy_tile<size, width, Tile>(a.from(i, j), piece, Tile::cols * size);
+                transpose_copy<size, width, conj, true, Tile>(piece, d.from(j, i));
+            }
+    });
     stream_end();
-    transpose_by_columns<size, width, conj, columns>(a.from(rows - line, 0), d.from(0, rows - line), line, cols);
+    if (first) transpose_by_columns<size, width, conj, columns>(a, d, line, cols);
+    if (end == rows) return;
+    const size_t last = rows - end < line ? rows - line : end;
+    transpose_by_columns<size, width, conj, columns>(a.from(last, 0), d.from(0, last), rows - last, cols);
 }
 
 // The smallest matrix that transpose_apart takes.
 template <int size> constexpr size_t smallestBlock = 16 / size;
 
 // a and d have no byte in common, and no two rows of d do.
-template <int size, bool conj> void transpose_apart(In<size> a, Out<size> d, size_t rows, size_t cols)
+template <int size, bool conj> [[gnu::noinline]] void transpose_apart(In<size> a, Out<size> d, size_t rows, size_t cols)
 {
     constexpr int C = 16 / size, wide = widest<size>, columns = C > 4 ? C : 4;
     constexpr size_t firstLevel = 24576;
@@ -174,8 +231,11 @@ template <int size, bool conj> void transpose_apart(In<size> a, Out<size> d, siz
     }
     if (rows < wide / size) return transpose_by_rows<size, 16, conj, columns>(a, d, rows, cols);
     if (rows * cols <= firstLevel / size) return transpose_by_rows<size, wide, conj, columns>(a, d, rows, cols);
+    using Tile = TilePastCaches<size>;
     const bool linesAgree = d.step % lineBytes == 0 && reinterpret_cast<uintptr_t>(d.p) % size == 0;
-    if (linesAgree && rows >= 2 * lineBytes / size && streamingPays(u64(rows) * cols * size))
+    // Both matrices count; and where rows share few sets, writing to the caches is the slower the more rows there are.
+    const u64 bytes = u64(rows) * cols * size * (sharesFewSets(a.step) || sharesFewSets(d.step) ? 16 : 2);
+    if (linesAgree && rows >= 2 * Tile::rows && cols >= Tile::cols && streamingPays(bytes))
         return transpose_past_caches<size, wide, conj, columns>(a, d, rows, cols);
     transpose_by_tiles<size, wide, conj, columns>(a, d, rows, cols);
 }

@@ -113,24 +113,6 @@ void divide_value(const c64f* b, c64f* d, f64 v, u32 n) { divide_value(n, b, d, 
     map_numbers(n, folded(d), Quotient{}, folded(a), folded(b));
 }
 
-// Real numbers in the order of lanes that "folded" gives complex ones.
-struct FoldedReals {
-    const f64* p;
-    FoldedReals operator+(size_t n) const { return {p + n}; }
-    void operator+=(size_t n) { p += n; }
-};
-template <int L> inline Vec<f64, L> loadn(FoldedReals a)
-{
-    const auto v = loadn<L>(a.p);
-    if constexpr (L == 4)
-        return __builtin_shufflevector(v, v, 0, 2, 1, 3);
-    else
-        return v;
-}
-#if SIG5D_LEVEL > 0
-inline Span span(FoldedReals a, size_t n) { return {a.p, n * sizeof(f64)}; }
-#endif
-
 [[gnu::noinline]] void divide(const f64* a, const c64f* b, c64f* d, u32 n)
 {
     map_numbers(n, folded(d), Quotient{}, FoldedReals{a}, folded(b));

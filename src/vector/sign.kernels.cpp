@@ -1,153 +1,83 @@
 // Signs of real and complex numbers, and products by them.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "vector/map_numbers.h"
 #include "vector/masks.h"
+#include "vector/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL == 0
-
 inline f64 sign_of(f64 x) { return x > 0 ? 1.0 : x < 0 ? -1.0 : 0.0; }
-inline f64 sign_of(c64f x) { return sign_of(x.re) != 0 ? sign_of(x.re) : sign_of(x.im); }
-struct Sign {
-    template <class T> f64 operator()(T x) const { return sign_of(x); }
-};
-struct ComplexSign {
-    template <class T> c64f operator()(T x) const { return {sign_of(x), 0.0}; }
-};
+inline f64 sign_of(Parts<f64> x) { return sign_of(x.re) != 0 ? sign_of(x.re) : sign_of(x.im); }
 
 // Unlike the sign, 1 for NaN.
 inline int direction(f64 x) { return x == 0 ? 0 : x < 0 ? -1 : 1; }
-inline int direction(c64f x) { return direction(x.re) ? direction(x.re) : direction(x.im); }
-inline f64 times(f64 x, int factor) { return factor == 0 ? 0.0 : factor < 0 ? -x : x; }
-inline c64f times(c64f x, int factor) { return {times(x.re, factor), times(x.im, factor)}; }
-struct TimesSign {
-    template <class T, class U> U operator()(T x, U y) const { return times(y, direction(x)); }
-};
+inline int direction(Parts<f64> x) { return direction(x.re) ? direction(x.re) : direction(x.im); }
+inline f64 times(f64 x, int direction) { return direction == 0 ? 0.0 : direction < 0 ? -x : x; }
 
-template <class D> inline const f64* numbers(const f64* a) { return a; }
-template <class D> inline const c64f* numbers(const c64f* a) { return a; }
-inline const c64f* pairs(const c64f* a) { return a; }
+#if SIG5D_LEVEL > 0
 
-#else
-
-// Real and imaginary parts side by side, each in the lanes of the destination that depend on it.
-template <class V> struct Parts {
-    V re, im;
-};
-
-// What map takes for a pointer: numbers of type T as a destination of type D needs them.
-template <class T, class D> struct Numbers {
-    const T* p;
-    Numbers operator+(size_t n) const { return {p + n}; }
-    void operator+=(size_t n) { p += n; }
-};
-struct Pairs {
-    const c64f* p;
-    Pairs operator+(size_t n) const { return {p + n}; }
-    void operator+=(size_t n) { p += n; }
-};
-template <class T, class D> inline const T* lowest(Numbers<T, D> a, size_t) { return a.p; }
-inline const c64f* lowest(Pairs a, size_t) { return a.p; }
-
-template <int L> inline Vec<f64, 2 * L> loadn(Pairs a) { return loadn<2 * L>(&a.p->re); }
-template <int bytes> inline Vec<f64, 2> load_part(Pairs a) { return loadn<2>(&a.p->re); }
-
-// Complex numbers for real results: as many of each part.
-template <int L> inline Parts<Vec<f64, L>> loadn(Numbers<c64f, f64> a)
-{
-    const auto x = loadn<L>(&a.p->re), y = loadn<L>(&a.p->re + L);
-    if constexpr (L == 2)
-        return {__builtin_shufflevector(x, y, 0, 2), __builtin_shufflevector(x, y, 1, 3)};
-    else
-        return {__builtin_shufflevector(x, y, 0, 2, 4, 6), __builtin_shufflevector(x, y, 1, 3, 5, 7)};
-}
-template <int bytes> inline Parts<Vec<f64, 2>> load_part(Numbers<c64f, f64> a)
-{
-    if constexpr (bytes == 16) return loadn<2>(a);
-    const auto x = loadn<2>(&a.p->re);
-    return {x, __builtin_shufflevector(x, x, 1, 1)};
-}
-
-// Numbers for complex results: in both lanes of each.
-template <int L> inline Vec<f64, 2 * L> loadn(Numbers<f64, c64f> a)
-{
-#if SIG5D_LEVEL >= 4
-    if constexpr (L == 2)
-        return _mm256_permute_pd(_mm256_broadcast_pd(reinterpret_cast<const __m128d_u*>(a.p)), 0b1100);
-    else
-#endif
-        return splatn<2>(*a.p);
-}
-template <int bytes> inline Vec<f64, 2> load_part(Numbers<f64, c64f> a) { return splatn<2>(*a.p); }
-template <int L> inline Parts<Vec<f64, 2 * L>> loadn(Numbers<c64f, c64f> a)
-{
-    const auto x = loadn<2 * L>(&a.p->re);
-    if constexpr (L == 1)
-        return {__builtin_shufflevector(x, x, 0, 0), __builtin_shufflevector(x, x, 1, 1)};
-    else
-        return {__builtin_shufflevector(x, x, 0, 0, 2, 2), __builtin_shufflevector(x, x, 1, 1, 3, 3)};
-}
-template <int bytes> inline Parts<Vec<f64, 2>> load_part(Numbers<c64f, c64f> a) { return loadn<1>(a); }
-
-template <class D, class T> inline auto numbers(const T* a)
-{
-    if constexpr (sizeof(T) == sizeof(f64) && sizeof(D) == sizeof(f64))
-        return a;
-    else
-        return Numbers<T, D>{a};
-}
-inline Pairs pairs(const c64f* a) { return {a}; }
+// The imaginary part where the mask is set. (Not by a sum, which flushing would change.)
+template <class V> inline V chosen(Parts<V> x, V mask) { return either(without(x.re, mask), both(x.im, mask)); }
 
 template <class V> inline V sign_of(V x)
 {
     return either(both(less(V{}, x), all<V>(1.0)), both(less(x, V{}), all<V>(-1.0)));
 }
-template <class V> inline V sign_of(Parts<V> x)
+template <class V> inline V sign_of(Parts<V> x) { return sign_of(chosen(x, same_or_nan(x.re, V{}))); }
+
+template <class V> struct Direction {
+    V turn, zero; // the sign bit where negative; all bits where zero
+};
+template <class V> inline Direction<V> direction(V x) { return {both(less(x, V{}), all<V>(-0.0)), same(x, V{})}; }
+template <class V> inline Direction<V> direction(Parts<V> x) { return direction(chosen(x, same(x.re, V{}))); }
+template <class V> inline V times(V x, Direction<V> direction)
 {
-    const V re = sign_of(x.re);
-    return either(re, both(sign_of(x.im), same(re, V{})));
+    return without(turned(x, direction.turn), direction.zero);
 }
+
+#endif
+
 struct Sign {
     template <class X> auto operator()(X x) const { return sign_of(x); }
 };
 struct ComplexSign {
-    template <class X> auto operator()(X x) const
-    {
-        const auto sign = sign_of(x);
-        if constexpr (sizeof sign == 16)
-            return both(sign, reinterpret_cast<Vec<f64, 2>>(Vec<i64, 2>{-1, 0}));
-        else
-            return both(sign, reinterpret_cast<Vec<f64, 4>>(Vec<i64, 4>{-1, 0, -1, 0}));
-    }
+    template <class V> Parts<V> operator()(V x) const { return {sign_of(x), V{}}; }
+    template <class V> Parts<V> operator()(Parts<V> x) const { return {sign_of(x), V{}}; }
 };
-
-template <class V> inline V negative(V x) { return less(x, V{}); }
-template <class V> inline V zero(V x) { return same(x, V{}); }
-template <class V> inline V negative(Parts<V> x) { return either(negative(x.re), both(zero(x.re), negative(x.im))); }
-template <class V> inline V zero(Parts<V> x) { return both(zero(x.re), zero(x.im)); }
 struct TimesSign {
-    template <class X, class V> V operator()(X x, V y) const
+    template <class X, class V> V operator()(X x, V y) const { return times(y, direction(x)); }
+    template <class X, class V> Parts<V> operator()(X x, Parts<V> y) const
     {
-        return without(turned(y, both(negative(x), all<V>(-0.0))), zero(x));
+        const auto d = direction(x);
+        return {times(y.re, d), times(y.im, d)};
+    }
+    c64f operator()(c64f twice, c64f y) const // of pairs, in px
+    {
+        return {times(y.re, direction(twice.re)), times(y.im, direction(twice.im))};
     }
 };
 
-#endif
+[[gnu::noinline]] void sign(const f64* a, f64* d, u32 n) { map(n, d, Sign{}, a); }
+[[gnu::noinline]] void sign(const c64f* a, f64* d, u32 n) { map_numbers(n, d, Sign{}, complex(a)); }
+[[gnu::noinline]] void sign(const f64* a, c64f* d, u32 n) { map_numbers(n, folded(d), ComplexSign{}, FoldedReals{a}); }
+[[gnu::noinline]] void sign(const c64f* a, c64f* d, u32 n) { map_numbers(n, folded(d), ComplexSign{}, folded(a)); }
 
-template <class T> [[gnu::noinline]] void sign(const T* a, f64* d, u32 n) { map(n, d, Sign{}, numbers<f64>(a)); }
-template <class T> [[gnu::noinline]] void sign(const T* a, c64f* d, u32 n)
+[[gnu::noinline]] void times_sign(const f64* a, f64* d, u32 n)
 {
-    map(n, d, ComplexSign{}, numbers<c64f>(a));
+    map(n, d, TimesSign{}, a, static_cast<const f64*>(d));
 }
-template <class T> [[gnu::noinline]] void times_sign(const T* a, f64* d, u32 n)
+[[gnu::noinline]] void times_sign(const c64f* a, f64* d, u32 n)
 {
-    map(n, d, TimesSign{}, numbers<f64>(a), static_cast<const f64*>(d));
+    map_numbers(n, d, TimesSign{}, complex(a), static_cast<const f64*>(d));
 }
-template <class T> [[gnu::noinline]] void times_sign(const T* a, c64f* d, u32 n)
+[[gnu::noinline]] void times_sign(const f64* a, c64f* d, u32 n)
 {
-    map(n, d, TimesSign{}, numbers<c64f>(a), pairs(d));
+    map_pairs_of(n, d, TimesSign{}, twice(a), static_cast<const c64f*>(d));
+}
+[[gnu::noinline]] void times_sign(const c64f* a, c64f* d, u32 n)
+{
+    map_numbers(n, folded(d), TimesSign{}, folded(a), folded(d));
 }
 
 } // namespace

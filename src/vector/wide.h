@@ -12,15 +12,24 @@ struct Wide {
     int e;
 };
 
-inline f64 power_of_two(int e) { return BitsOf<f64>::back(static_cast<u64>(e + 1023) << 52); } // -1022 <= e <= 1023
+// The bits of a double, in the lower half of a vector register: integer registers would be reached through memory on
+// i386, in two parts that have to be waited for.
+using Words = Vec<u64, 2>;
+inline f64 number(Words bits) { return reinterpret_cast<Vec<f64, 2>>(bits)[0]; }
+inline Words words(f64 x) { return reinterpret_cast<Words>(Vec<f64, 2>{x, 0.0}); }
+
+inline f64 power_of_two(int e) // -1022 <= e <= 1023
+{
+    return number(reinterpret_cast<Words>(Vec<i32, 4>{e + 1023, 0, 0, 0}) << 52);
+}
 
 // m * 2^e where m is 0, not finite, or normal.
 inline Wide normalized(f64 m, int e)
 {
-    const u64 bits = BitsOf<f64>::of(m);
-    const int exponent = static_cast<int>(bits >> 52 & 0x7FF);
+    const Words bits = words(m);
+    const int exponent = reinterpret_cast<Vec<i32, 4>>(bits >> 52)[0] & 0x7FF;
     if (exponent == 0x7FF || m == 0) return {m, 0};
-    return {BitsOf<f64>::back((bits & ~infinityBits) | BitsOf<f64>::of(1.0)), e + exponent - 1023};
+    return {number((bits & ~infinityBits) | words(1.0)), e + exponent - 1023};
 }
 inline Wide wide(f64 x) { return __builtin_fabs(x) < 0x1p-1022 ? normalized(x * 0x1p60, -60) : normalized(x, 0); }
 

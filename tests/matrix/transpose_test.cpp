@@ -105,6 +105,32 @@ TEST(Transpose, LargeMatrices)
     });
 }
 
+// Results of more than 2 MB, rows at distances that share cache sets: written past the caches, from copies of tiles.
+TEST(Transpose, BeyondTheCaches)
+{
+    inEveryVariant([] {
+        Random r;
+        for (const Transpose& t : outOfPlace)
+            for (unsigned more : {0u, 16u, 48u}) {
+                const unsigned dstStride = static_cast<unsigned>(4096 / t.bytes), rows = dstStride - 1 - r.below(30);
+                Shape s{place(r.below(40), t.bytes), 0, rows, 640 + r.below(16), 656, dstStride};
+                s.dst = (s.src + extent(rows, s.cols, s.srcStride) * t.bytes + 63) / 64 * 64 + more;
+                expectTransposed(t, s, s.dst + extent(s.cols, rows, dstStride) * t.bytes + 40);
+            }
+    });
+}
+TEST(TransposeSquare, BeyondTheCaches)
+{
+    inEveryVariant([] {
+        for (const Transpose& t : inPlace) {
+            unsigned n = 367;
+            while (n * n * t.bytes < 0x210000) n += 16;
+            const unsigned unit = static_cast<unsigned>(1024 / t.bytes);
+            expectSquare(t, n, (n + unit) / unit * unit, place(24, t.bytes));
+        }
+    });
+}
+
 // Two blocks side by side in one matrix, one below the other, and overlaps of every kind: each element is moved in
 // the order of the source.
 TEST(Transpose, MatricesThatShareMemory)
