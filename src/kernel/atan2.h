@@ -40,7 +40,8 @@ template <class V> inline HalfAngle<V> half_angle(V x, V y)
     const V zero = V{}, half = constant<V>(0.5), quarter = constant<V>(quarterTurn);
     const V a = absolute_value(x), b = absolute_value(y), smaller = minimum(a, b), larger = maximum(b, a);
     // Without loss of bits. The smallest divisor serves zeros.
-    const auto usual = (larger <= constant<V>(0x1p1000)) & ((smaller >= constant<V>(0x1p-900)) | (smaller == zero));
+    const int usual = lanes_set(larger <= constant<V>(0x1p1000)) &
+                      (lanes_set(smaller >= constant<V>(0x1p-900)) | lanes_set(smaller == zero));
     const V divisor = maximum(constant<V>(0x1p-960), larger), halfDivisor = half * divisor;
 
     const auto flat = a >= b, beyond = smaller > half * halfDivisor;
@@ -50,8 +51,14 @@ template <class V> inline HalfAngle<V> half_angle(V x, V y)
     const V added = half * (beyond ? smaller : zero), q = divisor + added, qUpper = keep_bits(q, upperBits);
     const V axis = quarter - (flat ? with_sign(quarter, x) : zero);
     const V start = axis - Bits::back(Bits::of(beyond ? constant<V>(atanOfHalf) : zero) ^ away);
-    return {start, Bits::back(Bits::of(opposite) ^ away), constant<V>(1.0) / q, qUpper, (divisor - qUpper) + added, x,
-            y,     lanes_set(usual) ^ allLanes<V>};
+    return {start,
+            Bits::back(Bits::of(opposite) ^ away),
+            constant<V>(1.0) / q,
+            qUpper,
+            (divisor - qUpper) + added,
+            x,
+            y,
+            usual ^ allLanes<V>};
 }
 
 // Of what is usual.
