@@ -18,55 +18,61 @@ inline Vec<f64, 4> maximum(Vec<f64, 4> a, Vec<f64, 4> b) { return _mm256_max_pd(
 #endif
 #endif
 
-// A slope between 0 and 1 as the tangent of its angle less an eighth of a turn (pi/4) or none: hi + lo to about 100
-// bits.
-template <class V> struct Slope {
-    V hi, lo, eighths;
+// atan2(y, x) in two halves, for loops that overlap them.
+//
+// For the angle t to the nearer axis, that to the positive real axis is t, pi/2 - t, pi/2 + t or pi - t: a multiple of
+// pi/2 and t or its opposite. From slopes of 1/4 on t is atan(1/2) + atan(p/q) with p = smaller - larger/2 and
+// q = larger + smaller/2, so that p/q is within [-2/9, 1/3].
+template <class V> struct HalfAngle {
+    V start, p, inverse; // angle and numerator have their signs; 1/q
+    V qUpper, qLower;    // whose sum is q
+    V x, y;
+    int unusual; // lanes where this does not hold
 };
 
-// smaller / larger, both positive or 0, where nothing over- or underflows. Beyond 1/2 it is
-// tan(pi/4 + atan((smaller - larger) / (smaller + larger))), so that the tangent is within [-1/3, 1/2].
-template <class V> inline Slope<V> slope(V smaller, V larger)
-{
-    constexpr u64 upper = ~u64{0} << 27;
-    const V zero = V{}, one = constant<V>(1.0);
-    const auto beyond = smaller + smaller > larger;
-    const V p = smaller - (beyond ? larger : zero); // exact
-    const V more = beyond ? smaller : zero, q = larger + more, qLow = more - (q - larger);
+// pi/2 and atan(1/2) are 1 + startRest times numbers of 50 bits, whose sums are exact.
+constexpr f64 quarterTurn = 0x1.921fb54442290p+0, atanOfHalf = 0x1.dac670561aee0p-2, startRest = 0x1.ad20286041de0p-42;
+constexpr u64 upperBits = ~u64{0} << 27;
 
-    // The residual p - tangent * (q + qLow) is exact but for its last bits, since products of halves are (Dekker,
-    // 1971).
-    const V inverse = one / q, tangent = p * inverse;
-    const V tangentUpper = keep_bits(tangent, upper), qUpper = keep_bits(q, upper);
-    const V residual =
-        ((p - tangentUpper * qUpper) - tangentUpper * (q - qUpper)) - ((tangent - tangentUpper) * q + tangent * qLow);
-    return {tangent, residual * inverse, beyond ? one : zero};
+template <class V> inline HalfAngle<V> half_angle(V x, V y)
+{
+    using Bits = BitsOf<V>;
+    const V zero = V{}, half = constant<V>(0.5), quarter = constant<V>(quarterTurn);
+    const V a = absolute_value(x), b = absolute_value(y), smaller = minimum(a, b), larger = maximum(b, a);
+    // Without loss of bits. The smallest divisor serves zeros.
+    const int usual = lanes_set(larger <= constant<V>(0x1p1000)) &
+                      (lanes_set(smaller >= constant<V>(0x1p-900)) | lanes_set(smaller == zero));
+    const V divisor = maximum(constant<V>(0x1p-960), larger), halfDivisor = half * divisor;
+
+    const auto flat = a >= b, beyond = smaller > half * halfDivisor;
+    // The sign that is opposite to that of t.
+    const auto away = (Bits::of(x) & Bits::all(signBit)) ^ Bits::of(flat ? constant<V>(-0.0) : zero);
+    const V opposite = (beyond ? halfDivisor : zero) - smaller; // -p, exact
+    const V added = half * (beyond ? smaller : zero), q = divisor + added, qUpper = keep_bits(q, upperBits);
+    const V axis = quarter - (flat ? with_sign(quarter, x) : zero);
+    const V start = axis - Bits::back(Bits::of(beyond ? constant<V>(atanOfHalf) : zero) ^ away);
+    return {start,
+            Bits::back(Bits::of(opposite) ^ away),
+            constant<V>(1.0) / q,
+            qUpper,
+            (divisor - qUpper) + added,
+            x,
+            y,
+            usual ^ allLanes<V>};
 }
 
-// The angle of the point (x, y) whose smaller part in absolute value is the slope times its larger one.
-template <class V> inline V angle_of(Slope<V> a, V x, V y)
+// Of what is usual.
+template <class V> inline V whole_angle(const HalfAngle<V>& h)
 {
-    // (1 - atan(t)/t) / t^2 in z = t^2: minimax polynomial on [0, 1/4], relative error of the arc tangent 2^-57.8.
-    static constexpr f64 arc[] = {0x1.5555555555552p-2,  -0x1.99999999990d8p-3, 0x1.2492492452f6ap-3,
-                                  -0x1.c71c71aa7769cp-4, 0x1.745d13753eb47p-4,  -0x1.3b135d9d94674p-4,
-                                  0x1.110c38d564cacp-4,  -0x1.e17db6c88b3ebp-5, 0x1.ac4beccadf13ep-5,
-                                  -0x1.773f420d0a613p-5, 0x1.2de1722847bffp-5,  -0x1.7c072bac43c10p-6,
-                                  0x1.06ff505d8686cp-7};
-    using Bits = BitsOf<V>;
-    const V zero = V{}, one = constant<V>(1.0), z = a.hi * a.hi;
-    // The low part counts 1/(1 + z)-fold, to which 1 - z is near enough. The arc tangent is a.hi - low.
-    const V low = a.hi * (z * polynomial(arc, z)) - a.lo * (one - z);
-
-    // For t the angle to the nearer axis, that to the positive real axis is 0 + t, pi/2 - t, pi/2 + t or pi - t: a
-    // multiple of pi/4, whose upper part has 50 bits so that the product is exact, and the arc tangent or its opposite.
-    const auto steep = absolute_value(y) > absolute_value(x);
-    const auto behind = Bits::of(x) & Bits::all(signBit), turn = behind ^ Bits::of(steep ? constant<V>(-0.0) : zero);
-    const V two = constant<V>(2.0), axis = two - (steep ? zero : with_sign(two, x));
-    const V eighths = axis + Bits::back(Bits::of(a.eighths) ^ turn);
-    const V start = eighths * constant<V>(0x1.921fb54442d18p-1);
-    const V head = Bits::back(Bits::of(a.hi) ^ turn), tail = Bits::back(Bits::of(low) ^ turn);
-    const V sum = start + head, lost = head - (sum - start);
-    return with_sign(sum + ((lost + eighths * constant<V>(0x1.1a62633145c07p-55)) - tail), y);
+    // (1 - atan(t)/t) / t^2 in z = t^2: minimax polynomial on [0, 1/9], relative error of the angle 2^-56.
+    static constexpr f64 arc[] = {0x1.5555555555440p-2,  -0x1.9999999966ca6p-3, 0x1.2492490ae9dbep-3,
+                                  -0x1.c71c65107a088p-4, 0x1.745b4e82a79f1p-4,  -0x1.3aecdb0538707p-4,
+                                  0x1.0f048cadb969cp-4,  -0x1.bff7808b8f13fp-5, 0x1.0cdf7c4e13e24p-5};
+    // p/q = upper + lower, to about 75 bits: products of upper halves are exact (Dekker, 1971).
+    const V t = h.p * h.inverse, upper = keep_bits(t, upperBits);
+    const V lower = ((h.p - upper * h.qUpper) - upper * h.qLower) * h.inverse;
+    const V z = t * t, cubic = t * z * polynomial(arc, z);
+    return with_sign(h.start + (upper + (lower + (h.start * constant<V>(startRest) - cubic))), h.y);
 }
 
 // Zeros, infinities, NaN, and what the division would lose bits of.
@@ -75,30 +81,26 @@ template <class V> inline V angle_of(Slope<V> a, V x, V y)
     constexpr f64 infinity = __builtin_inf();
     if (x != x || y != y) return x + y;
     const f64 a = absolute_value(x), b = absolute_value(y), smaller = a < b ? a : b, larger = a < b ? b : a;
-    if (larger == 0) return angle_of({0.0, 0.0, 0.0}, x, y);
-    if (larger == infinity) return angle_of({0.0, 0.0, smaller == infinity ? 1.0 : 0.0}, x, y);
+    const auto direction = [=](f64 re, f64 im) { return whole_angle(half_angle(with_sign(re, x), with_sign(im, y))); };
+    if (larger == infinity) return direction(a == infinity, b == infinity);
     const f64 ratio = smaller / larger;
-    if (ratio < 0x1p-60) return angle_of({ratio, 0.0, 0.0}, x, y);
+    if (ratio < 0x1p-60) return a > b && x > 0 ? with_sign(ratio, y) : direction(a > b, a < b);
     const f64 scale = larger < 1.0 ? 0x1p600 : 0x1p-600;
-    return angle_of(slope(smaller * scale, larger * scale), x, y);
+    return whole_angle(half_angle(x * scale, y * scale));
 }
 
-inline void replace_unusual(f64& angle, int, f64 x, f64 y) { angle = unusual_angle(x, y); }
-template <class V> inline void replace_unusual(V& angle, int unusual, V x, V y)
+inline void replace_unusual(f64& angle, const HalfAngle<f64>& h) { angle = unusual_angle(h.x, h.y); }
+template <class V> inline void replace_unusual(V& angle, const HalfAngle<V>& h)
 {
     for (int i = 0; i < static_cast<int>(sizeof(V) / sizeof(f64)); ++i)
-        if (unusual >> i & 1) angle[i] = unusual_angle(x[i], y[i]);
+        if (h.unusual >> i & 1) angle[i] = unusual_angle(h.x[i], h.y[i]);
 }
 
 // atan2(y, x) in [-pi, pi], with the special values of the C standard.
-template <class V> [[gnu::always_inline]] inline V angle(V x, V y)
+template <class V> [[gnu::always_inline]] inline V angle(const HalfAngle<V>& h)
 {
-    const V a = absolute_value(x), b = absolute_value(y), smaller = minimum(a, b), larger = maximum(b, a);
-    const auto usual = (larger >= constant<V>(0x1p-450)) & (larger <= constant<V>(0x1p450)) &
-                       ((smaller >= constant<V>(0x1p-900)) | (smaller == V{}));
-    V result = angle_of(slope(smaller, larger), x, y);
-    if (const int unusual = lanes_set(usual) ^ allLanes<V>; __builtin_expect(unusual, 0))
-        replace_unusual(result, unusual, x, y);
+    V result = whole_angle(h);
+    if (__builtin_expect(h.unusual, 0)) replace_unusual(result, h);
     return result;
 }
 

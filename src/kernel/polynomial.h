@@ -5,23 +5,18 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// Estrin's scheme: halves of the polynomial are independent of each other, so that vectors wait for few of the
-// operations. "powers" are z, z^2, z^4, ... as far as they are needed.
-template <int n, class V> inline V polynomial_part(const f64* c, const V* powers)
+// Horner's scheme in z^2, with pairs of terms for coefficients: half as long a chain of operations as in z, for one
+// multiplication more.
+template <int n, class V> inline V polynomial_part(const f64* c, V z, V z2)
 {
-    if constexpr (n == 1) {
+    if constexpr (n == 1)
         return constant<V>(c[0]);
-    } else {
-        constexpr int low = 1 << (31 - __builtin_clz(n - 1)), level = 31 - __builtin_clz(low);
-        return polynomial_part<low>(c, powers) + powers[level] * polynomial_part<n - low>(c + low, powers);
-    }
+    else if constexpr (n == 2)
+        return constant<V>(c[0]) + z * constant<V>(c[1]);
+    else
+        return polynomial_part<2>(c, z, z2) + z2 * polynomial_part<n - 2>(c + 2, z, z2);
 }
-template <int n, class V> inline V polynomial(const f64 (&c)[n], V z)
-{
-    V powers[5] = {z};
-    for (int i = 1; 1 << i < n; ++i) powers[i] = powers[i - 1] * powers[i - 1];
-    return polynomial_part<n>(c, powers);
-}
+template <int n, class V> inline V polynomial(const f64 (&c)[n], V z) { return polynomial_part<n>(c, z, z * z); }
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

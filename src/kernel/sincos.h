@@ -8,24 +8,23 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// The rest of an argument after the nearest multiple of pi/2: rest - below, and the multiple in the low bits of
-// "quadrant".
+// An argument x less the nearest multiple of pi/2: rest - below. The multiple is in the low bits of "quadrant".
 template <class V> struct ReducedAngle {
-    V rest, below;
+    V rest, below, x;
     typename BitsOf<V>::type quadrant;
 };
 
 // For |x| <= 2^15 (Cody and Waite, 1980): pi/2 as two numbers of 38 bits, whose products with the multiple are exact,
-// and a third. So near to a multiple that bits would be missing comes no double of this size.
+// and a third, which goes below with the bits that the rest has no room for. So near to a multiple that bits would be
+// missing comes no double of this size.
 template <class V> inline ReducedAngle<V> reduced_angle(V x)
 {
     const V shift = constant<V>(0x1.8p52);
     const V shifted = x * constant<V>(0x1.45f306dc9c883p-1) + shift, n = shifted - shift;
     const V first = x - n * constant<V>(0x1.921fb54440000p+0); // exact: both are near
-    const V product = n * constant<V>(0x1.68c234c4c0000p-39), second = first - product;
-    const V third = n * constant<V>(0x1.98a2e03707345p-77) - ((first - second) - product);
-    const V rest = second - third;
-    return {rest, third - (second - rest), BitsOf<V>::of(shifted)};
+    const V product = n * constant<V>(0x1.68c234c4c0000p-39), rest = first - product;
+    const V below = n * constant<V>(0x1.98a2e03707345p-77) - ((first - rest) - product);
+    return {rest, below, x, BitsOf<V>::of(shifted)};
 }
 
 // Of rest - below in [-pi/4, pi/4]. The first terms of both series are added last, with what their rounding lost; the
@@ -44,12 +43,11 @@ template <class V> inline Parts<V> near_zero_cos_sin(V rest, V below)
 }
 
 // (cos, sin) of x, |x| <= 2^15. The sine of -0 is -0.
-template <class V> inline Parts<V> moderate_cos_sin(V x)
+template <class V> inline Parts<V> moderate_cos_sin(const ReducedAngle<V>& angle)
 {
     using Bits = BitsOf<V>;
-    const auto [rest, below, quadrant] = reduced_angle(x);
-    const Parts<V> a = near_zero_cos_sin(rest, below);
-    const auto one = Bits::all(1), sign = Bits::all(signBit);
+    const Parts<V> a = near_zero_cos_sin(angle.rest, angle.below);
+    const auto quadrant = angle.quadrant, one = Bits::all(1), sign = Bits::all(signBit);
     // Odd multiples of pi/2 exchange the two.
     const auto cosine = Bits::of(a.re), sine = Bits::of(a.im);
     const auto exchange = (cosine ^ sine) & (Bits::all(0) - (quadrant & one));
@@ -73,11 +71,11 @@ template <class V> inline void replace_far(Parts<V>& w, int far, V x)
 }
 
 // (cos, sin) of any x; infinities and NaN give NaN.
-template <class V> [[gnu::always_inline]] inline Parts<V> cos_sin(V x)
+template <class V> [[gnu::always_inline]] inline Parts<V> cos_sin(const ReducedAngle<V>& angle)
 {
-    const int far = lanes_set(absolute_value(x) <= constant<V>(0x1p15)) ^ allLanes<V>;
-    Parts<V> w = moderate_cos_sin(x);
-    if (__builtin_expect(far, 0)) replace_far(w, far, x);
+    const int far = lanes_set(absolute_value(angle.x) <= constant<V>(0x1p15)) ^ allLanes<V>;
+    Parts<V> w = moderate_cos_sin(angle);
+    if (__builtin_expect(far, 0)) replace_far(w, far, angle.x);
     return w;
 }
 

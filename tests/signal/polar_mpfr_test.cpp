@@ -101,9 +101,9 @@ int main(int argc, char** argv)
         x = std::ldexp(unit(r()) - 0.5, int(r() % 40));
         y = std::ldexp(unit(r()) - 0.5, int(r() % 40));
     });
-    good &= phases("slopes near 1/2 and 1", points, [](Random& r, double& x, double& y) {
+    good &= phases("slopes near 1/4 and 1", points, [](Random& r, double& x, double& y) {
         x = 1 + unit(r());
-        y = x * (r() & 1 ? 1 : 0.5) * (1 + std::ldexp(unit(r()) - 0.5, -int(r() % 50)));
+        y = x * (r() & 1 ? 1 : 0.25) * (1 + std::ldexp(unit(r()) - 0.5, -int(r() % 50)));
     });
     good &= phases("all bit patterns", points, [](Random& r, double& x, double& y) {
         x = finite(r());

@@ -30,7 +30,7 @@ struct Magnitude {
 template <class Op> [[gnu::noinline]] void each(size_t n, const c64f* a, f64* d) { map_parts(n, d, Op{}, complex(a)); }
 template <class Op> [[gnu::noinline]] void each(size_t n, const f64* re, const f64* im, f64* d)
 {
-    map_parts(n, d, Op{}, re, im);
+    map(n, d, Op{}, re, im);
 }
 
 void real_part(const c64f* a, f64* d, int n) { each<RealPart>(static_cast<size_t>(n), a, d); }

@@ -1,6 +1,6 @@
 // Square roots, real and complex.
 #include "frame/entry.h"
-#include "kernel/parts.h"
+#include "kernel/pipelined_loop.h"
 #include "kernel/select.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -30,26 +30,33 @@ template <class V> inline V product_error(V p, V x, V xHigh, V y, V yHigh)
     return ((xHigh * yHigh - p) + xHigh * yLow + xLow * yHigh) + xLow * yLow;
 }
 
+// What takes two square roots, of |x| and |y|.
+template <class V> struct HalfRoot {
+    V x, y, modulus, t;
+};
+template <class V> inline HalfRoot<V> half_root(V x, V y)
+{
+    const V modulus = square_root(x * x + y * y);
+    return {x, y, modulus, square_root((x + modulus) * constant<V>(0.5))};
+}
+
 // (t, v) for 2^-480 <= max(x, y) <= 2^500, x and y >= 0. One step of Newton's iteration for w^2 = z, with the residual
 // z - w^2 computed exactly but for its last bits, makes both parts correct but for 0.001 of the last place.
-template <class V> inline Parts<V> root_parts(V x, V y)
+template <class V> inline Parts<V> root_parts(const HalfRoot<V>& h)
 {
-    const V half = constant<V>(0.5);
-    const V modulus = square_root(x * x + y * y);
-    const V t = square_root((x + modulus) * half);
-    const V t2 = t + t;
+    const V x = h.x, y = h.y, t = h.t, t2 = t + t;
     const V v = y / t2;
 
     const V tHigh = high_part(t), vHigh = high_part(v);
     const V tt = t * t, vv = v * v, tv = t2 * v;
     const V difference = x - tt; // and what its rounding lost, since tt is the larger
     const V lost = x - (difference + tt);
-    const V re = (difference + vv) +
-                 ((lost - product_error(tt, t, tHigh, t, tHigh)) + product_error(vv, v, vHigh, v, vHigh));
+    const V re =
+        (difference + vv) + ((lost - product_error(tt, t, tHigh, t, tHigh)) + product_error(vv, v, vHigh, v, vHigh));
     // So small a y leaves no room for the bits below it.
     const V im = y >= constant<V>(0x1p-900) ? (y - tv) - product_error(tv, t2, tHigh + tHigh, v, vHigh) : V{};
 
-    const V scale = half / modulus;
+    const V scale = constant<V>(0.5) / h.modulus;
     return {t + (t * re + v * im) * scale, v + (t * im - v * re) * scale};
 }
 
@@ -57,35 +64,43 @@ template <class V> inline Parts<V> root_parts(V x, V y)
 [[gnu::noinline, gnu::cold]] Parts<f64> unusual_root_parts(f64 x, f64 y)
 {
     constexpr f64 infinity = __builtin_inf();
+    const auto scaled = [=](f64 by, f64 back) {
+        const Parts<f64> w = root_parts(half_root(x * by, y * by));
+        return Parts<f64>{w.re * back, w.im * back};
+    };
     if (y == infinity) return {y, y};
     if (x == infinity) return {x, y - y};
     if (x != x || y != y) return {x + y, x + y};
-    if (x < 1 && y < 1) {
-        const Parts<f64> w = root_parts(x * 0x1p600, y * 0x1p600);
-        return {w.re * 0x1p-300, w.im * 0x1p-300};
-    }
+    if (x < 1 && y < 1) return scaled(0x1p600, 0x1p-300);
     if (y < x * 0x1p-200) {
         const f64 t = square_root(x);
         return {t, y / (t + t)};
     }
-    const Parts<f64> w = root_parts(x * 0x1p-600, y * 0x1p-600);
-    return {w.re * 0x1p300, w.im * 0x1p300};
+    return scaled(0x1p-600, 0x1p300);
 }
 
 struct ComplexRoot {
-    template <class V> Parts<V> operator()(Parts<V> z) const
+    template <class V> struct Half : HalfRoot<V> {
+        Parts<V> z;
+    };
+    template <class V> Half<V> first(Parts<V> z) const
     {
-        const V x = absolute_value(z.re), y = absolute_value(z.im);
-        const V larger = x > y ? x : y;
-        const auto usual = (larger >= constant<V>(0x1p-480)) & (larger <= constant<V>(0x1p500));
-        Parts<V> w = root_parts(usual ? x : constant<V>(1), usual ? y : V{});
-        w.re = usual ? w.re : V{}; // right for 0
-        if (int others = lanes_set(usual) ^ allLanes<V>; __builtin_expect(others, 0)) {
-            others &= ~lanes_set((x == V{}) & (y == V{}));
-            if (others) replace(w, others, x, y);
+        return {half_root(absolute_value(z.re), absolute_value(z.im)), z};
+    }
+    template <class V> Parts<V> second(const Half<V>& h) const
+    {
+        const V larger = h.x > h.y ? h.x : h.y;
+        const int usual = lanes_set(larger >= constant<V>(0x1p-480)) & lanes_set(larger <= constant<V>(0x1p500));
+        Parts<V> w = root_parts(h);
+        if (int others = usual ^ allLanes<V>; __builtin_expect(others, 0)) {
+            // Runs of zeros are ordinary.
+            const auto zero = (h.x == V{}) & (h.y == V{});
+            w = {zero ? V{} : w.re, zero ? V{} : w.im};
+            others &= ~lanes_set(zero);
+            if (others) replace(w, others, h.x, h.y);
         }
-        const auto negative = z.re < V{};
-        return {negative ? w.im : w.re, with_sign(negative ? w.re : w.im, z.im)};
+        const auto negative = h.z.re < V{};
+        return {negative ? w.im : w.re, with_sign(negative ? w.re : w.im, h.z.im)};
     }
 
     static void replace(Parts<f64>& w, int, f64 x, f64 y) { w = unusual_root_parts(x, y); }
@@ -110,7 +125,7 @@ struct ComplexRoot {
 
 [[gnu::noinline]] Status root(const c64f* a, c64f* d, int n)
 {
-    map_parts(static_cast<size_t>(n), folded(d), ComplexRoot{}, folded(a));
+    map_pipelined(static_cast<size_t>(n), folded(d), ComplexRoot{}, folded(a));
     return StsNoErr;
 }
 
