@@ -3,12 +3,27 @@
 #pragma once
 #include "kernel/loops.h"
 #include "kernel/minmax.h"
+#include "kernel/saturate.h"
+#include "kernel/select.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // A value in all lanes; the value itself in px.
 template <class V, class T> inline V all_lanes(T x) { return splatn<sizeof(V) / sizeof(T)>(x); }
+
+#if SIG5D_LEVEL >= 3
+inline __m128i magnitudes(__m128i x, i16) { return _mm_abs_epi16(x); }
+inline __m128i magnitudes(__m128i x, i32) { return _mm_abs_epi32(x); }
+inline __m128i with_signs(__m128i x, __m128i y, i16) { return _mm_sign_epi16(x, y); }
+inline __m128i with_signs(__m128i x, __m128i y, i32) { return _mm_sign_epi32(x, y); }
+#endif
+#if SIG5D_LEVEL >= 5
+inline __m256i magnitudes(__m256i x, i16) { return _mm256_abs_epi16(x); }
+inline __m256i magnitudes(__m256i x, i32) { return _mm256_abs_epi32(x); }
+inline __m256i with_signs(__m256i x, __m256i y, i16) { return _mm256_sign_epi16(x, y); }
+inline __m256i with_signs(__m256i x, __m256i y, i32) { return _mm256_sign_epi32(x, y); }
+#endif
 
 template <class T> struct LimitBelow {
     T level;
@@ -19,9 +34,28 @@ template <class T> struct LimitAbove {
     template <class V> V operator()(V x) const { return smaller(all_lanes<V>(level), x); }
 };
 
-// Levels of magnitudes are not negative. No magnitude is formed, so that the lowest integer needs no wider type.
+// Levels of magnitudes are not negative. The plain form forms no magnitude, so that the lowest integer needs no wider
+// type; vectors do, with the lowest integer's magnitude as an unsigned one.
 template <class T> struct LimitMagnitudeBelow {
     T level;
+#if SIG5D_LEVEL > 0
+    template <class V>
+    requires(sizeof(T) == 8) V operator()(V x) const
+    {
+        // -0 is not negative: a level above 0 takes the place of either zero.
+        const V zero = all_lanes<V>(level > 0 ? 0.0 : -0.0);
+        return with_sign(larger(all_lanes<V>(level), absolute_value(x)), x + zero);
+    }
+#endif
+#if SIG5D_LEVEL >= 3
+    template <class V>
+    requires(sizeof(T) < 8) V operator()(V x) const
+    {
+        const auto magnitude = as<Unsigned<V>>(magnitudes(bits(x), T{}));
+        const auto raised = larger(as<Unsigned<V>>(all<V>(level)), magnitude);
+        return as<V>(with_signs(bits(raised), bits(x | 1), T{}));
+    }
+#endif
     template <class V> V operator()(V x) const
     {
         const V up = all_lanes<V>(level), down = all_lanes<V>(static_cast<T>(-level));
@@ -51,8 +85,18 @@ template <class T> struct ReplaceOutside {
     T levelLT, valueLT, levelGT, valueGT;
     template <class V> V operator()(V x) const
     {
-        const V y = x <= all_lanes<V>(levelGT) ? x : all_lanes<V>(valueGT);
-        return x < all_lanes<V>(levelLT) ? all_lanes<V>(valueLT) : y;
+        const V low = all_lanes<V>(valueLT), high = all_lanes<V>(valueGT);
+        const auto below = x < all_lanes<V>(levelLT), within = x <= all_lanes<V>(levelGT);
+#if SIG5D_LEVEL == 0 || SIG5D_LEVEL == 3
+        return below ? low : within ? x : high;
+#else
+        // Two selections are six or more steps, but in the form that SSE4.1 has and AVX lacks. By bits they are five:
+        // what differs from the upper value and then from the lower one.
+        using Bits = std::remove_const_t<decltype(below)>;
+        const Bits a = reinterpret_cast<Bits>(low), b = reinterpret_cast<Bits>(high);
+        const Bits difference = ((reinterpret_cast<Bits>(x) ^ b) & within) ^ (a ^ b);
+        return reinterpret_cast<V>((difference & ~below) ^ a);
+#endif
     }
 };
 
