@@ -34,30 +34,25 @@ template <class T> struct LimitAbove {
     template <class V> V operator()(V x) const { return smaller(all_lanes<V>(level), x); }
 };
 
-// Levels of magnitudes are not negative. The plain form forms no magnitude, so that the lowest integer needs no wider
-// type; vectors do, with the lowest integer's magnitude as an unsigned one.
+// Levels of magnitudes are not negative. The plain form needs no magnitude, and so no wider type for that of the lowest
+// integer; vectors take it as an unsigned number.
 template <class T> struct LimitMagnitudeBelow {
     T level;
-#if SIG5D_LEVEL > 0
-    template <class V>
-    requires(sizeof(T) == 8) V operator()(V x) const
-    {
-        // -0 is not negative: a level above 0 takes the place of either zero.
-        const V zero = all_lanes<V>(level > 0 ? 0.0 : -0.0);
-        return with_sign(larger(all_lanes<V>(level), absolute_value(x)), x + zero);
-    }
-#endif
-#if SIG5D_LEVEL >= 3
-    template <class V>
-    requires(sizeof(T) < 8) V operator()(V x) const
-    {
-        const auto magnitude = as<Unsigned<V>>(magnitudes(bits(x), T{}));
-        const auto raised = larger(as<Unsigned<V>>(all<V>(level)), magnitude);
-        return as<V>(with_signs(bits(raised), bits(x | 1), T{}));
-    }
-#endif
     template <class V> V operator()(V x) const
     {
+#if SIG5D_LEVEL > 0
+        if constexpr (sizeof(T) == 8) {
+            // -0 is not negative: where the level is above 0 it becomes the level, too.
+            const V zero = all_lanes<V>(level > 0 ? 0.0 : -0.0);
+            return with_sign(larger(all_lanes<V>(level), absolute_value(x)), x + zero);
+        }
+#endif
+#if SIG5D_LEVEL >= 3
+        if constexpr (sizeof(T) < 8) {
+            const auto magnitude = as<Unsigned<V>>(magnitudes(bits(x), T{}));
+            return as<V>(with_signs(bits(larger(as<Unsigned<V>>(all<V>(level)), magnitude)), bits(x | 1), T{}));
+        }
+#endif
         const V up = all_lanes<V>(level), down = all_lanes<V>(static_cast<T>(-level));
         return x < all_lanes<V>(T{}) ? smaller(down, x) : larger(up, x);
     }
