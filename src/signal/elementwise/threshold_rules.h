@@ -1,7 +1,7 @@
 // Thresholds of real arrays, of integers and doubles alike: elements beyond a level become the level or another value.
 // Comparisons are written so that a NaN meets none of them and passes.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/compact_loop.h"
 #include "kernel/minmax.h"
 #include "kernel/saturate.h"
 #include "kernel/select.h"
@@ -121,11 +121,12 @@ template <class T> void replace_above(const T* a, T* d, int n, T level, T value)
     each(a, d, n, ReplaceAbove<T>{level, value});
 }
 
-template <class T> void replace_outside(const T* a, T* d, int n, T levelLT, T valueLT, T levelGT, T valueGT)
+template <class T>
+[[gnu::noinline]] void replace_outside(const T* a, T* d, int n, T levelLT, T valueLT, T levelGT, T valueGT)
 {
     // An element is inside if it is neither below the one level nor above the other: none is if one of them is NaN.
     if (levelLT != levelLT) levelGT = levelLT;
-    each(a, d, n, ReplaceOutside<T>{levelLT, valueLT, levelGT, valueGT});
+    map_compact<2>(static_cast<size_t>(n), d, ReplaceOutside<T>{levelLT, valueLT, levelGT, valueGT}, a);
 }
 
 } // namespace
