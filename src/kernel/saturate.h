@@ -39,6 +39,7 @@ template <class V> inline V product_modulo(V x, V y) { return as<V>(as<Unsigned<
 inline __m128i sums(__m128i x, __m128i y, u8) { return _mm_adds_epu8(x, y); }
 inline __m128i sums(__m128i x, __m128i y, i16) { return _mm_adds_epi16(x, y); }
 inline __m128i differences(__m128i x, __m128i y, u8) { return _mm_subs_epu8(x, y); }
+inline __m128i differences(__m128i x, __m128i y, u16) { return _mm_subs_epu16(x, y); }
 inline __m128i differences(__m128i x, __m128i y, i16) { return _mm_subs_epi16(x, y); }
 inline __m128i averages(__m128i x, __m128i y, u8) { return _mm_avg_epu8(x, y); }
 inline __m128i averages(__m128i x, __m128i y, u16) { return _mm_avg_epu16(x, y); }
@@ -60,6 +61,7 @@ inline __m128i chosen(__m128i sign, __m128i negative, __m128i other)
 inline __m256i sums(__m256i x, __m256i y, u8) { return _mm256_adds_epu8(x, y); }
 inline __m256i sums(__m256i x, __m256i y, i16) { return _mm256_adds_epi16(x, y); }
 inline __m256i differences(__m256i x, __m256i y, u8) { return _mm256_subs_epu8(x, y); }
+inline __m256i differences(__m256i x, __m256i y, u16) { return _mm256_subs_epu16(x, y); }
 inline __m256i differences(__m256i x, __m256i y, i16) { return _mm256_subs_epi16(x, y); }
 inline __m256i averages(__m256i x, __m256i y, u8) { return _mm256_avg_epu8(x, y); }
 inline __m256i averages(__m256i x, __m256i y, u16) { return _mm256_avg_epu16(x, y); }

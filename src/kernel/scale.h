@@ -58,6 +58,13 @@ template <class V> struct Halves { // in lanes as wide as the elements, which r 
     V half;                        // r / 2, rounded down
     V low;                         // r, without bits that do not fit
 };
+template <class V> struct Byte { // in bytes, which r does not exceed
+    V r;
+};
+template <class V> struct ByteAndBit { // in bytes, which r may exceed by a bit
+    V half;                            // r / 2, rounded up
+    V low;                             // r, of which the last bit counts
+};
 template <class V> struct Words { // of bytes: in unsigned 16-bit lanes, for the even and the odd elements
     V even, odd;
 };
@@ -140,13 +147,26 @@ template <class V> inline auto saturated(Words<V> r)
     const V limit = all<V>(255);
     return as<Vec<u8, sizeof(V)>>(lower(r.even, limit) | lower(r.odd, limit) << 8);
 }
-template <class V> inline V scaled_word(V r, int s) // s > 1
+// Bit s of bytes or words in the place of the last, 0 < s <= width; other bits come along.
+template <class V> inline V bit(V r, int s) { return shift_right_16<u16>(r, s < width<Lane<V>> ? s : 16); }
+// r * 2^-s of bytes and of words, 0 < s <= width, s > 1 for words; where "above" is odd, r is a half above a number
+// that is no tie. It is the floor of (r + 2^(s-1) - 1 + odd) / 2^s if odd is the last bit of the floor of r / 2^s and,
+// at ties, makes the sum reach the next integer. Averages do not lose the sum's carry. (Of r = 0 nothing is subtracted,
+// which makes no difference.)
+template <class V> inline V scaled_unsigned(V r, int s, V above = V{})
 {
-    return ties_to_even(halved(shift_right_16<u16>(r, s - 1)), (r & rest_mask<V>(s)) == half_unit<V>(s));
+    const V even = without(all<V>(1), bit(r, s) & ~above),
+            sum = average(subtract_saturated(r, even), rest_mask<V>(s - 1));
+    if constexpr (sizeof(Lane<V>) == 2)
+        return shift_right_16<u16>(sum, s - 1);
+    else
+        return down(sum, s - 1);
 }
+template <class V> inline V scaled(Byte<V> r, int s) { return scaled_unsigned(r.r, s); }
+template <class V> inline V scaled(ByteAndBit<V> r, int s) { return scaled_unsigned(r.half, s - 1, r.low); } // s > 1
 template <class V> inline auto scaled(Words<V> r, int s)
 {
-    return saturated(Words<V>{scaled_word(r.even, s), scaled_word(r.odd, s)});
+    return saturated(Words<V>{scaled_unsigned(r.even, s), scaled_unsigned(r.odd, s)});
 }
 
 template <class V> inline auto saturated(Doubled<V> r) { return pack_saturated(r.low, r.high); }

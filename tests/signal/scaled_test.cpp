@@ -287,6 +287,39 @@ TEST(Scaled, AllBytes)
     }
 }
 
+// Every byte by every other, and dividends of 16 bits that give ties or come next to one.
+TEST(Scaled, QuotientsByAValue)
+{
+    std::vector<Ipp8u> bytes;
+    for (int i = 0; i < 256; ++i) bytes.push_back(static_cast<Ipp8u>(i));
+    std::mt19937 random(11);
+    for (int s = -9; s <= 10; ++s) {
+        SCOPED_TRACE(s);
+        for (int v = 1; v < 256; ++v) {
+            std::vector<Ipp8u> expected, found(bytes.size());
+            for (Ipp8u x : bytes) expected.push_back(scaledQuotient(x, static_cast<Ipp8u>(v), s));
+            inEveryVariant([&] {
+                EXPECT_EQ(call("ippsDivC_8u_Sfs", bytes.data(), Ipp8u(v), found.data(), 256, s), 0);
+                expectEqual(found, expected, "by " + std::to_string(v));
+            });
+        }
+        for (int k = 0; k < 100; ++k) {
+            const int step = static_cast<int>(random() % 65535) - 32767;
+            const auto v = static_cast<Ipp16s>(step == 0 ? 1 : step >> random() % 15 | 1 << random() % 3);
+            std::vector<Ipp16s> a;
+            for (double tie = 0.5; tie * std::abs(v) * std::ldexp(1, s) < 32767 && a.size() < 600; tie += 1)
+                for (int next : {-1, 0, 1}) a.push_back(static_cast<Ipp16s>(tie * v * std::ldexp(1, s) + next));
+            if (a.empty()) continue;
+            std::vector<Ipp16s> expected, found(a.size());
+            for (Ipp16s x : a) expected.push_back(scaledQuotient(x, v, s));
+            inEveryVariant([&] {
+                EXPECT_EQ(call("ippsDivC_16s_Sfs", a.data(), v, found.data(), static_cast<int>(a.size()), s), 0);
+                expectEqual(found, expected, "by " + std::to_string(v));
+            });
+        }
+    }
+}
+
 TEST(Absolute, TheLowestBecomesTheHighest)
 {
     const auto check = [](const std::string& name, auto type) {

@@ -5,6 +5,7 @@
 // that, if the significand has more bits than dividend, divisor and result leave open: doubles always do, single
 // precision does for 8 bits, and for 16 bits while results are not scaled up.
 #include "frame/entry.h"
+#include "kernel/minmax.h"
 #include "kernel/repeated.h"
 #include "kernel/scale.h"
 #include <emmintrin.h>
@@ -73,27 +74,27 @@ template <class F, class V> inline V quotient(V x, V y, F scale)
     const V least = all<V>(static_cast<F>(lowest_of<i32>)), most = all<V>(sizeof(F) == 4 ? F(0x1p30) : F(highest<i32>));
     const auto tiny = bits(all<V>(insteadOfZero<F>)) & bits(y == V{}); // zero has no bits of its own
     const V q = x * scale / as<V>(bits(y) | tiny);
-    return lower(higher(q, least), most);
+    return smaller(larger(q, least), most);
 }
 
-// Of elements that stand in 32-bit lanes; of elements in lanes half as wide; a quarter.
-template <class F, class V> inline V quotients(V x, V y, F scale)
+// op of elements as floating-point numbers: of those that stand in 32-bit lanes; in lanes half as wide; a quarter.
+template <class F, class Op, class V, class... W> inline V nearest_of(Op op, V x, W... y)
 {
-    const auto a = bits(x), b = bits(y);
     if constexpr (sizeof(Lane<V>) == 1) {
-        using W = Vec<i16, sizeof(V) / 2>;
+        using H = Vec<i16, sizeof(V) / 2>;
         const auto zero = bits(V{});
-        const W low = quotients<F>(as<W>(low_bytes(a, zero)), as<W>(low_bytes(b, zero)), scale);
-        const W high = quotients<F>(as<W>(high_bytes(a, zero)), as<W>(high_bytes(b, zero)), scale);
+        const H low = nearest_of<F>(op, as<H>(low_bytes(bits(x), zero)), as<H>(low_bytes(bits(y), zero))...);
+        const H high = nearest_of<F>(op, as<H>(high_bytes(bits(x), zero)), as<H>(high_bytes(bits(y), zero))...);
         return as<V>(packed_bytes(bits(low), bits(high)));
     } else if constexpr (sizeof(Lane<V>) == 2) {
-        const auto p = unpacked(x, x >> 15), q = unpacked(y, y >> 15);
-        return pack_saturated(quotients<F>(p.low, q.low, scale), quotients<F>(p.high, q.high, scale));
+        const auto p = unpacked(x, x >> 15);
+        return pack_saturated(nearest_of<F>(op, p.low, unpacked(y, y >> 15).low...),
+                              nearest_of<F>(op, p.high, unpacked(y, y >> 15).high...));
     } else if constexpr (sizeof(F) == 4) {
-        return as<V>(nearest(quotient(singles(a), singles(b), scale)));
+        return as<V>(nearest(op(singles(bits(x)), singles(bits(y))...)));
     } else {
-        return as<V>(nearest(quotient(low_doubles(a), low_doubles(b), scale),
-                             quotient(high_doubles(a), high_doubles(b), scale)));
+        return as<V>(nearest(op(low_doubles(bits(x)), low_doubles(bits(y))...),
+                             op(high_doubles(bits(x)), high_doubles(bits(y))...)));
     }
 }
 
@@ -103,7 +104,37 @@ template <class T, class F> struct Quotient {
     template <class V> V operator()(V x, V y) const
     {
         zeroDivisors |= any_set(bits(as<V>(y == V{})));
-        return quotients<F>(x, y, scale);
+        return nearest_of<F>([this](auto a, auto b) { return quotient(a, b, scale); }, x, y);
+    }
+};
+
+// By a value of 8 or 16 bits that is not zero: the product with the reciprocal, which two roundings put off by at most
+// 2^-8 / unit where it matters, with unit = |v| 2^s or, of quotients that are scaled up, |v|. Ties are multiples of
+// 1/2, and a quotient that is none is at least 2^-1 / unit away from them. So rounding first to multiples of a power of
+// two between 2^-4 / unit and 2^-3 / unit, by adding a large number, puts ties back in their places and makes no new
+// ones.
+template <class T, class F> struct QuotientByValue {
+    F reciprocal, large;
+    QuotientByValue(T v, int s)
+    {
+        using Bits = std::conditional_t<sizeof(F) == 4, u32, u64>;
+        constexpr int digits = sizeof(F) == 4 ? 24 : 53;
+        const F divisor = static_cast<F>(v), scale = scale_of<F>(s);
+        const F perUnit = (scale < 1 ? scale : 1) / (divisor < 0 ? -divisor : divisor);
+        const Bits exponent = __builtin_bit_cast(Bits, perUnit) >> (digits - 1) << (digits - 1);
+        reciprocal = scale / divisor;
+        large = __builtin_bit_cast(F, exponent) * static_cast<F>(u64(3) << (digits - 5)); // 1.5 * 2^(digits - 4)
+    }
+    template <class V> V operator()(V x) const
+    {
+        return nearest_of<F>([this](auto a) { return on_grid(a * all<decltype(a)>(reciprocal)); }, x);
+    }
+    template <class V> V on_grid(V q) const
+    {
+        // Beyond the limits by as much as makes no difference. Single precision gets nothing of 16 bits to scale up.
+        if constexpr (sizeof(T) == 1 || sizeof(F) == 8) q = smaller(q, all<V>(static_cast<F>(highest<T> + 1)));
+        if constexpr (sizeof(F) == 8) q = larger(q, all<V>(static_cast<F>(lowest_of<T> - 1)));
+        return q + all<V>(large) - all<V>(large);
     }
 };
 
@@ -115,16 +146,27 @@ template <class F, class T, class... A> [[gnu::noinline]] Status run(size_t n, T
     map_compact<2>(n, d, Quotient<T, F>{scale_of<F>(s), zeroDivisors}, a...);
     return zeroDivisors ? StsDivByZero : StsNoErr;
 }
-
-template <class T, class... A> Status choose(int n, T* d, int s, A... a)
+template <class F, class T> [[gnu::noinline]] void run_by_value(size_t n, const T* a, T v, T* d, int s)
 {
-    if (sizeof(T) == 1 || (sizeof(T) == 2 && s >= 0)) return run<f32>(count(d, n), d, s, a...);
-    return run<f64>(count(d, n), d, s, a...);
+#if SIG5D_LEVEL == 0
+    run<F>(n, d, s, a, repeated(v));
+#else
+    map_compact<2>(n, d, QuotientByValue<T, F>{v, s}, a);
+#endif
 }
 
+// Single precision is enough.
+template <class T> constexpr bool isShort(int s) { return sizeof(T) == 1 || (sizeof(T) == 2 && s >= 0); }
+
 // b / a: the divisor comes first.
-template <class T> Status divide(const T* a, const T* b, T* d, int n, int s) { return choose(n, d, s, b, a); }
-template <class T> Status divide(const T* a, T v, T* d, int n, int s) { return choose(n, d, s, a, repeated(v)); }
+template <class T> Status divide(const T* a, const T* b, T* d, int n, int s)
+{
+    return isShort<T>(s) ? run<f32>(count(d, n), d, s, b, a) : run<f64>(count(d, n), d, s, b, a);
+}
+template <class T> void divide(const T* a, T v, T* d, int n, int s)
+{
+    isShort<T>(s) ? run_by_value<f32>(count(d, n), a, v, d, s) : run_by_value<f64>(count(d, n), a, v, d, s);
+}
 
 } // namespace
 #include "entries/signal/elementwise/scaled_quotients.inc"

@@ -12,12 +12,12 @@ struct Sum {
     i64 exact(i64 x, i64 y) const { return x + y; }
 #else
     template <class V> V saturated(V x, V y) const { return add_saturated(x, y); }
-    template <class V> Halves<V> exact(V x, V y) const
+    template <class V> auto exact(V x, V y) const
     {
         if constexpr (sizeof(Lane<V>) == 1)
-            return {average(x, y) - ((x ^ y) & 1), sum_modulo(x, y)};
+            return ByteAndBit<V>{average(x, y), x ^ y};
         else
-            return {(x & y) + ((x ^ y) >> 1), sum_modulo(x, y)};
+            return Halves<V>{(x & y) + ((x ^ y) >> 1), sum_modulo(x, y)};
     }
     // x + y = 2 (x | y) - (x ^ y): halves rounded up, and ties where the last bits differ.
     template <class T, int s> static constexpr bool quick = s == 1;
@@ -37,14 +37,12 @@ struct Difference {
     i64 exact(i64 x, i64 y) const { return x - y; }
 #else
     template <class V> V saturated(V x, V y) const { return subtract_saturated(x, y); }
-    template <class V> Halves<V> exact(V x, V y) const
+    template <class V> auto exact(V x, V y) const
     {
-        if constexpr (sizeof(Lane<V>) == 1) {
-            const V r = subtract_saturated(x, y); // nothing below zero comes back
-            return {down(r, 1), r};
-        } else {
-            return {((x ^ y) >> 1) - (~x & y), difference_modulo(x, y)};
-        }
+        if constexpr (sizeof(Lane<V>) == 1)
+            return Byte<V>{subtract_saturated(x, y)}; // nothing below zero comes back
+        else
+            return Halves<V>{((x ^ y) >> 1) - (~x & y), difference_modulo(x, y)};
     }
     // x - y = 2 (x & ~y) - (x ^ y) = (x ^ y) - 2 (~x & y). Half of the largest difference is beyond the limit by a
     // half.

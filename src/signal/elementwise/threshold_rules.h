@@ -1,14 +1,29 @@
 // Thresholds of real arrays, of integers and doubles alike: elements beyond a level become the level or another value.
 // Comparisons are written so that a NaN meets none of them and passes.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/compact_loop.h"
 #include "kernel/minmax.h"
+#include "kernel/saturate.h"
+#include "kernel/select.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // A value in all lanes; the value itself in px.
 template <class V, class T> inline V all_lanes(T x) { return splatn<sizeof(V) / sizeof(T)>(x); }
+
+#if SIG5D_LEVEL >= 3
+inline __m128i magnitudes(__m128i x, i16) { return _mm_abs_epi16(x); }
+inline __m128i magnitudes(__m128i x, i32) { return _mm_abs_epi32(x); }
+inline __m128i with_signs(__m128i x, __m128i y, i16) { return _mm_sign_epi16(x, y); }
+inline __m128i with_signs(__m128i x, __m128i y, i32) { return _mm_sign_epi32(x, y); }
+#endif
+#if SIG5D_LEVEL >= 5
+inline __m256i magnitudes(__m256i x, i16) { return _mm256_abs_epi16(x); }
+inline __m256i magnitudes(__m256i x, i32) { return _mm256_abs_epi32(x); }
+inline __m256i with_signs(__m256i x, __m256i y, i16) { return _mm256_sign_epi16(x, y); }
+inline __m256i with_signs(__m256i x, __m256i y, i32) { return _mm256_sign_epi32(x, y); }
+#endif
 
 template <class T> struct LimitBelow {
     T level;
@@ -19,11 +34,25 @@ template <class T> struct LimitAbove {
     template <class V> V operator()(V x) const { return smaller(all_lanes<V>(level), x); }
 };
 
-// Levels of magnitudes are not negative. No magnitude is formed, so that the lowest integer needs no wider type.
+// Levels of magnitudes are not negative. The plain form needs no magnitude, and so no wider type for that of the lowest
+// integer; vectors take it as an unsigned number.
 template <class T> struct LimitMagnitudeBelow {
     T level;
     template <class V> V operator()(V x) const
     {
+#if SIG5D_LEVEL > 0
+        if constexpr (sizeof(T) == 8) {
+            // -0 is not negative: where the level is above 0 it becomes the level, too.
+            const V zero = all_lanes<V>(level > 0 ? 0.0 : -0.0);
+            return with_sign(larger(all_lanes<V>(level), absolute_value(x)), x + zero);
+        }
+#endif
+#if SIG5D_LEVEL >= 3
+        if constexpr (sizeof(T) < 8) {
+            const auto magnitude = as<Unsigned<V>>(magnitudes(bits(x), T{}));
+            return as<V>(with_signs(bits(larger(as<Unsigned<V>>(all<V>(level)), magnitude)), bits(x | 1), T{}));
+        }
+#endif
         const V up = all_lanes<V>(level), down = all_lanes<V>(static_cast<T>(-level));
         return x < all_lanes<V>(T{}) ? smaller(down, x) : larger(up, x);
     }
@@ -51,8 +80,18 @@ template <class T> struct ReplaceOutside {
     T levelLT, valueLT, levelGT, valueGT;
     template <class V> V operator()(V x) const
     {
-        const V y = x <= all_lanes<V>(levelGT) ? x : all_lanes<V>(valueGT);
-        return x < all_lanes<V>(levelLT) ? all_lanes<V>(valueLT) : y;
+        const V low = all_lanes<V>(valueLT), high = all_lanes<V>(valueGT);
+        const auto below = x < all_lanes<V>(levelLT), within = x <= all_lanes<V>(levelGT);
+#if SIG5D_LEVEL == 0 || SIG5D_LEVEL == 3
+        return below ? low : within ? x : high;
+#else
+        // Two selections are six or more steps, but in the form that SSE4.1 has and AVX lacks. By bits they are five:
+        // what differs from the upper value and then from the lower one.
+        using Bits = std::remove_const_t<decltype(below)>;
+        const Bits a = reinterpret_cast<Bits>(low), b = reinterpret_cast<Bits>(high);
+        const Bits difference = ((reinterpret_cast<Bits>(x) ^ b) & within) ^ (a ^ b);
+        return reinterpret_cast<V>((difference & ~below) ^ a);
+#endif
     }
 };
 
@@ -82,11 +121,12 @@ template <class T> void replace_above(const T* a, T* d, int n, T level, T value)
     each(a, d, n, ReplaceAbove<T>{level, value});
 }
 
-template <class T> void replace_outside(const T* a, T* d, int n, T levelLT, T valueLT, T levelGT, T valueGT)
+template <class T>
+[[gnu::noinline]] void replace_outside(const T* a, T* d, int n, T levelLT, T valueLT, T levelGT, T valueGT)
 {
     // An element is inside if it is neither below the one level nor above the other: none is if one of them is NaN.
     if (levelLT != levelLT) levelGT = levelLT;
-    each(a, d, n, ReplaceOutside<T>{levelLT, valueLT, levelGT, valueGT});
+    map_compact<2>(static_cast<size_t>(n), d, ReplaceOutside<T>{levelLT, valueLT, levelGT, valueGT}, a);
 }
 
 } // namespace
