@@ -167,6 +167,23 @@ void histograms(int bins, bool half)
         s.elements = n;
         s.run([=] { HistoCount(reinterpret_cast<unsigned*>(b), counts, n); });
     });
+    for (const bool indexed : {false, true})
+        addCase((indexed ? "HistoSum_Idx " : "HistoSum ") + what, sizes, [=](Setup& s) {
+            const auto n = static_cast<unsigned>(s.size);
+            int* const b = s.input<int>(n);
+            const double* const x = s.input<double>(n);
+            double* const sums = s.inout<double>(static_cast<size_t>(bins));
+            Numbers next;
+            for (unsigned i = 0; i < n; ++i) b[i] = number(next);
+            s.elements = n;
+            s.run([=] {
+                const auto* const numbers = reinterpret_cast<unsigned*>(b);
+                if (indexed)
+                    HistoSum_Idx(numbers, 0, x, 0, sums, 0, n);
+                else
+                    HistoSum(numbers, x, sums, n);
+            });
+        });
     addCase("HistogramCount " + what, sizes, [=](Setup& s) {
         const auto n = static_cast<unsigned>(s.size);
         double* const x = s.input<double>(n);
