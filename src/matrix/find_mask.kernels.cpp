@@ -114,8 +114,10 @@ void count_greater(const f64* x, f64 value, u32* count, u32 n)
 #if SIG5D_LEVEL > 0
     constexpr size_t L = lanes<f64>;
     Vec<i64> found[4] = {};
-    for (; n - k >= 4 * L; k += 4 * L)
-        for (size_t i = 0; i < 4; ++i) found[i] -= load(x + k + i * L) > splat(value);
+    for (; n - k >= 8 * L; k += 8 * L)
+#pragma GCC unroll 8
+        for (size_t i = 0; i < 8; ++i) found[i % 4] -= splat(value) < load(x + k + i * L);
+    for (; n - k >= L; k += L) found[0] -= splat(value) < load(x + k);
     const auto all = reinterpret_cast<Vec<i32>>(found[0] + found[1] + (found[2] + found[3]));
     for (size_t i = 0; i < L; ++i) greater += static_cast<u32>(all[2 * i]);
 #endif
