@@ -88,17 +88,18 @@ template <int bytes, class T, class Y, class Test> inline Vec<i32, 4> load_part(
 
 template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i32* mask, size_t n)
 {
-    with_comparison(
-        code, y, n, [=](auto test) __attribute__((flatten)) { // calls would load the value anew each time
-            const MaskValues<T, Y, decltype(test)> values{x, y, test};
-            if constexpr (sizeof(T) < sizeof *mask &&
-                          SIG5D_LEVEL < 5) { // the compiler takes a whole vector of T at once
+    // Calls from the loop would load the value and the pointers anew each time.
+    const auto write = [=](auto test) __attribute__((flatten))
+    {
+        const MaskValues<T, Y, decltype(test)> values{x, y, test};
+        if constexpr (sizeof(T) < sizeof *mask && SIG5D_LEVEL < 5) { // the compiler takes a whole vector of T at once
 #pragma GCC ivdep
-                for (size_t k = 0; k < n; ++k) mask[k] = values[k];
-            } else {
-                map(n, mask, Same{}, values);
-            }
-        });
+            for (size_t k = 0; k < n; ++k) mask[k] = values[k];
+        } else {
+            map(n, mask, Same{}, values);
+        }
+    };
+    with_comparison(code, y, n, write);
 }
 template <class T> void find_mask(u32 code, const T* x, T y, i32* mask, u32 n)
 {
