@@ -34,12 +34,8 @@ template <class T> inline void compress(const T* a, u32 bits, T* d)
 {
 #pragma GCC unroll 8
     for (u32 i = 0; i < 8; ++i) {
-#if SIG5D_LEVEL >= 3
-        d[bit_count(bits & ((1u << i) - 1))] = a[i]; // does not wait for the place before it
-#else
         *d = a[i];
         d += bits >> i & 1;
-#endif
     }
 }
 template <class T> inline void expand(const T* a, u32 bits, T* d)
