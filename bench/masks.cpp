@@ -167,6 +167,23 @@ void histograms(int bins, bool half)
         s.elements = n;
         s.run([=] { HistoCount(reinterpret_cast<unsigned*>(b), counts, n); });
     });
+    for (const bool indexed : {false, true})
+        addCase((indexed ? "HistoSum_Idx " : "HistoSum ") + what, sizes, [=](Setup& s) {
+            const auto n = static_cast<unsigned>(s.size);
+            int* const b = s.input<int>(n);
+            const double* const x = s.input<double>(n);
+            double* const sums = s.inout<double>(static_cast<size_t>(bins));
+            Numbers next;
+            for (unsigned i = 0; i < n; ++i) b[i] = number(next);
+            s.elements = n;
+            s.run([=] {
+                const auto* const numbers = reinterpret_cast<unsigned*>(b);
+                if (indexed)
+                    HistoSum_Idx(numbers, 0, x, 0, sums, 0, n);
+                else
+                    HistoSum(numbers, x, sums, n);
+            });
+        });
     addCase("HistogramCount " + what, sizes, [=](Setup& s) {
         const auto n = static_cast<unsigned>(s.size);
         double* const x = s.input<double>(n);
@@ -191,7 +208,29 @@ template <class T> void gathers(const char* name, void (*pack)(unsigned, const T
     });
 }
 
+// Bytes of which none is the least or the greatest there is, so that the search cannot end early.
+template <class F> void searches(const char* name, F find)
+{
+    addCase(std::string(name) + " 1 to 254", {8192, 262144}, [=](Setup& s) {
+        const auto n = static_cast<unsigned>(s.size);
+        Ipp8u* const x = s.input<Ipp8u>(n);
+        Numbers next;
+        for (unsigned i = 0; i < n; ++i) x[i] = static_cast<Ipp8u>(1 + next() % 254);
+        s.elements = n;
+        s.run([=] { find(x, n); });
+    });
+}
+
 const bench::Cases selections([] {
+    searches("MaxMin_8u", [](const Ipp8u* x, unsigned n) {
+        Ipp8u min, max;
+        MaxMin_8u(x, n, &min, &max);
+    });
+    searches("MaxMinIndx_8u", [](const Ipp8u* x, unsigned n) {
+        Ipp8u min, max;
+        int minIndex, maxIndex;
+        MaxMinIndx_8u(x, n, &min, &minIndex, &max, &maxIndex);
+    });
     for (const int share : {0, 2, 10, 50, 90}) {
         addCase(named("PackByMask", "", share) + "%", sizes, [=](Setup& s) {
             const auto n = static_cast<unsigned>(s.size);

@@ -33,11 +33,12 @@ template <class V> inline void list_byte(u32 bits, V bases, u32 first, u32* d)
 template <class Holding> size_t list(const Holding& holding, size_t n, u32* indexes)
 {
     const auto group = [=](size_t k) {
-        return [=, bases = splat(static_cast<u32>(k))](size_t j, size_t, u32 b, u32 bits) {
-            list_byte(bits, bases, 8 * b, indexes + j);
-        };
+        auto bases = splat(static_cast<u32>(k));
+        asm("" : "+x"(bases)); // a value that the compiler knows it would spread over the lanes anew for each byte
+        return [=](size_t j, size_t, u32 b, u32 bits) { list_byte(bits, bases, 8 * b, indexes + j); };
     };
-    return for_selected<8>(holding, n, group, [=](size_t j, size_t k) { indexes[j] = static_cast<u32>(k); });
+    constexpr size_t many = sizeof(*holding.x) <= 2 ? 8 : 32;
+    return for_selected<many>(holding, n, group, [=](size_t j, size_t k) { indexes[j] = static_cast<u32>(k); });
 }
 
 #endif

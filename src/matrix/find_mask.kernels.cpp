@@ -88,7 +88,9 @@ template <int bytes, class T, class Y, class Test> inline Vec<i32, 4> load_part(
 
 template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i32* mask, size_t n)
 {
-    with_comparison(code, y, n, [&](auto test) {
+    // Calls from the loop would load the value and the pointers anew each time.
+    const auto write = [=](auto test) __attribute__((flatten))
+    {
         const MaskValues<T, Y, decltype(test)> values{x, y, test};
         if constexpr (sizeof(T) < sizeof *mask && SIG5D_LEVEL < 5) { // the compiler takes a whole vector of T at once
 #pragma GCC ivdep
@@ -96,7 +98,8 @@ template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i3
         } else {
             map(n, mask, Same{}, values);
         }
-    });
+    };
+    with_comparison(code, y, n, write);
 }
 template <class T> void find_mask(u32 code, const T* x, T y, i32* mask, u32 n)
 {
@@ -114,8 +117,10 @@ void count_greater(const f64* x, f64 value, u32* count, u32 n)
 #if SIG5D_LEVEL > 0
     constexpr size_t L = lanes<f64>;
     Vec<i64> found[4] = {};
-    for (; n - k >= 4 * L; k += 4 * L)
-        for (size_t i = 0; i < 4; ++i) found[i] -= load(x + k + i * L) > splat(value);
+    for (; n - k >= 8 * L; k += 8 * L)
+#pragma GCC unroll 8
+        for (size_t i = 0; i < 8; ++i) found[i % 4] -= splat(value) < load(x + k + i * L);
+    for (; n - k >= L; k += L) found[0] -= splat(value) < load(x + k);
     const auto all = reinterpret_cast<Vec<i32>>(found[0] + found[1] + (found[2] + found[3]));
     for (size_t i = 0; i < L; ++i) greater += static_cast<u32>(all[2 * i]);
 #endif

@@ -8,48 +8,68 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// Bin numbers, in groups of eight: eight(k) are those from k on, which prepare(k) has made ready some time before.
+// Walks over bin numbers: every(b, k, m, next) for blocks of them, b[i] that of element k + i, m a multiple of eight;
+// one(b, k) for what is left over. next(i) is to be called for each eight elements from i on, between the others: it
+// prepares those of the block after it.
 
-constexpr size_t ahead = 128;
+constexpr size_t block = 64;
+inline size_t block_of(size_t n) { return n < block ? n - n % 8 : block; }
+struct Nothing {
+    void operator()(size_t) const {}
+};
 
 struct Given {
     const u32* bins;
 
-    u32 at(size_t k) const { return bins[k]; }
-    void prepare(size_t) const {}
-    const u32* eight(size_t k) const { return bins + k; }
+    template <class Every, class One> void walk(size_t n, [[maybe_unused]] Every every, One one) const
+    {
+        size_t k = 0;
+#if SIG5D_LEVEL > 0
+        for (size_t m; (m = block_of(n - k)) > 0; k += m) every(bins + k, k, m, Nothing{});
+#endif
+        for (; k < n; ++k) one(bins[k], k);
+    }
 };
 
-// (x - offset)*scale toward zero, between limits. Groups stand in a ring from which they are read when their stores are
-// long done: loads that follow a store closely hold up those of the counters.
+// (x - offset)*scale toward zero, between limits.
 struct EqualWidth {
     const f64* x;
-    size_t n;
     f64 scale, offset;
     i32 least, greatest;
-    i32 ring[2 * ahead];
 
-    EqualWidth(const f64* values, size_t count, f64 perUnit, f64 first, i32 bins)
-        : x(values), n(count), scale(perUnit), offset(first), least(bins < 1 ? INT32_MIN : 0),
+    EqualWidth(const f64* values, f64 perUnit, f64 first, i32 bins)
+        : x(values), scale(perUnit), offset(first), least(bins < 1 ? INT32_MIN : 0),
           greatest(bins < 1 ? INT32_MAX : bins - 1)
     {
-        for (size_t k = 0; k < ahead && k < n; k += 8) prepare(k);
     }
 
-    i32 at(size_t k) const { return limited(_mm_cvttsd_si32(_mm_set_sd((x[k] - offset) * scale))); }
-    const i32* eight(size_t k) const { return ring + k % (2 * ahead); }
-
-    void prepare(size_t k)
+    template <class Every, class One> void walk(size_t n, [[maybe_unused]] Every every, One one) const
     {
-        if (k >= n || n - k < 8) return;
-        i32* const d = ring + k % (2 * ahead);
-#if SIG5D_LEVEL == 0
-        for (size_t i = 0; i < 8; ++i) d[i] = at(k + i);
-#elif SIG5D_LEVEL >= 5
-        storen<8>(d, limited(reinterpret_cast<Vec<i32, 8>>(_mm256_set_m128i(four(k + 4), four(k)))));
-#else
-        for (size_t i = 0; i < 8; i += 4) storen<4>(d + i, limited(reinterpret_cast<Vec<i32, 4>>(four(k + i))));
+        size_t k = 0;
+#if SIG5D_LEVEL > 0
+        // Bin numbers are stored a block before they are read: loads that follow a store closely hold up those of the
+        // counters. And little by little: conversions and counting keep different parts of the processor busy.
+        alignas(64) i32 numbers[2 * block];
+        i32 *now = numbers, *later = numbers + block;
+        size_t ready = block_of(n);
+        for (size_t i = 0; i < ready; i += 8) eight(x + i, now + i);
+        while (ready > 0) {
+            const f64* const ahead = x + k + ready;
+            const size_t coming = block_of(n - k - ready);
+            if (coming == block) {
+                every(now, k, block, [=, *this](size_t i) { eight(ahead + i, later + i); });
+            } else {
+                for (size_t i = 0; i < coming; i += 8) eight(ahead + i, later + i);
+                every(now, k, ready, Nothing{});
+            }
+            k += ready;
+            ready = coming;
+            i32* const read = now;
+            now = later;
+            later = read;
+        }
 #endif
+        for (; k < n; ++k) one(limited(_mm_cvttsd_si32(_mm_set_sd((x[k] - offset) * scale))), k);
     }
 
 private:
@@ -59,14 +79,22 @@ private:
         return b > greatest ? greatest : b;
     }
 #if SIG5D_LEVEL > 0
-    __m128i four(size_t k) const
+    void eight(const f64* p, i32* d) const
+    {
+#if SIG5D_LEVEL >= 5
+        storen<8>(d, limited(reinterpret_cast<Vec<i32, 8>>(_mm256_set_m128i(four(p + 4), four(p)))));
+#else
+        for (size_t i = 0; i < 8; i += 4) storen<4>(d + i, limited(reinterpret_cast<Vec<i32, 4>>(four(p + i))));
+#endif
+    }
+    __m128i four(const f64* p) const
     {
         const auto product = [&](auto v) { return (v - offset) * scale; };
 #if SIG5D_LEVEL >= 4
-        return _mm256_cvttpd_epi32(reinterpret_cast<__m256d>(product(loadn<4>(x + k))));
+        return _mm256_cvttpd_epi32(reinterpret_cast<__m256d>(product(loadn<4>(p))));
 #else
-        const __m128i b0 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(x + k))));
-        const __m128i b1 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(x + k + 2))));
+        const __m128i b0 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(p))));
+        const __m128i b1 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(p + 2))));
         return _mm_unpacklo_epi64(b0, b1);
 #endif
     }
@@ -75,22 +103,34 @@ private:
 
 #if SIG5D_LEVEL > 0
 
-// For each of four bins: how many up to it are the same, itself included.
-template <class Bin> inline Vec<i32, 4> ranks(const Bin* four)
+inline __m128i same(__m128i a, __m128i b) { return _mm_cmpeq_epi32(a, b); }
+template <class Bin> inline __m128i four_of(const Bin* b) { return reinterpret_cast<__m128i>(loadn<4>(b)); }
+
+template <class Bin> inline void count_eight(const Bin* b, u32* counts)
 {
-    const auto b = reinterpret_cast<__m128i>(loadn<4>(four));
-    const auto same = [=](__m128i other) { return reinterpret_cast<Vec<i32, 4>>(_mm_cmpeq_epi32(b, other)); };
+#pragma GCC unroll 8
+    for (size_t i = 0; i < 8; ++i) {
+        u32* counter = counts + b[i];
+        asm("" : "+r"(counter)); // an address by itself costs two steps less than one with an index
+        ++*counter;
+    }
+}
+
+// For each of four bins: how many up to it are the same, itself included.
+inline Vec<u32, 4> ranks(__m128i b)
+{
+    const auto equal = [=](__m128i other) { return reinterpret_cast<Vec<u32, 4>>(same(b, other)); };
     // Each lane with those one, two and three before it; where there is none, with itself.
-    const auto all = same(_mm_shuffle_epi32(b, _MM_SHUFFLE(2, 1, 0, 0))) +
-                     same(_mm_shuffle_epi32(b, _MM_SHUFFLE(1, 0, 1, 0))) +
-                     same(_mm_shuffle_epi32(b, _MM_SHUFFLE(0, 2, 1, 0)));
-    return Vec<i32, 4>{-2, -1, 0, 1} - all;
+    const auto all = equal(_mm_shuffle_epi32(b, _MM_SHUFFLE(2, 1, 0, 0))) +
+                     equal(_mm_shuffle_epi32(b, _MM_SHUFFLE(1, 0, 1, 0))) +
+                     equal(_mm_shuffle_epi32(b, _MM_SHUFFLE(0, 2, 1, 0)));
+    return Vec<u32, 4>{-2u, -1u, 0, 1} - all;
 }
 
 // Four counters are read before any is stored: the last one of a bin has counted all of it.
 template <class Bin> inline void count_four(const Bin* b, u32* counts)
 {
-    const auto added = reinterpret_cast<Vec<u32, 4>>(ranks(b));
+    const auto added = ranks(four_of(b));
     const u32 c0 = counts[b[0]] + 1, c1 = counts[b[1]] + added[1];
     const u32 c2 = counts[b[2]] + added[2], c3 = counts[b[3]] + added[3];
     counts[b[0]] = c0;
@@ -98,13 +138,28 @@ template <class Bin> inline void count_four(const Bin* b, u32* counts)
     counts[b[2]] = c2;
     counts[b[3]] = c3;
 }
-
-// Whether counters return soon after they were stored, as far as these 16 bins tell: a load that waits for such a store
-// takes seven times as long.
-template <class Bin> inline bool repetitive(const Bin* a, const Bin* b)
+template <class Bin> inline void count_repeated(const Bin* b, u32* counts)
 {
-    const auto sum = ranks(a) + ranks(a + 4) + ranks(b) + ranks(b + 4);
-    return sum[0] + sum[1] + sum[2] + sum[3] > 16 + 3;
+    const __m128i first = _mm_shuffle_epi32(four_of(b), 0);
+    if (_mm_movemask_epi8(_mm_and_si128(same(first, four_of(b)), same(first, four_of(b + 4)))) == 0xFFFF) {
+        counts[b[0]] += 8;
+    } else {
+        count_four(b, counts);
+        count_four(b + 4, counts);
+    }
+}
+
+// Whether more than one in six counters returns soon after it was stored, as far as the first 34 bins tell: a load that
+// waits for such a store takes seven times as long.
+template <class Bin> inline bool repetitive(const Bin* b)
+{
+    Vec<i32, 4> sum{};
+    for (size_t i = 0; i < 32; i += 4) {
+        const __m128i bins = four_of(b + i);
+        sum -= reinterpret_cast<Vec<i32, 4>>(same(bins, four_of(b + i + 1)));
+        sum -= reinterpret_cast<Vec<i32, 4>>(same(bins, four_of(b + i + 2)));
+    }
+    return sum[0] + sum[1] + (sum[2] + sum[3]) > 64 / 6;
 }
 
 #endif
@@ -112,49 +167,43 @@ template <class Bin> inline bool repetitive(const Bin* a, const Bin* b)
 // Counters are without a sign, so that a full one wraps.
 template <class Bins> inline void count_bins(Bins bins, size_t n, u32* counts)
 {
-    size_t k = 0;
+    [[maybe_unused]] bool often = false;
+    const auto every = [&](const auto* b, size_t k, size_t m, auto next) {
 #if SIG5D_LEVEL > 0
-    constexpr size_t block = 256; // has one way of counting
-    while (n - k >= 16) {
-        const size_t end = n - k < block ? k + (n - k) / 8 * 8 : k + block;
-        if (repetitive(bins.eight(k), bins.eight(k + 8))) {
-            for (; k < end; k += 8) {
-                const auto* const b = bins.eight(k);
-                count_four(b, counts);
-                count_four(b + 4, counts);
-                bins.prepare(k + ahead);
+        if (k % (4 * block) == 0 && m == block) often = repetitive(b);
+        if (often) {
+            for (size_t i = 0; i < m; i += 8) {
+                next(i);
+                count_repeated(b + i, counts);
             }
         } else {
-            for (; k < end; k += 8) {
-                const auto* const b = bins.eight(k);
-#pragma GCC unroll 8
-                for (size_t i = 0; i < 8; ++i) ++counts[b[i]];
-                bins.prepare(k + ahead);
+            for (size_t i = 0; i < m; i += 8) {
+                next(i);
+                count_eight(b + i, counts);
             }
         }
-    }
 #endif
-    for (; k < n; ++k) ++counts[bins.at(k)];
+    };
+    bins.walk(n, every, [=](auto bin, size_t) { ++counts[bin]; });
 }
 
 void histo_count(const u32* bins, i32* counts, u32 n) { count_bins(Given{bins}, n, reinterpret_cast<u32*>(counts)); }
 
 void histogram_count(const f64* x, f64 scale, f64 offset, i32* counts, i32 bins, u32 n)
 {
-    count_bins(EqualWidth(x, n, scale, offset, bins), n, reinterpret_cast<u32*>(counts));
+    count_bins(EqualWidth(x, scale, offset, bins), n, reinterpret_cast<u32*>(counts));
 }
 
 void histogram_store(const f64* x, f64 scale, f64 offset, f64* d, i32 bins, u32 n)
 {
-    EqualWidth bin(x, n, scale, offset, bins);
-    size_t k = 0;
-    for (; n - k >= 8; k += 8) {
-        const i32* const b = bin.eight(k);
+    const auto every = [=](const i32* b, size_t k, size_t m, auto next) {
+        for (size_t i = 0; i < m; i += 8) {
+            next(i);
 #pragma GCC unroll 8
-        for (size_t i = 0; i < 8; ++i) d[b[i]] = x[k + i];
-        bin.prepare(k + ahead);
-    }
-    for (; k < n; ++k) d[bin.at(k)] = x[k];
+            for (size_t j = 0; j < 8; ++j) d[b[i + j]] = x[k + i + j];
+        }
+    };
+    EqualWidth(x, scale, offset, bins).walk(n, every, [=](i32 bin, size_t k) { d[bin] = x[k]; });
 }
 
 void add_single(const u32* bins, const f64* values, f64* sums, size_t begin, size_t end)
@@ -166,11 +215,14 @@ void add_single(const u32* bins, const f64* values, f64* sums, size_t begin, siz
 void add_pairs(const u32* bins, const f64* values, f64* sums, size_t begin, size_t end, size_t n)
 {
     add_single(bins, values, sums, 0, begin);
-    for (size_t k = begin; k < end; k += 2) {
-        f64 &first = sums[bins[k]], &second = sums[bins[k + 1]];
-        const f64 a = first + values[k], b = second + values[k + 1];
-        first = a;
-        second = b;
+    const u32* b = bins + begin;
+    const f64 *v = values + begin, *const last = values + end;
+#pragma GCC unroll 4
+    for (; v < last; v += 2, b += 2) {
+        f64 &first = sums[b[0]], &second = sums[b[1]];
+        const f64 x = first + v[0], y = second + v[1];
+        first = x;
+        second = y;
     }
     add_single(bins, values, sums, end, n);
 }

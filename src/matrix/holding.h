@@ -52,6 +52,14 @@ template <class T, class Y, class Test> struct Holding {
             const __m256i order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
             return static_cast<u32>(
                 _mm256_movemask_epi8(_mm256_permutevar8x32_epi32(_mm256_packs_epi16(low, high), order)));
+        } else if constexpr (SIG5D_LEVEL >= 5 && sizeof(T) == 8) {
+            const __m256i low = _mm256_packs_epi32(two(k), two(k + 8)),
+                          high = _mm256_packs_epi32(two(k + 16), two(k + 24));
+            // The lower lane has the first two elements of each four, the upper one the others.
+            const __m256i half = _mm256_permute4x64_epi64(_mm256_packs_epi16(low, high), 0xD8);
+            const __m256i order =
+                _mm256_broadcastsi128_si256(_mm_setr_epi8(0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15));
+            return static_cast<u32>(_mm256_movemask_epi8(_mm256_shuffle_epi8(half, order)));
         } else if constexpr (SIG5D_LEVEL >= 4 && sizeof(T) == 8) {
             return byte(k) | byte(k + 8) << 8 | byte(k + 16) << 16 | byte(k + 24) << 24;
         } else {
@@ -71,6 +79,13 @@ private:
             return reinterpret_cast<__m256d>(m);
         else
             return reinterpret_cast<__m256i>(m);
+    }
+
+    // Eight doubles as lanes of 32 bits: 0 1 4 5 2 3 6 7.
+    __m256i two(size_t k) const
+    {
+        const __m256 a = _mm256_castpd_ps(mask<32>(k)), b = _mm256_castpd_ps(mask<32>(k + 4));
+        return _mm256_castps_si256(_mm256_shuffle_ps(a, b, 0x88));
     }
 
     // The elements from k on, so many bytes for each in a vector of 16.

@@ -106,9 +106,10 @@ inline void expand(const i32* a, u32 bits, i32* d)
 constexpr Numbers<u32, 4, 2> numbersOf4;
 inline void compress(const f64* a, u32 bits, f64* d)
 {
-    const u32 low = bits & 15;
-    store32(d, _mm256_permutevar8x32_epi32(load32(a), load32(numbersOf4.of[low])));
-    store32(d + bit_count(low), _mm256_permutevar8x32_epi32(load32(a + 4), load32(numbersOf4.of[bits >> 4])));
+    const u32 low = bits & 15, high = bits & 0xF0;
+    const auto order = [](size_t bytes) { return load32(reinterpret_cast<const u8*>(numbersOf4.of) + bytes); };
+    store32(d, _mm256_permutevar8x32_epi32(load32(a), order(low * 32)));
+    store32(d + bit_count(low), _mm256_permutevar8x32_epi32(load32(a + 4), order(high * 2)));
 }
 
 #else
@@ -138,8 +139,8 @@ inline bool disjoint(const void* p, size_t bytesP, const void* q, size_t bytesQ)
     return a < b ? b - a >= bytesP : a - b >= bytesQ;
 }
 
-// From how many of 1024 on elements move by eights: sooner where a shuffle moves them, not one instruction each.
-template <class T> constexpr size_t many = SIG5D_LEVEL >= 2 && sizeof(T) <= (SIG5D_LEVEL >= 5 ? 8 : 4) ? 8 : 32;
+// From how many of 1024 on elements move by eights: sooner where one shuffle moves all of them.
+template <class T> constexpr size_t many = SIG5D_LEVEL >= 2 && sizeof(T) <= 2 ? 8 : 32;
 
 inline auto positive(const i32* mask) { return Holding<i32, Repeated<i32>, Greater>{mask, {0}, {}}; }
 
@@ -149,7 +150,11 @@ template <class T> u32 pack_mask_counted(u32 n, const T* a, T* d, const i32* mas
     const bool behind = reinterpret_cast<uintptr_t>(d) <= reinterpret_cast<uintptr_t>(a);
     if (!disjoint(d, bytes, mask, n * sizeof *mask) || !(behind || disjoint(d, bytes, a, bytes)))
         return pack_in_order(n, a, d, mask);
-    const auto group = [=](size_t) { return [=](size_t j, size_t k, u32, u32 bits) { compress(a + k, bits, d + j); }; };
+    const auto group = [=](size_t k) {
+        const T* from = a + k;
+        asm("" : "+r"(from)); // loads from it take part in other instructions, those with an index do not
+        return [=](size_t j, size_t, u32 b, u32 bits) { compress(from + 8 * b, bits, d + j); };
+    };
     return static_cast<u32>(for_selected<many<T>>(positive(mask), n, group, [=](size_t j, size_t k) { d[j] = a[k]; }));
 }
 

@@ -80,6 +80,7 @@ inline size_t for_selected(const Holding& selected, size_t n, Group group, One o
     size_t j = 0, k = 0;
     size_t safe = unknown; // from here on at least eight selected elements are to come
     size_t lately = 0;     // selected in the last words: the mean, times 1024
+    for (size_t i = 0; n >= 32 && i < 32; i += 8) lately += 1024 * bit_count(selected.byte(i));
     for (; n - k >= 32; k += 32) {
         const size_t before = j;
         if (lately >= 32 * many && safe == unknown) {

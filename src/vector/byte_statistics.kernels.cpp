@@ -9,6 +9,9 @@ struct Found {
     u8 value;
     size_t index;
 };
+struct Both {
+    Found smallest, largest;
+};
 
 #if SIG5D_LEVEL > 0
 
@@ -27,6 +30,13 @@ template <int bytes> using Register = Vec<long long, bytes / 8>;
 template <int bytes> inline Register<bytes> at(const u8* p)
 {
     return reinterpret_cast<Register<bytes>>(loadn<bytes>(p));
+}
+
+// The lines of four vectors, a few steps before they are wanted: where there is more to compute than to load, the
+// processor itself begins too late.
+template <int bytes> inline void fetch_ahead(const u8* p)
+{
+    for (int i = 0; i < 4 * bytes; i += 64) _mm_prefetch(p + 1024 + i, _MM_HINT_T0);
 }
 
 #endif
@@ -64,12 +74,16 @@ inline u32 plain_sum(const u8* p, size_t n)
 #if SIG5D_LEVEL == 0
 
 template <class Kind, bool indexed> Found extreme(const u8* p, u32 n) { return plain_extreme<Kind>(p, n); }
+template <bool> Both extremes(const u8* p, u32 n)
+{
+    return {plain_extreme<Smallest>(p, n), plain_extreme<Largest>(p, n)};
+}
 u32 sum_of(const u8* p, u32 n) { return plain_sum(p, n); }
 
 #else
 
 // Elements that are searched for the place once their values are known to contain it.
-constexpr size_t blockVectors = 32;
+constexpr size_t blockVectors = 64;
 
 // n >= bytes; the last vector may overlap others.
 template <class Kind, int bytes> inline Register<bytes> best_of(const u8* p, size_t n)
@@ -125,24 +139,47 @@ template <int bytes> inline size_t place_of(u8 x, const u8* p, size_t n)
     }
 }
 
-// Block by block, as long as there may be something better; at the end the best block is searched. n >= bytes.
-template <class Kind, int bytes, bool indexed> inline Found extreme_of(const u8* p, size_t n)
-{
-    constexpr size_t block = blockVectors * bytes;
-    Found found{Kind::start, 0};
-    size_t size = 0; // of the block that contains it
-    auto best = repeated<bytes>(Kind::start);
-    for (size_t begin = 0, end; begin < n && found.value != Kind::last; begin = end) {
-        end = n - begin < 2 * block ? n : begin + block - (begin ? 0 : reinterpret_cast<uintptr_t>(p) % bytes);
-        const auto here = best_of<Kind, bytes>(p + begin, end - begin);
-        if (equal(Kind::best(here, best), best) == static_cast<u32>((u64{1} << bytes) - 1)) continue;
+// The best of all blocks that were looked at, and the block that contains it first.
+template <class Kind, int bytes> struct Search {
+    Found found{Kind::start, 0}; // the block's index
+    size_t size = 0;
+    Register<bytes> best = repeated<bytes>(Kind::start);
+
+    bool over() const { return found.value == Kind::last; }
+    void add(Register<bytes> here, size_t begin, size_t end)
+    {
+        if (equal(Kind::best(here, best), best) == static_cast<u32>((u64{1} << bytes) - 1)) return;
         found = {best_lane<Kind>(here), begin};
         size = end - begin;
         best = repeated<bytes>(found.value);
     }
-    if constexpr (indexed)
-        if (size) found.index += place_of<bytes>(found.value, p + found.index, size);
-    return found;
+    Found place(const u8* p) const
+    {
+        const size_t inside = size ? place_of<bytes>(found.value, p + found.index, size) : 0;
+        return {found.value, found.index + inside};
+    }
+};
+
+// Where the block from begin on ends; blocks begin at multiples of a vector, the last one is up to twice as long.
+template <int bytes> inline size_t block_end(const u8* p, size_t begin, size_t n)
+{
+    constexpr size_t block = blockVectors * bytes;
+    return n - begin < 2 * block ? n : begin + block - (begin ? 0 : reinterpret_cast<uintptr_t>(p) % bytes);
+}
+
+// As long as there may be something better; n >= bytes.
+template <class Kind, int bytes> inline void search(Search<Kind, bytes>& s, const u8* p, size_t begin, size_t n)
+{
+    for (size_t end; begin < n && !s.over(); begin = end) {
+        end = block_end<bytes>(p, begin, n);
+        s.add(best_of<Kind, bytes>(p + begin, end - begin), begin, end);
+    }
+}
+template <class Kind, int bytes, bool indexed> inline Found extreme_of(const u8* p, size_t n)
+{
+    Search<Kind, bytes> s;
+    search(s, p, 0, n);
+    return indexed ? s.place(p) : s.found;
 }
 
 template <class Kind, bool indexed> [[gnu::noinline]] Found extreme(const u8* p, u32 n)
@@ -152,7 +189,55 @@ template <class Kind, bool indexed> [[gnu::noinline]] Found extreme(const u8* p,
     return plain_extreme<Kind>(p, n);
 }
 
-// Eight sums of eight bytes each or more a step. What is left over goes in eights and one by one.
+// Both in one pass, until one of them is certain. n >= bytes.
+template <int bytes, bool indexed> inline Both extremes_of(const u8* p, size_t n)
+{
+    Search<Smallest, bytes> low;
+    Search<Largest, bytes> high;
+    size_t begin = 0;
+    for (size_t end; begin < n && !low.over() && !high.over(); begin = end) {
+        end = block_end<bytes>(p, begin, n);
+        const auto last = at<bytes>(p + (end - bytes));
+        auto low0 = last, low1 = last, high0 = last, high1 = last;
+        size_t i = begin;
+        for (; end - i >= 4 * bytes; i += 4 * bytes) {
+            fetch_ahead<bytes>(p + i);
+            const auto a = at<bytes>(p + i), b = at<bytes>(p + i + bytes);
+            const auto c = at<bytes>(p + i + 2 * bytes), d = at<bytes>(p + i + 3 * bytes);
+            low0 = smaller(smaller(low0, a), c);
+            low1 = smaller(smaller(low1, b), d);
+            high0 = larger(larger(high0, a), c);
+            high1 = larger(larger(high1, b), d);
+        }
+        for (; end - i >= bytes; i += bytes) {
+            low0 = smaller(low0, at<bytes>(p + i));
+            high0 = larger(high0, at<bytes>(p + i));
+        }
+        low.add(smaller(low0, low1), begin, end);
+        high.add(larger(high0, high1), begin, end);
+    }
+    search(low, p, begin, n);
+    search(high, p, begin, n);
+    return indexed ? Both{low.place(p), high.place(p)} : Both{low.found, high.found};
+}
+template <bool indexed> [[gnu::noinline]] Both extremes(const u8* p, u32 n)
+{
+    if (n >= vectorBytes) return extremes_of<vectorBytes, indexed>(p, n);
+    return {extreme<Smallest, indexed>(p, n), extreme<Largest, indexed>(p, n)};
+}
+
+#if SIG5D_LEVEL >= 5
+inline __m256i neighbours(__m256i x) { return _mm256_maddubs_epi16(x, _mm256_set1_epi8(1)); }
+// Of numbers of 16 bits without a sign bit: their sums in lanes of 64.
+inline __m256i fours(__m256i x)
+{
+    x = _mm256_madd_epi16(x, _mm256_set1_epi16(1));
+    return (x & 0xFFFFFFFF) + (x >> 32);
+}
+#endif
+
+// Sums of eight bytes in lanes of 64 bits; every second vector's, where there is an instruction for it, of neighbours
+// first: the one for eight runs at one place of the processor only. What is left over goes in eights and one by one.
 [[gnu::noinline]] u32 sum_of(const u8* p, u32 len)
 {
     constexpr int bytes = vectorBytes;
@@ -166,19 +251,39 @@ template <class Kind, bool indexed> [[gnu::noinline]] Found extreme(const u8* p,
         p += skip;
         n -= skip;
     }
-    V s0{}, s1{}, s2{}, s3{};
+    V s0{}, s1{};
+#if SIG5D_LEVEL >= 5
+    while (n >= 4 * bytes) {
+        auto pairs0 = splat<u16>(0), pairs1 = pairs0;
+        const size_t steps = n < 256 * bytes ? n / (4 * bytes) : 64; // 64*(255 + 255) < 32768
+        n -= steps * 4 * bytes;
+        for (const u8* const end = p + steps * 4 * bytes; p < end; p += 4 * bytes) {
+            fetch_ahead<bytes>(p);
+            s0 += distances(at<bytes>(p), zero);
+            s1 += distances(at<bytes>(p + bytes), zero);
+            pairs0 += reinterpret_cast<Vec<u16>>(neighbours(at<bytes>(p + 2 * bytes)));
+            pairs1 += reinterpret_cast<Vec<u16>>(neighbours(at<bytes>(p + 3 * bytes)));
+        }
+        s0 += fours(reinterpret_cast<V>(pairs0));
+        s1 += fours(reinterpret_cast<V>(pairs1));
+    }
+#else
+    V s2{}, s3{};
     for (; n >= 4 * bytes; n -= 4 * bytes, p += 4 * bytes) {
         s0 += distances(at<bytes>(p), zero);
         s1 += distances(at<bytes>(p + bytes), zero);
         s2 += distances(at<bytes>(p + 2 * bytes), zero);
         s3 += distances(at<bytes>(p + 3 * bytes), zero);
     }
+    s0 += s2;
+    s1 += s3;
+#endif
     for (; n >= bytes; n -= bytes, p += bytes) s0 += distances(at<bytes>(p), zero);
     for (; n >= 8; n -= 8, p += 8) {
         const __m128i eight = _mm_sad_epu8(reinterpret_cast<__m128i>(load_part<8>(p)), __m128i{});
         total += static_cast<u32>(_mm_cvtsi128_si32(eight));
     }
-    const auto lanes = reinterpret_cast<Vec<u32, bytes / 4>>((s0 + s1) + (s2 + s3));
+    const auto lanes = reinterpret_cast<Vec<u32, bytes / 4>>(s0 + s1);
     for (int i = 0; i < bytes / 4; i += 2) total += lanes[i];
     return total + plain_sum(p, n);
 }
@@ -189,9 +294,9 @@ void maximum(const u8* a, u32 n, u8* max) { *max = extreme<Largest, false>(a, n)
 void minimum(const u8* a, u32 n, u8* min) { *min = extreme<Smallest, false>(a, n).value; }
 void extremes(const u8* a, u32 n, u8* min, u8* max)
 {
-    const u8 low = extreme<Smallest, false>(a, n).value;
-    *max = extreme<Largest, false>(a, n).value;
-    *min = low;
+    const Both found = extremes<false>(a, n);
+    *min = found.smallest.value;
+    *max = found.largest.value;
 }
 void maximum(const u8* a, u32 n, u8* max, i32* index)
 {
@@ -207,11 +312,11 @@ void minimum(const u8* a, u32 n, u8* min, i32* index)
 }
 void extremes(const u8* a, u32 n, u8* min, i32* minIndex, u8* max, i32* maxIndex)
 {
-    const Found low = extreme<Smallest, true>(a, n), high = extreme<Largest, true>(a, n);
-    *min = low.value;
-    *minIndex = static_cast<i32>(low.index);
-    *max = high.value;
-    *maxIndex = static_cast<i32>(high.index);
+    const Both found = extremes<true>(a, n);
+    *min = found.smallest.value;
+    *minIndex = static_cast<i32>(found.smallest.index);
+    *max = found.largest.value;
+    *maxIndex = static_cast<i32>(found.largest.index);
 }
 void total(const u8* a, u32 n, i32* sum) { *sum = static_cast<i32>(sum_of(a, n)); }
 

@@ -1,6 +1,7 @@
 // Running sums of unsigned integers in vectors: d[i] = a[i] + d[i-lag] for lag <= i < n, where d[0] to d[lag-1] hold
 // their values. The destination must not begin inside the source.
 #pragma once
+#include "kernel/shuffle.h"
 #include "kernel/vec.h"
 #if SIG5D_LEVEL > 0
 #include <immintrin.h>
@@ -17,49 +18,89 @@ template <int bytes, class T> void sum_vectors(size_t n, const T* a, T* d, size_
     for (; i < n; ++i) d[i] = static_cast<T>(a[i] + d[i - lag]);
 }
 
-// Towards higher elements, within 16 bytes.
-template <int bytes, class V> inline V shifted_up(V v)
+// The elements so many bytes before those of v, where "before" are the ones before v.
+template <int bytes, class V> inline V moved(V before, V v)
 {
 #if SIG5D_LEVEL >= 5
-    if constexpr (sizeof(V) == 32) return reinterpret_cast<V>(_mm256_slli_si256(reinterpret_cast<__m256i>(v), bytes));
-#endif
-    if constexpr (sizeof(V) == 16) return reinterpret_cast<V>(_mm_slli_si128(reinterpret_cast<__m128i>(v), bytes));
-}
-
-// Running sums within each 16 bytes.
-template <class T, int step = sizeof(T)> inline Vec<T> summed(Vec<T> v)
-{
-    if constexpr (step == 16)
-        return v;
+    const auto high = reinterpret_cast<__m256i>(v);
+    const auto middle = _mm256_permute2x128_si256(reinterpret_cast<__m256i>(before), high, 0x21);
+    if constexpr (bytes == 16)
+        return reinterpret_cast<V>(middle);
+    else if constexpr (bytes == 8)
+        return shuffled<5>(reinterpret_cast<V>(middle), v);
     else
-        return summed<T, 2 * step>(v + shifted_up<step>(v));
+        return reinterpret_cast<V>(_mm256_alignr_epi8(high, middle, 16 - bytes));
+#else
+    const auto low = reinterpret_cast<__m128i>(before), high = reinterpret_cast<__m128i>(v);
+    if constexpr (bytes == 8) return shuffled<1>(before, v);
+#if SIG5D_LEVEL >= 2
+    return reinterpret_cast<V>(_mm_alignr_epi8(high, low, 16 - bytes));
+#else
+    return reinterpret_cast<V>(_mm_or_si128(_mm_srli_si128(low, 16 - bytes), _mm_slli_si128(high, bytes)));
+#endif
+#endif
 }
 
-template <class V, int... i> inline V last_of_16(V v, std::integer_sequence<int, i...>)
-{
-    constexpr int L = 16 / sizeof(v[0]);
-    return __builtin_shufflevector(v, v, (i | (L - 1))...);
-}
+// Makes, of the sums of the last elements, so many bytes of them, those of a whole vector's: each time of twice as
+// many.
+template <class T, int bytes> struct Windows {
+    Vec<T> before{};
+    Windows<T, 2 * bytes> wider;
 
-// Lag 1. The sum of everything before a vector depends on the one before it by additions alone.
+    Vec<T> operator()(Vec<T> v)
+    {
+        const Vec<T> sums = v + moved<bytes>(before, v);
+        before = v;
+        return wider(sums);
+    }
+};
+template <class T> struct Windows<T, vectorBytes> {
+    Vec<T> operator()(Vec<T> v) { return v; }
+};
+
+// Lag 1. Each sum is that of a whole vector before it and the elements since: one addition from vector to vector. The
+// elements just before a vector are loaded, the other ones shuffled; always before the sums are stored, in place over
+// them.
 template <class T> void prefix_sum(size_t n, const T* a, T* d)
 {
     constexpr size_t L = lanes<T>;
-    Vec<T> before{};
-    size_t i = 0;
-    for (; i + L <= n; i += L) {
-        Vec<T> sums = summed<T>(load(a + i));
-        Vec<T> total = last_of_16(sums, std::make_integer_sequence<int, L>{});
-#if SIG5D_LEVEL >= 5
-        const auto halves = reinterpret_cast<__m256i>(total);
-        sums += reinterpret_cast<Vec<T>>(_mm256_permute2x128_si256(halves, halves, 0x08)); // the lower half's total
-        total += reinterpret_cast<Vec<T>>(_mm256_permute2x128_si256(halves, halves, 0x01));
-#endif
-        store(d + i, sums + before);
-        before += total;
+    constexpr bool four = sizeof(T) == 1;
+    const auto last_ones = [](const T* p) {
+        const Vec<T> two = load(p) + load(p - 1);
+        if constexpr (four)
+            return two + (load(p - 2) + load(p - 3));
+        else
+            return two;
+    };
+    u32 sum = 0;
+    if (n >= L) {
+        const Vec<T> none{};
+        Vec<T> last = load(a);
+        last += moved<sizeof(T)>(none, last);
+        if constexpr (four) last += moved<2>(none, last);
+        Windows<T, (four ? 4 : 2) * sizeof(T)> windows;
+        Vec<T> sums{};
+        const auto step = [&] {
+            const Vec<T> next = last_ones(a += L);
+            sums += windows(last);
+            store(d, sums);
+            d += L;
+            last = next;
+        };
+        for (; n >= 3 * L; n -= 2 * L) {
+            _mm_prefetch(a + 512 / sizeof(T), _MM_HINT_T0); // of every line: loads across two wait longer for both
+            step();
+            step();
+        }
+        for (; n >= 2 * L; n -= L) step();
+        sums += windows(last);
+        store(d, sums);
+        n -= L;
+        a += L;
+        d += L;
+        sum = sums[L - 1];
     }
-    T sum = before[0];
-    for (; i < n; ++i) d[i] = sum = static_cast<T>(sum + a[i]);
+    for (size_t i = 0; i < n; ++i) d[i] = static_cast<T>(sum += a[i]);
 }
 
 #if SIG5D_LEVEL >= 2
