@@ -33,5 +33,20 @@ inline bool apart(const void* p, const void* q, size_t bytes)
     return a - b >= bytes && b - a >= bytes;
 }
 
+// An array that no cache holds is walked in three sections side by side, this many bytes of each in turn: memory
+// delivers several streams faster than one.
+constexpr size_t sections = 3, bytesInTurn = 512;
+
+// Calls step(i), for pieces of `turn` elements from index i on, until fewer than three pieces are left. Returns how
+// many elements that took, from the beginning on.
+template <class Step> inline size_t in_sections(size_t n, size_t turn, Step step)
+{
+    const size_t section = n / sections / turn * turn;
+    for (size_t i = 0; i < section; i += turn)
+#pragma GCC unroll 1
+        for (size_t k = 0; k < sections; ++k) step(i + k * section);
+    return sections * section;
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT
