@@ -66,19 +66,19 @@ template <class F, class V> inline V with_sign_of(V y, F magnitude)
 }
 
 // Where the processor rounds to the nearest. F: type of the numbers and of the computation. Whatever does not fit
-// becomes -2^31 in the conversion, also NaN: narrowing with saturation makes the lower limit of it, and nothing needs
-// to be done but for the upper one.
-template <class F, class Bounds, Rounding mode> struct Rounded {
-    F factor;
+// becomes -2^31 in the conversion, also NaN: narrowing with saturation makes the lower limit of it, so that only the
+// upper one takes an instruction. No saturation narrows to 24 bits, nor before SSE4.1 to 16 unsigned ones.
+template <class F, class Bounds, Rounding mode, bool scaled = true> struct Rounded {
+    F factor; // 1 unless "scaled"
 
-    // Narrowing does not saturate: to 24 bits, and before SSE4.1 to 16 unsigned ones.
-    static constexpr bool narrows = Bounds::high - Bounds::low > 65535 && Bounds::high < 0x1p30;
-    static constexpr bool needsLow = narrows || (SIG5D_LEVEL < 3 && Bounds::high == 65535);
+    static constexpr f64 range = Bounds::high - Bounds::low;
+    static constexpr bool saturates = range <= 65535 ? SIG5D_LEVEL >= 3 || Bounds::high < 65535 : range > 0x1p30;
 
     template <class V> auto lanes_of(V x) const
     {
         constexpr int n = sizeof(V) / sizeof(F);
-        V y = x * factor;
+        V y = x;
+        if constexpr (scaled) y *= factor;
         if constexpr (mode == NearestAway) y = y + with_sign_of(y, belowHalf<F>);
         const auto whole = [](V z) {
             if constexpr (mode == NearestEven)
@@ -87,10 +87,10 @@ template <class F, class Bounds, Rounding mode> struct Rounded {
                 return truncated(z);
         };
         if constexpr (sizeof(F) == 4 && Bounds::high > 0x1p30) {
-            const auto integers = whole(y); // single precision has no 2^31 - 1
-            return integers ^ reinterpret_cast<decltype(whole(y))>(y >= splatn<n>(F(0x1p31)));
+            const auto beyond = y >= splatn<n>(F(0x1p31)); // single precision has no 2^31 - 1
+            return whole(y) ^ reinterpret_cast<decltype(whole(y))>(beyond);
         } else {
-            if constexpr (needsLow) y = larger(y, splatn<n>(static_cast<F>(Bounds::low)));
+            if constexpr (!saturates) y = larger(y, splatn<n>(static_cast<F>(Bounds::low)));
             return whole(smaller(splatn<n>(static_cast<F>(Bounds::high)), y));
         }
     }

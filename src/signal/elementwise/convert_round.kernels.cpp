@@ -24,11 +24,11 @@ template <class D, class Integers> struct Narrow {
     }
 };
 
-template <Rounding mode, class S, class D> void convert_vectors(const S* a, D* d, int n, f64 factor)
+template <Rounding mode, bool scaled, class S, class D> void convert_vectors(const S* a, D* d, int n, f64 factor)
 {
     // Doubles become integers in 16 bytes: to join those to longer vectors takes more than to store them.
     constexpr int bytes = sizeof(S) == 8 ? 16 : vectorBytes;
-    using Integers = Rounded<S, LimitsOf<D>, mode>;
+    using Integers = Rounded<S, LimitsOf<D>, mode, scaled>;
     convert_compact<bytes>(static_cast<size_t>(n), a, d, Narrow<D, Integers>{{static_cast<S>(factor)}});
 }
 
@@ -40,9 +40,14 @@ template <class S, class D> [[gnu::noinline]] void convert(const S* a, D* d, int
     // Products in the precision of the source are exact, or on the way to zero or to a limit.
     const Scale scale(s, sizeof(S) == 4 ? 126 : 1022);
     if (scale.simple() && rounds_to_nearest()) {
-        if (mode == TowardZero) return convert_vectors<TowardZero>(a, d, n, scale.first);
-        if (mode == NearestEven) return convert_vectors<NearestEven>(a, d, n, scale.first);
-        return convert_vectors<NearestAway>(a, d, n, scale.first);
+        const f64 factor = scale.first;
+        if (s == 0 && n >= 64) { // for long arrays only, which saves code
+            if (mode == TowardZero) return convert_vectors<TowardZero, false>(a, d, n, factor);
+            if (mode == NearestEven) return convert_vectors<NearestEven, false>(a, d, n, factor);
+        }
+        if (mode == TowardZero) return convert_vectors<TowardZero, true>(a, d, n, factor);
+        if (mode == NearestEven) return convert_vectors<NearestEven, true>(a, d, n, factor);
+        return convert_vectors<NearestAway, true>(a, d, n, factor);
     }
 #endif
     convert_plain(a, d, n, mode, Scale(s));
