@@ -65,7 +65,8 @@ template <int L, class D, class S, class Op, class Store>
 template <int bytes = vectorBytes, class D, class S, class Op>
 [[gnu::always_inline]] inline void convert_compact(size_t n, const S* a, D* d, Op op)
 {
-    constexpr size_t L = bytes / sizeof(D), turn = bytesInTurn / sizeof(D);
+    constexpr size_t L = bytes / sizeof(D), turn = bytesInTurn / sizeof(S);
+    static_assert(turn % (2 * L) == 0 && turn * sizeof(D) % 64 == 0);
     const auto convert_vector = [op](const S* p, D* q) { put(q, Vec<D, L>(op.template to<L>(p))); };
     if (n < L) return map_short<bytes / 2>(n, d, Same{}, Converted<D, S, Op>{op, a});
     convert_vector(a + (n - L), d + (n - L));
