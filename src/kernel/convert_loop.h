@@ -51,6 +51,7 @@ template <class D, class S, class Op> [[gnu::always_inline]] inline void convert
 template <int L, class D, class S, class Op, class Store>
 [[gnu::always_inline]] inline size_t convert_pairs(size_t n, const S*& a, D*& d, Op op, Store write)
 {
+#pragma GCC unroll 1
     for (; n >= 2 * L; n -= 2 * L) {
         const Vec<D, L> v0 = op.template to<L>(a), v1 = op.template to<L>(a + L);
         write(d, v0);
