@@ -78,7 +78,7 @@ template <int bytes = vectorBytes, class D, class S, class Op>
     d += skip;
     n -= skip;
     if (streamingPays(n * sizeof(D)) && aligned(d, bytes)) {
-        for (; !aligned(d, 64); a += L, d += L, n -= L) convert_vector(a, d); // in turns of whole cache lines
+        for (; n >= L && !aligned(d, 64); a += L, d += L, n -= L) convert_vector(a, d); // in turns of whole lines
         const size_t done = in_sections(n, turn, [=](size_t i) {
             const S* p = a + i;
             D* q = d + i;
