@@ -1,6 +1,6 @@
 // Reversal of the bytes of each element.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "kernel/compact_loop.h"
 #include <utility>
 
 namespace sig5d::SIG5D_VARIANT {
@@ -117,7 +117,7 @@ template <int k> inline Bytes chosen(Bytes behind, Bytes here, Bytes before)
 }
 inline Group swapped_group(const u8* p)
 {
-    const Bytes x0 = loadn<L>(p), x1 = loadn<L>(p + L), x2 = loadn<L>(p + 2 * L);
+    const Bytes x0 = held(loadn<L>(p)), x1 = held(loadn<L>(p + L)), x2 = held(loadn<L>(p + 2 * L));
     // Nothing outside the group: in place that would wait for the store just before.
     const Bytes before = reinterpret_cast<Bytes>(_mm_slli_si128(reinterpret_cast<__m128i>(x0), 2));
     const Bytes behind = reinterpret_cast<Bytes>(_mm_srli_si128(reinterpret_cast<__m128i>(x2), 2));
@@ -169,7 +169,7 @@ template <int k, size_t... j> inline Bytes swapped_vector(Bytes here, Bytes othe
 }
 inline Group swapped_group(const u8* p)
 {
-    const Bytes x0 = loadn<L>(p), x1 = loadn<L>(p + L), x2 = loadn<L>(p + 2 * L);
+    const Bytes x0 = held(loadn<L>(p)), x1 = held(loadn<L>(p + L)), x2 = held(loadn<L>(p + 2 * L));
     const Group other = neighbours(x0, x1, x2);
     constexpr auto all = std::make_index_sequence<L>{};
     return {swapped_vector<0>(x0, other.v[0], all), swapped_vector<1>(x1, other.v[1], all),
