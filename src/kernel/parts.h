@@ -189,16 +189,14 @@ inline size_t map_pairs(size_t n, Write write, D& d, Op op, A&... a)
     return n;
 }
 
-// The same past the caches, for arrays that have nothing in common.
-template <class D, class Op, class... A> inline size_t map_streaming(size_t n, D& d, Op op, A&... a)
+// The same past the caches, for arrays that have nothing in common. Returns how many numbers, from the first on.
+template <class D, class Op, class... A> inline size_t map_streaming(size_t n, D d, Op op, A... a)
 {
     constexpr size_t turn = bytesInTurn / sizeof(f64);
     const auto piece = [op](D to, A... from) { map_pairs(turn, PastCaches{}, to, op, from...); };
     const size_t done = in_sections(n, turn, [&](size_t i) { piece(d + i, a + i...); });
     stream_end();
-    d += done;
-    (void(a += done), ...);
-    return n - done;
+    return done;
 }
 
 // d[i] = op(a[i], ...) for 0 <= i < n. A source may be d itself. As in map, the first and the last vector overlap the
@@ -215,14 +213,20 @@ template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_
         d += skip;
         (void(a += skip), ...);
         size_t left = n - skip;
-        const auto map_vector = [&] {
+        const auto map_vector = [&]() __attribute__((always_inline))
+        {
             store_numbers(Ordinary{}, d, op(loadn<L>(a)...));
             d += L;
             (void(a += L), ...);
             left -= L;
         };
         while (left > L && !at_line(d)) map_vector();
-        if (streaming) left = map_streaming(left, d, op, a...);
+        if (streaming) {
+            const size_t done = map_streaming(left, d, op, a...);
+            d += done;
+            (void(a += done), ...);
+            left -= done;
+        }
         left = map_pairs(left, Ordinary{}, d, op, a...);
         while (left > L) map_vector();
     }
