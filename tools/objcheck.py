@@ -23,9 +23,10 @@ SSE4 = (
     "pinsr[bdq] pmax(sb|sd|ud|uw) pmin(sb|sd|ud|uw) pmov[sz]x\\w+ pmuldq pmulld ptest rounds?[psd]+ crc32\\w? "
     "pcmp[ei]str[im] pcmpgtq popcnt\\w?"
 )
+# With the half-precision conversions, a feature of its own that every processor with AVX2 has.
 AVX2_ONLY = (
     "vbroadcasti128 vextracti128 vinserti128 vpblendd vpbroadcast[bwdq] vperm(2i128|d|ps|q|pd) vp?gather\\w+ "
-    "vps[rl]l?[al]?v[dq] vpmaskmov[dq]"
+    "vps[rl]l?[al]?v[dq] vpmaskmov[dq] vcvtph2ps vcvtps2ph"
 )
 NEVER = (
     "vfn?m(add|sub|addsub|subadd)\\w+ andn bextr bls(i|r|msk) [lt]zcnt\\w? (sar|shl|shr)x mulx pdep pext rorx bzhi "

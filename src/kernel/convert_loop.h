@@ -24,7 +24,7 @@ template <class D, class S, class Op> inline void convert_all(size_t n, const S*
 {
     map(n, d, Same{}, Converted<D, S, Op>{op, a});
 }
-template <class D, class S, class Op> inline void convert_compact(size_t n, const S* a, D* d, Op op)
+template <int bytes = 0, class D, class S, class Op> inline void convert_compact(size_t n, const S* a, D* d, Op op)
 {
     convert_all(n, a, d, op);
 }
@@ -46,14 +46,14 @@ template <class D, class S, class Op> [[gnu::always_inline]] inline void convert
     map(n, d, Same{}, Converted<D, S, Op>{op, a});
 }
 
-// The same for conversions of many instructions: pairs of vectors, so that less code is made of them. The arrays have
-// no element in common.
-template <class D, class S, class Op, class Store>
+// The same for conversions of many instructions: pairs of vectors, so that less code is made of them, of so many bytes.
+// The arrays have no element in common.
+template <int L, class D, class S, class Op, class Store>
 [[gnu::always_inline]] inline size_t convert_pairs(size_t n, const S*& a, D*& d, Op op, Store write)
 {
-    constexpr int L = lanes<D>;
+#pragma GCC unroll 1
     for (; n >= 2 * L; n -= 2 * L) {
-        const Vec<D> v0 = op.template to<L>(a), v1 = op.template to<L>(a + L);
+        const Vec<D, L> v0 = op.template to<L>(a), v1 = op.template to<L>(a + L);
         write(d, v0);
         write(d + L, v1);
         a += 2 * L;
@@ -62,27 +62,35 @@ template <class D, class S, class Op, class Store>
     }
     return n;
 }
-template <class D, class S, class Op>
+
+template <int bytes = vectorBytes, class D, class S, class Op>
 [[gnu::always_inline]] inline void convert_compact(size_t n, const S* a, D* d, Op op)
 {
-    constexpr size_t L = lanes<D>;
-    if (n < L) return map_short<vectorBytes / 2>(n, d, Same{}, Converted<D, S, Op>{op, a});
-    put(d + (n - L), op.template to<L>(a + (n - L)));
-    if (n > L) {
-        put(d, op.template to<L>(a));
-        const size_t skip = misalignment(d);
-        const bool streaming = streamingPays(n * sizeof(D)) && aligned(d + skip, vectorBytes);
-        a += skip;
-        d += skip;
-        n -= skip;
-        if (streaming) {
-            n = convert_pairs(n, a, d, op, [](D* p, auto v) { stream(p, v); });
-            stream_end();
-        } else {
-            n = convert_pairs(n, a, d, op, [](D* p, auto v) { put(p, v); });
-        }
-        if (n >= L) put(d, op.template to<L>(a));
+    constexpr size_t L = bytes / sizeof(D), turn = bytesInTurn / sizeof(S);
+    static_assert(turn % (2 * L) == 0 && turn * sizeof(D) % 64 == 0);
+    const auto convert_vector = [op](const S* p, D* q) { put(q, Vec<D, L>(op.template to<L>(p))); };
+    if (n < L) return map_short<bytes / 2>(n, d, Same{}, Converted<D, S, Op>{op, a});
+    convert_vector(a + (n - L), d + (n - L));
+    if (n == L) return;
+    convert_vector(a, d);
+    const size_t skip = -reinterpret_cast<uintptr_t>(d) % bytes / sizeof(D);
+    a += skip;
+    d += skip;
+    n -= skip;
+    if (streamingPays(n * sizeof(D)) && aligned(d, bytes)) {
+        for (; n >= L && !aligned(d, 64); a += L, d += L, n -= L) convert_vector(a, d); // in turns of whole lines
+        const size_t done = in_sections(n, turn, [=](size_t i) {
+            const S* p = a + i;
+            D* q = d + i;
+            convert_pairs<L>(turn, p, q, op, [](D* to, auto v) { stream(to, v); });
+        });
+        stream_end();
+        a += done;
+        d += done;
+        n -= done;
     }
+    n = convert_pairs<L>(n, a, d, op, [](D* to, auto v) { put(to, v); });
+    if (n >= L) convert_vector(a, d);
 }
 
 #endif

@@ -105,13 +105,20 @@ struct PastCaches {
     template <class V> void operator()(f64* d, V v) const { stream(d, v); }
 };
 
-// Numbers up to the next address where vectors are aligned; 0 also where they never are.
-inline size_t unaligned_numbers(const f64* d) { return misalignment(d); }
-inline size_t unaligned_numbers(TwoArrays d) { return misalignment(d.re); }
-template <bool folds> inline size_t unaligned_numbers(ComplexArray<c64f, folds> d)
+// Bytes of a number at one place, and where the first one lies.
+template <class D> constexpr size_t numberBytes = sizeof(f64);
+template <class T, bool folds> constexpr size_t numberBytes<ComplexArray<T, folds>> = sizeof(c64f);
+inline uintptr_t address(const f64* d) { return reinterpret_cast<uintptr_t>(d); }
+inline uintptr_t address(TwoArrays d) { return reinterpret_cast<uintptr_t>(d.re); }
+template <bool folds> inline uintptr_t address(ComplexArray<c64f, folds> d) { return reinterpret_cast<uintptr_t>(d.p); }
+
+// Numbers up to the next address where as many as a vector holds are aligned; 0 also where they never are.
+template <class D> inline size_t unaligned_numbers(D d)
 {
-    return misalignment(&d.p->re) / 2;
+    return -address(d) % (lanes<f64> * numberBytes<D>) / numberBytes<D>;
 }
+// They begin a cache line.
+template <class D> inline bool at_line(D d) { return address(d) % 64 < lanes<f64> * numberBytes<D>; }
 
 // The bytes of n numbers.
 struct Span {
@@ -154,19 +161,42 @@ template <int L, class D, class Op, class... A> inline void map_few(size_t n, D 
     }
 }
 
+// Two vectors of numbers: not in turn to two arrays, since processors join stores that follow one another to a line.
+template <class Write, class D, class V> inline void store_two(Write write, D d, V v0, V v1)
+{
+    store_numbers(write, d, v0);
+    store_numbers(write, d + lanes<f64>, v1);
+}
+template <class Write, class V> inline void store_two(Write write, TwoArrays d, Parts<V> v0, Parts<V> v1)
+{
+    store_two(write, d.re, v0.re, v1.re);
+    keep(d.im);
+    store_two(write, d.im, v0.im, v1.im);
+}
+
 // As many pairs of vectors as there are. Returns the numbers that are left.
 template <class Write, class D, class Op, class... A>
 inline size_t map_pairs(size_t n, Write write, D& d, Op op, A&... a)
 {
     constexpr size_t L = lanes<f64>;
+#pragma GCC unroll 1
     for (; n >= 2 * L; n -= 2 * L) {
         const auto v0 = op(loadn<L>(a)...), v1 = op(loadn<L>(a + L)...);
-        store_numbers(write, d, v0);
-        store_numbers(write, d + L, v1);
+        store_two(write, d, v0, v1);
         d += 2 * L;
         (void(a += 2 * L), ...);
     }
     return n;
+}
+
+// The same past the caches, for arrays that have nothing in common. Returns how many numbers, from the first on.
+template <class D, class Op, class... A> inline size_t map_streaming(size_t n, D d, Op op, A... a)
+{
+    constexpr size_t turn = bytesInTurn / sizeof(f64);
+    const auto piece = [op](D to, A... from) { map_pairs(turn, PastCaches{}, to, op, from...); };
+    const size_t done = in_sections(n, turn, [&](size_t i) { piece(d + i, a + i...); });
+    stream_end();
+    return done;
 }
 
 // d[i] = op(a[i], ...) for 0 <= i < n. A source may be d itself. As in map, the first and the last vector overlap the
@@ -183,17 +213,22 @@ template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_
         d += skip;
         (void(a += skip), ...);
         size_t left = n - skip;
-        if (streaming) {
-            left = map_pairs(left, PastCaches{}, d, op, a...);
-            stream_end();
-        } else {
-            left = map_pairs(left, Ordinary{}, d, op, a...);
-        }
-        for (; left > L; left -= L) {
+        const auto map_vector = [&]() __attribute__((always_inline))
+        {
             store_numbers(Ordinary{}, d, op(loadn<L>(a)...));
             d += L;
             (void(a += L), ...);
+            left -= L;
+        };
+        while (left > L && !at_line(d)) map_vector();
+        if (streaming) {
+            const size_t done = map_streaming(left, d, op, a...);
+            d += done;
+            (void(a += done), ...);
+            left -= done;
         }
+        left = map_pairs(left, Ordinary{}, d, op, a...);
+        while (left > L) map_vector();
     }
     store_numbers(Ordinary{}, first, head);
     store_numbers(Ordinary{}, last, tail);

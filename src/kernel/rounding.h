@@ -56,50 +56,55 @@ inline Vec<i32, 4> joined(Vec<i32, 4> low, Vec<i32, 4> high)
 // The largest number below one half: with it, truncation of the sum rounds to the nearest, ties away from zero.
 template <class F> constexpr F belowHalf = sizeof(F) == 4 ? F(0x1.fffffep-2) : F(0x1.fffffffffffffp-2);
 
-// Where the processor rounds to the nearest. F: type of the numbers and of the computation.
-template <class F, class Bounds, bool even> struct Rounded {
-    F factor, bias; // bias: unless "even", added in magnitude before truncation
+// A magnitude with the sign of each lane.
+template <class F, class V> inline V with_sign_of(V y, F magnitude)
+{
+    using U = std::conditional_t<sizeof(F) == 4, u32, u64>;
+    constexpr int n = sizeof(V) / sizeof(F);
+    const auto sign = reinterpret_cast<Vec<U, n>>(y) & (U(1) << (8 * sizeof(F) - 1));
+    return reinterpret_cast<V>(sign | reinterpret_cast<Vec<U, n>>(splatn<n>(magnitude)));
+}
+
+// Where the processor rounds to the nearest. F: type of the numbers and of the computation. Whatever does not fit
+// becomes -2^31 in the conversion, also NaN: narrowing with saturation makes the lower limit of it, so that only the
+// upper one takes an instruction. No saturation narrows to 24 bits, nor before SSE4.1 to 16 unsigned ones.
+template <class F, class Bounds, Rounding mode, bool scaled = true> struct Rounded {
+    F factor; // 1 unless "scaled"
+
+    static constexpr f64 range = Bounds::high - Bounds::low;
+    static constexpr bool saturates = range <= 65535 ? SIG5D_LEVEL >= 3 || Bounds::high < 65535 : range > 0x1p30;
 
     template <class V> auto lanes_of(V x) const
     {
         constexpr int n = sizeof(V) / sizeof(F);
-        // The largest number that is not beyond the limit: of 2^31 - 1, single precision has only one 127 below.
-        constexpr F high = sizeof(F) == 4 && Bounds::high > 0x1p30 ? F(0x1.fffffep30) : F(Bounds::high);
-        const V low = splatn<n>(static_cast<F>(Bounds::low)), top = splatn<n>(high);
-        V y = x * factor;
-        const V unlimited = y;
-        y = smaller(larger(y, low), top); // NaN becomes the lower limit
-        if constexpr (!even) y = y + with_sign_of(y, bias);
-        auto whole = even ? nearest(y) : truncated(y);
-        if constexpr (high != Bounds::high)
-            whole |= reinterpret_cast<decltype(whole)>(reinterpret_cast<Vec<u32, n>>(unlimited > top) >>
-                                                       1); // beyond it: all bits but the sign
-        return whole;
-    }
-
-    template <class V> static V with_sign_of(V y, F magnitude)
-    {
-        using U = std::conditional_t<sizeof(F) == 4, u32, u64>;
-        constexpr int n = sizeof(V) / sizeof(F);
-        const auto sign = reinterpret_cast<Vec<U, n>>(y) & (U(1) << (8 * sizeof(F) - 1));
-        return reinterpret_cast<V>(sign | reinterpret_cast<Vec<U, n>>(splatn<n>(magnitude)));
+        V y = x;
+        if constexpr (scaled) y *= factor;
+        if constexpr (mode == NearestAway) y = y + with_sign_of(y, belowHalf<F>);
+        const auto whole = [](V z) {
+            if constexpr (mode == NearestEven)
+                return nearest(z);
+            else
+                return truncated(z);
+        };
+        if constexpr (sizeof(F) == 4 && Bounds::high > 0x1p30) {
+            const auto beyond = y >= splatn<n>(F(0x1p31)); // single precision has no 2^31 - 1
+            return whole(y) ^ reinterpret_cast<decltype(whole(y))>(beyond);
+        } else {
+            if constexpr (!saturates) y = larger(y, splatn<n>(static_cast<F>(Bounds::low)));
+            return whole(smaller(splatn<n>(static_cast<F>(Bounds::high)), y));
+        }
     }
 
     // n integers, in a register at least.
     template <int n> auto to(const f32* p) const { return lanes_of(load_lanes<n>(p)); }
     template <int n> auto to(const f64* p) const
     {
-#if SIG5D_LEVEL >= 5
-        if constexpr (n == 8)
-            return reinterpret_cast<Vec<i32, 8>>(_mm256_set_m128i(bits128(to<4>(p + 4)), bits128(to<4>(p))));
-        else
-            return lanes_of(load_lanes<n>(p));
-#else
+#if SIG5D_LEVEL < 4
         if constexpr (n == 4)
             return joined(to<2>(p), to<2>(p + 2));
         else
-            return lanes_of(load_lanes<n>(p));
 #endif
+            return lanes_of(load_lanes<n>(p));
     }
 };
 

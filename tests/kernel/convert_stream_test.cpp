@@ -1,5 +1,5 @@
-// Streaming stores of conversions and complex thresholds on short arrays, in kernels compiled for this test: the result
-// is that of ordinary stores, wherever the destination stands, and nothing beside it changes.
+// Streaming stores of conversions, byte swaps and complex thresholds on short arrays, in kernels compiled for this
+// test: the result is that of ordinary stores, wherever the destination stands, and nothing beside it changes.
 #include "frame/cache.h"
 #include "sig5d_types.h"
 #include "support/bytes.h"
@@ -16,6 +16,7 @@ BODIES(ippsConvert_32f24u_Sfs, (const Ipp32f*, Ipp8u*, int, int, int))
 BODIES(ippsConvert_24s32f, (const Ipp8u*, Ipp32f*, int))
 BODIES(ippsConvert_32f8u_Sfs, (const Ipp32f*, Ipp8u*, int, int, int))
 BODIES(ippsConvert_64f32s_Sfs, (const Ipp64f*, Ipp32s*, int, int, int))
+BODIES(ippsSwapBytes_24u, (const Ipp8u*, Ipp8u*, int))
 BODIES(ippsThreshold_LTVal_64fc, (const Ipp64fc*, Ipp64fc*, int, Ipp64f, Ipp64fc))
 
 using support::Bytes;
@@ -83,6 +84,7 @@ TEST_P(ConvertStream, IsTheSameAsOrdinary)
     expectSame(4, 4, [&](void* d, int n) {
         return PICK(ippsConvert_64f32s_Sfs)(doubles.data(), static_cast<Ipp32s*>(d), n, 1, 0);
     });
+    expectSame(3, 1, [&](void* d, int n) { return PICK(ippsSwapBytes_24u)(&bytes[1], static_cast<Ipp8u*>(d), n); });
     expectSame(16, 8, [&](void* d, int n) {
         return PICK(ippsThreshold_LTVal_64fc)(complex.data(), static_cast<Ipp64fc*>(d), n, 90, Ipp64fc{1, 2});
     });

@@ -39,7 +39,8 @@ sig5d_test(fir signal/fir_single_test.cpp signal/fir_multi_test.cpp frame/fir_ha
 foreach(width 16 32)
     set(elementwise ${CMAKE_SOURCE_DIR}/src/signal/elementwise)
     add_library(sig5d_convertstream${width} OBJECT ${elementwise}/convert_24.kernels.cpp
-                ${elementwise}/convert_round.kernels.cpp ${elementwise}/threshold_complex.kernels.cpp)
+                ${elementwise}/convert_round.kernels.cpp ${elementwise}/swap_bytes.kernels.cpp
+                ${elementwise}/threshold_complex.kernels.cpp)
     target_link_libraries(sig5d_convertstream${width} PRIVATE sig5d_product)
 endforeach()
 target_compile_definitions(sig5d_convertstream16 PRIVATE SIG5D_VARIANT=convertstream16 SIG5D_LEVEL=2)

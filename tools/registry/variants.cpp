@@ -43,7 +43,7 @@ std::vector<Variant> supported()
                                 __builtin_cpu_supports("ssse3") != 0,
                                 __builtin_cpu_supports("sse4.2") != 0,
                                 __builtin_cpu_supports("avx") != 0,
-                                __builtin_cpu_supports("avx2") != 0};
+                                __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("f16c") != 0};
             if (has[v.index]) found.push_back(v);
         }
         return found;

@@ -38,9 +38,9 @@ struct LeastFirst {
 #if SIG5D_LEVEL > 0
         template <class V> V operator()(V x, V y) const
         {
-            // This order goes on from byte to byte as in an integer: what crosses a byte inside a lane is right, and
+            // This order goes on from byte to byte as in an integer: what crosses the byte inside a lane is right, and
             // what is missing at one end of a lane is there in the other operand.
-            return shift_right<u64>(x, count) | shift_left<u64>(y, 8 - count);
+            return shift_right_16<u16>(x, count) | shift_left_16(y, 8 - count);
         }
 #endif
     };

@@ -237,10 +237,11 @@ template <class D> [[gnu::noinline]] void convert(const f32* a, D* d, int n, int
 #if SIG5D_LEVEL > 0
     const Scale scale(s, 126);
     if (scale.simple() && rounds_to_nearest()) {
-        const f32 factor = static_cast<f32>(scale.first), bias = mode == NearestAway ? belowHalf<f32> : 0;
+        const f32 factor = static_cast<f32>(scale.first);
         const size_t count = static_cast<size_t>(n);
-        if (mode == NearestEven) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, true>{factor, 0});
-        return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, false>{factor, bias});
+        if (mode == TowardZero) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, TowardZero>{factor});
+        if (mode == NearestEven) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestEven>{factor});
+        return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestAway>{factor});
     }
 #endif
     convert_plain(a, d, n, mode, Scale(s));

@@ -1,5 +1,5 @@
-// Half precision: five bits of exponent, ten of significand. By integers, so that all variants give the same bits; the
-// processor's own conversions come with AVX2 on every processor there is, but by no rule.
+// Half precision: five bits of exponent, ten of significand. By integers, or where AVX2 is by the processor's own
+// conversions, which no mode of the thread influences.
 #include "frame/entry.h"
 #include "kernel/convert_loop.h"
 #include "kernel/rounding.h"
@@ -29,7 +29,7 @@ struct FromHalf {
     }
 };
 
-#else
+#elif SIG5D_LEVEL < 5
 
 // The processor's numbers below the normal ones may be slow or switched off: half precision's come by way of a
 // difference of normal ones.
@@ -54,7 +54,70 @@ struct FromHalf {
     }
 };
 
+#else
+
+struct FromHalf {
+    template <int n> auto to(const f16* p) const
+    {
+        const __m128i h = bits128(load_part<2 * n>(reinterpret_cast<const u16*>(p)));
+        if constexpr (n == 8)
+            return _mm256_cvtph_ps(h);
+        else
+            return _mm_cvtph_ps(h);
+    }
+};
+
 #endif
+
+void convert(const f16* a, f32* d, int n) { convert_all(static_cast<size_t>(n), a, d, FromHalf{}); }
+
+#if SIG5D_LEVEL >= 5
+
+// By the processor, which knows neither ties away from zero nor an overflow to infinity when rounding toward zero.
+template <Rounding mode> struct ToHalf {
+    template <class V> static V prepared(V x)
+    {
+        using I = Vec<i32, sizeof(V) / 4>;
+        const I bits = reinterpret_cast<I>(x);
+        if constexpr (mode == NearestAway) {
+            // The last bit, far below those that stay, makes more than a tie of a tie. An infinite number would become
+            // a NaN: it is limited to what is rounded to infinity all the same.
+            const V limit = all<V>(0x1p16f), y = larger(-limit, smaller(limit, x)); // NaNs stay
+            return reinterpret_cast<V>(reinterpret_cast<I>(y) | 1);
+        } else if constexpr (mode == TowardZero) {
+            const V magnitude = reinterpret_cast<V>(bits & 0x7FFFFFFF);
+            const I beyond = magnitude >= all<V>(0x1p16f);
+            return reinterpret_cast<V>((bits & ~(beyond & 0x007FFFFF)) | (beyond & static_cast<i32>(singleInfinity)));
+        } else {
+            return x;
+        }
+    }
+
+    template <int n> auto to(const f32* p) const
+    {
+        constexpr int direction = mode == TowardZero ? _MM_FROUND_TO_ZERO : _MM_FROUND_TO_NEAREST_INT;
+        if constexpr (n == 16)
+            return reinterpret_cast<Vec<i16, 16>>(_mm256_set_m128i(bits128(to<8>(p + 8)), bits128(to<8>(p))));
+        else if constexpr (n == 8)
+            return reinterpret_cast<Vec<i16, 8>>(_mm256_cvtps_ph(prepared(loadn<8>(p)), direction));
+        else
+            return reinterpret_cast<Vec<i16, 8>>(_mm_cvtps_ph(prepared(load_lanes<n>(p)), direction));
+    }
+};
+
+template <Rounding mode> void to_half(const f32* a, f16* d, int n)
+{
+    convert_compact(static_cast<size_t>(n), a, reinterpret_cast<i16*>(d), ToHalf<mode>{});
+}
+
+void convert(const f32* a, f16* d, int n, int mode)
+{
+    if (mode == TowardZero) return to_half<TowardZero>(a, d, n);
+    if (mode == NearestEven) return to_half<NearestEven>(a, d, n);
+    to_half<NearestAway>(a, d, n);
+}
+
+#else
 
 // Single precision to half: magnitudes by their bits, as integers.
 // Normal numbers: half a unit of the last place that stays, or what the mode wants instead, is added to the bits before
@@ -120,8 +183,6 @@ template <bool even> struct ToHalf {
 
 #endif
 
-void convert(const f16* a, f32* d, int n) { convert_all(static_cast<size_t>(n), a, d, FromHalf{}); }
-
 void convert(const f32* a, f16* d, int n, int mode)
 {
 #if SIG5D_LEVEL > 0
@@ -135,6 +196,8 @@ void convert(const f32* a, f16* d, int n, int mode)
 #endif
     to_half_plain(a, d, n, mode);
 }
+
+#endif
 
 } // namespace
 #include "entries/signal/elementwise/convert_half.inc"

@@ -84,7 +84,7 @@ template <bool even> struct RoundedLong {
         if constexpr (even)
             y = integral(y, 0);
         else
-            y = integral(y + Rounded<f64, Limits<32, true>, false>::with_sign_of(y, bias));
+            y = integral(y + with_sign_of(y, bias));
         const V high = floor(y * 0x1p-32), low = y - high * 0x1p32;
         const U highBits = reinterpret_cast<U>(high + 0x1.8p52) << 32,
                 lowBits = reinterpret_cast<U>(low + 0x1p52) ^ bits52;

@@ -24,10 +24,12 @@ template <class D, class Integers> struct Narrow {
     }
 };
 
-template <bool even, class S, class D> void convert_vectors(const S* a, D* d, int n, f64 factor, S bias)
+template <Rounding mode, bool scaled, class S, class D> void convert_vectors(const S* a, D* d, int n, f64 factor)
 {
-    using Integers = Rounded<S, LimitsOf<D>, even>;
-    convert_compact(static_cast<size_t>(n), a, d, Narrow<D, Integers>{{static_cast<S>(factor), bias}});
+    // Doubles become integers in 16 bytes: to join those to longer vectors takes more than to store them.
+    constexpr int bytes = sizeof(S) == 8 ? 16 : vectorBytes;
+    using Integers = Rounded<S, LimitsOf<D>, mode, scaled>;
+    convert_compact<bytes>(static_cast<size_t>(n), a, d, Narrow<D, Integers>{{static_cast<S>(factor)}});
 }
 
 #endif
@@ -38,8 +40,14 @@ template <class S, class D> [[gnu::noinline]] void convert(const S* a, D* d, int
     // Products in the precision of the source are exact, or on the way to zero or to a limit.
     const Scale scale(s, sizeof(S) == 4 ? 126 : 1022);
     if (scale.simple() && rounds_to_nearest()) {
-        if (mode == NearestEven) return convert_vectors<true, S>(a, d, n, scale.first, 0);
-        return convert_vectors<false, S>(a, d, n, scale.first, mode == NearestAway ? belowHalf<S> : 0);
+        const f64 factor = scale.first;
+        if (s == 0 && n >= 64) { // for long arrays only, which saves code
+            if (mode == TowardZero) return convert_vectors<TowardZero, false>(a, d, n, factor);
+            if (mode == NearestEven) return convert_vectors<NearestEven, false>(a, d, n, factor);
+        }
+        if (mode == TowardZero) return convert_vectors<TowardZero, true>(a, d, n, factor);
+        if (mode == NearestEven) return convert_vectors<NearestEven, true>(a, d, n, factor);
+        return convert_vectors<NearestAway, true>(a, d, n, factor);
     }
 #endif
     convert_plain(a, d, n, mode, Scale(s));
