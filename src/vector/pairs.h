@@ -59,7 +59,9 @@ template <int L, Imaginary part> inline Vec<f64, L> loadn(Reals<part> a)
 template <int bytes, Imaginary part> inline Vec<f64, 2> load_part(Reals<part> a) { return loadn<2>(a); }
 template <Imaginary part> inline const f64* lowest(Reals<part> a, size_t) { return a.p; }
 
-inline const f64* parts_of(const c64f* a) { return &a->re; }
+// The address may be null, with no elements.
+inline const f64* parts_of(const c64f* a) { return reinterpret_cast<const f64*>(a); }
+inline f64* parts_of(c64f* d) { return reinterpret_cast<f64*>(d); }
 template <class A> inline A parts_of(A a) { return a; }
 
 #endif
@@ -75,7 +77,7 @@ template <class C, class Op, class... A> [[gnu::always_inline]] inline void map_
 #if SIG5D_LEVEL == 0
     map(n, d, op, a...);
 #else
-    map(2 * n, &d->re, OnPairs<Op>{op}, parts_of(a)...);
+    map(2 * n, parts_of(d), OnPairs<Op>{op}, parts_of(a)...);
 #endif
 }
 
