@@ -24,7 +24,9 @@ foreach(
     frame/core_count.cpp
     frame/frequency.cpp
     frame/detected.cpp
-    ${SIG5D_INTERNAL_SOURCES})
+    kernel/libm_trig.cpp
+    kernel/libm_exp.cpp
+    signal/processing/fft_plan.cpp)
     list(APPEND frame_sources ${CMAKE_SOURCE_DIR}/src/${source})
 endforeach()
 list(REMOVE_DUPLICATES frame_sources)

@@ -1,15 +1,4 @@
-# The processor variants and their flags: the only place that knows them. Each *.kernels.cpp is compiled once per body;
-# which bodies a file has stands in its source line in api/ (a variant without one uses the nearest lower).
-set(SIG5D_VARIANTS px w7 s8 p8 g9 h9)
-
-# h9 means AVX2 with the half-precision conversions, a feature of its own that every processor with AVX2 has.
-# px is the reference that every other body must equal bit for bit: the same source, compiled without vectorisation.
-set(SIG5D_FLAGS_px -fno-tree-vectorize)
-set(SIG5D_FLAGS_w7 "")
-set(SIG5D_FLAGS_s8 -mssse3)
-set(SIG5D_FLAGS_p8 -msse4.2)
-set(SIG5D_FLAGS_g9 -mavx)
-set(SIG5D_FLAGS_h9 -mavx2 -mf16c)
+# How the variants of src/variants.txt are compiled: each *.kernels.cpp once per body, with the flags of its variant.
 
 # For all code of the product. No fused multiply-add and no x87 arithmetic, so that all variants and platforms give the
 # same bits; hosts align a 32-bit stack to 4 bytes only, so that functions that need more realign it themselves. Loops

@@ -14,7 +14,11 @@ import subprocess
 import sys
 from pathlib import Path
 
-VARIANTS = ["px", "w7", "s8", "p8", "g9", "h9"]
+ROOT = Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(ROOT / "tools/apigen"))
+import variants
+
+VARIANTS = variants.read(ROOT / "src/variants.txt").names()
 
 SSE3 = "addsubp[ds] h(add|sub)p[ds] lddqu movddup movs[hl]dup"
 SSSE3 = "pabs[bwd] palignr ph(add|sub)(w|d|sw) pmaddubsw pmulhrsw pshufb psign[bwd]"

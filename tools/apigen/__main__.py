@@ -1,7 +1,9 @@
 """Writes the library's boundary from its interface description.
 
-    python3 tools/apigen --api api --out build/gen      the build tree's files
-    python3 tools/apigen --api api --committed .        include/sig5d.h and docs/reference
+    python3 tools/apigen --api api --variants src/variants.txt --out build/gen      the build tree's files
+    python3 tools/apigen --api api --variants src/variants.txt --committed .        include/sig5d.h and docs/reference
+
+A mistake in the description is told with file and line, and nothing is written.
 """
 import argparse
 from pathlib import Path
@@ -13,6 +15,7 @@ import emit_header
 import emit_link
 import emit_registry
 from parse import Parser
+from statements import Mistake
 
 
 def write(folder, files):
@@ -27,10 +30,14 @@ def write(folder, files):
 def main():
     options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     options.add_argument("--api", required=True)
+    options.add_argument("--variants", required=True)
     options.add_argument("--out")
     options.add_argument("--committed")
     given = options.parse_args()
-    api = Parser(given.api).read()
+    try:
+        api = Parser(given.api, given.variants).read()
+    except Mistake as mistake:
+        raise SystemExit(str(mistake))
     if given.out:
         files = emit_frame.frame_files(api)
         files |= emit_cpp.entries(api)

@@ -2,14 +2,6 @@
 from model import index_args
 
 BANNER = "// Generated from api/*.api; not edited.\n"
-VARIANTS = ["px", "w7", "s8", "p8", "g9", "h9"]
-
-
-def entry_prefix(function):
-    """The symbol of a body is this prefix and the function's name; @ stands for the variant."""
-    if function.bodies:
-        return "sig5d_@_"
-    return "sig5d_one_" if function.dispatched else ""
 
 
 def result_type(function):
@@ -39,10 +31,9 @@ def shell(f):
     written = f"SIG5D_ENTRY({name})" if f.bodies else (f"sig5d_one_{name}" if f.dispatched else name)
     exported = "" if f.dispatched else "SIG5D_EXPORT "
     lines = [f'extern "C" {exported}{result_type(f)} {convention(f)} {written}({parameters(f.args)})', "{"]
-    if not f.checks_in_kernel:
-        lines += [f"    if ({c.cpp()}) return Sts{c.status};" for c in f.checks]
+    lines += [f"    if ({c.cpp()}) return Sts{c.status};" for c in f.checks]
     call = f"{f.kernel}({', '.join(kernel_argument(e, f) for e in f.call)})"
-    returns_value = f.returns != "void" and (f.returns != "status" or f.warnings or f.checks_in_kernel)
+    returns_value = f.returns != "void" and (f.returns != "status" or f.warnings or f.fails or f.late)
     if returns_value:
         lines.append(f"    return {call};")
     else:
@@ -63,10 +54,10 @@ def entries(api):
     return files
 
 
-def nearest_bodies(bodies):
+def nearest_bodies(bodies, variants):
     """The body of each slot: its own, or the nearest lower one."""
     slots, last = [], bodies[0]
-    for v in VARIANTS:
+    for v in variants:
         last = v if v in bodies else last
         slots.append(last)
     return slots
@@ -75,12 +66,13 @@ def nearest_bodies(bodies):
 def dispatch(api):
     """Tables and stubs, through the macros of src/frame/stub.inc."""
     lines = ["/* Generated from the description in api/; not edited. */", '#include "frame/stub.inc"', ""]
+    variants = api.variants.names()
     for f in api.functions:
         if not f.dispatched:
             continue
         name = f.name + "_Idx" if f.index == "written" else f.name
         stdcall = str(f.bytes32()) if f.convention == "stdcall" else "-1"
-        bodies = nearest_bodies(f.bodies) if f.bodies else ["one"] * 6
+        bodies = nearest_bodies(f.bodies, variants) if f.bodies else ["one"] * len(variants)
         hidden = "HIDDEN" if f.index == "only" else "EXPORT"
         lines.append(f"DISPATCH {name}, {stdcall}, {hidden}, {', '.join(bodies)}")
         if f.index == "same":

@@ -3,9 +3,9 @@ from emit_header import prototype
 
 
 def check_list(f):
-    if not f.checks:
+    if not f.failures():
         return "Nothing is checked." if f.half == "own" else "No argument is checked."
-    steps = [f"{c.text()}: `ippSts{c.status}`" for c in f.checks]
+    steps = [f"{c.text()}: `ippSts{c.status}`" for c in f.failures()]
     return "Checked in this order: " + "; ".join(steps) + "."
 
 

@@ -1,4 +1,5 @@
 """Writes the small tables of the frame: status codes and messages, opaque records, the list of sources for the build."""
+from variants import KERNELS
 
 
 def short(name):
@@ -13,12 +14,13 @@ def frame_files(api):
         message = f"{name}: {text}" if name else text
         escaped = message.replace("\\", "\\\\").replace('"', '\\"')
         rows.append(f'{{{code}, "{escaped}"}},\n')
-    sources = ["# Generated from api/*.api: source files and the variant bodies that each is compiled for.\n"]
-    for path, (bodies, _) in api.sources.items():
-        kind = "SIG5D_KERNEL_SOURCES" if bodies else "SIG5D_PLAIN_SOURCES"
-        sources.append(f'list(APPEND {kind} "{path}")\n')
-        if bodies:
-            sources.append(f'set(SIG5D_BODIES_{path.replace("/", "_")} {" ".join(bodies)})\n')
+    sources = ["# Generated from api/*.api and src/variants.txt: source files and what each is compiled for.\n"]
+    sources += [f'list(APPEND SIG5D_PLAIN_SOURCES "{path}")\n' for path in api.sources if not path.endswith(KERNELS)]
+    sources.append(f'set(SIG5D_VARIANTS {" ".join(api.variants.names())})\n')
+    sources += [f'set(SIG5D_FLAGS_{v.name} {v.flags})\n' for v in api.variants.all]
+    for path, bodies in api.variants.bodies.items():
+        sources.append(f'list(APPEND SIG5D_KERNEL_SOURCES "{path}")\n')
+        sources.append(f'set(SIG5D_BODIES_{path.replace("/", "_")} {" ".join(bodies)})\n')
     return {
         "statuses.inc": codes,
         "status_table.inc": "".join(rows),

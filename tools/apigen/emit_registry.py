@@ -81,10 +81,13 @@ def function(f, pool, out):
     position = {a.name: i for i, a in enumerate(f.args)}
     out.append(table("Arg", f"args_{n}", [argument(a, f.args, pool, f, i, out) for i, a in enumerate(f.args)]))
     checks = []
-    for c in f.checks:
-        test = pool.add("bool", over_values(c.cpp(), f.args))
-        checks.append(f"{{Sts{c.status}, {quoted(c.text())}, {test}}}")
+    for c in f.failures():
+        if not c.when:
+            test = pool.add("bool", over_values(c.cpp(), f.args))
+            checks.append(f"{{Sts{c.status}, {quoted(c.text())}, {str(c in f.late).lower()}, {test}}}")
     out.append(table("Check", f"checks_{n}", checks))
+    told = [f"Sts{c.status}" for c in f.failures() if c.when]
+    out.append(table("int", f"failures_{n}", told))
     out.append(table("int", f"warnings_{n}", [f"Sts{w}" for w in f.warnings]))
     pairs = [f"{{{position[d]}, {position[s]}}}" for d, s in f.in_place]
     out.append(table("InPlace", f"in_place_{n}", pairs))
@@ -92,7 +95,7 @@ def function(f, pool, out):
     def listed(prefix, rows):
         return f"{prefix}_{n}, {len(rows)}" if rows else "nullptr, 0"
 
-    flags = [f.dispatched, f.checks_in_kernel, f.moves_bits]
+    flags = [f.dispatched, f.moves_bits]
     return ", ".join(
         [
             f"{{{quoted(f.name)}, {quoted(f.family)}, {quoted(f.topic)}, Half::{f.half}",
@@ -100,7 +103,8 @@ def function(f, pool, out):
             f"Result::{RESULTS.get(f.returns, 'pointer')}, IndexForm::{INDEX[f.index]}",
             ", ".join(str(x).lower() for x in flags),
             listed("args", f.args),
-            listed("checks", f.checks),
+            listed("checks", checks),
+            listed("failures", told),
             listed("warnings", f.warnings),
             listed("in_place", f.in_place),
             quoted(f.fixture),
@@ -122,14 +126,15 @@ def files(api):
         "const Function* find(const char* name)\n{\n    for (const Function& f : functions())\n"
         "        if (!std::strcmp(f.name, name)) return &f;\n    return nullptr;\n}\n} // namespace registry\n"
     )
-    return {"registry.cpp": text}
+    rows = "".join(f'{{"{v.name}", {i}, {v.features}}},\n' for i, v in enumerate(api.variants.all))
+    return {"registry.cpp": text, "variants.inc": rows}
 
 
 def status_codes(api):
     """The codes that checks and warnings name, each once."""
-    by_name = {name[len("ippSts"):]: code for code, name, _ in api.statuses if name}
+    by_name = api.status_codes()
     used = {}
     for f in api.functions:
-        for status in [c.status for c in f.checks] + f.warnings:
+        for status in [c.status for c in f.failures()] + f.warnings:
             used[status] = by_name[status]
     return sorted(used.items())

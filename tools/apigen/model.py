@@ -42,17 +42,26 @@ class Arg:
 
 @dataclass
 class Check:
-    """The call fails with the status when the condition holds."""
+    """The call fails with the status when a pointer is null, when a condition holds, or as words tell."""
 
     status: str  # without prefix: "NullPtrErr"
     nulls: list = field(default_factory=list)  # null(...): any of these pointers is null
-    condition: str = ""  # otherwise: a C expression over the arguments
+    only_if: str = ""  # with nulls: looked at only if this condition holds
+    condition: str = ""  # a C expression over the arguments
+    when: str = ""  # words, where the arguments do not tell
 
     def cpp(self):
-        return " || ".join("!" + n for n in self.nulls) if self.nulls else self.condition
+        if not self.nulls:
+            return self.condition
+        any_null = " || ".join("!" + n for n in self.nulls)
+        if not self.only_if:
+            return any_null
+        return f"({self.only_if}) && " + (f"({any_null})" if len(self.nulls) > 1 else any_null)
 
     def text(self):
-        return ", ".join(self.nulls) + " null" if self.nulls else self.condition
+        if not self.nulls:
+            return self.condition or self.when
+        return ", ".join(self.nulls) + " null" + (f" if {self.only_if}" if self.only_if else "")
 
 
 @dataclass
@@ -61,14 +70,18 @@ class Function:
 
     name: str
     family: str
+    form: str  # plain, _I, _Sfs, ...
     half: str  # ipp, own
     convention: str  # stdcall, cdecl
     returns: str  # status, void, or a C type
     args: list
-    checks: list
-    checks_in_kernel: bool
+    checks: list  # made by the entry shell, before anything is written
+    fails: list  # found by the kernel, before it writes anything
+    late: list  # found by the kernel when it has written
+    warnings: list
     kernel: str
-    call: list  # argument expressions of the kernel call
+    call: list  # the names of the arguments that the kernel gets
+    plain_call: list  # the same of the plain form: what stands there for what in formulas
     source: str
     bodies: list  # variant bodies; empty: compiled once
     dispatched: bool
@@ -77,31 +90,34 @@ class Function:
     formula: str = ""
     doc: str = ""
     notes: list = field(default_factory=list)
-    warnings: list = field(default_factory=list)
     in_place: list = field(default_factory=list)  # (destination, source) pairs that may be one array
     domains: dict = field(default_factory=dict)  # argument name -> expressions of values worth trying
     moves_bits: bool = False  # values are moved, never computed
     fixture: str = ""  # who builds valid arguments for the tests; empty: they follow from the extents
     types: list = field(default_factory=list)
+    place: object = None  # where it is described
+
+    def failures(self):
+        return self.checks + self.fails + self.late
 
     def bytes32(self):
         return sum(a.bytes32() for a in self.args)
-
-    def symbol_suffix(self, bytes_of_arguments=None):
-        if self.convention != "stdcall":
-            return ""
-        return "@%d" % (self.bytes32() if bytes_of_arguments is None else bytes_of_arguments)
 
 
 @dataclass
 class Api:
     types: dict
     opaque: list
+    records: list  # structures of include/sig5d_types.h
     statuses: list  # (code, name or "", text)
     functions: list
     topics: dict  # name -> title
-    sources: dict  # path -> (bodies, dispatched)
+    sources: dict  # path of a file with entries -> whether its functions are dispatched
     ordinals: dict  # export name -> ordinal
+    variants: object
+
+    def status_codes(self):
+        return {name[len("ippSts"):]: code for code, name, _ in self.statuses if name}
 
     def exports(self):
         """Every export in order of its name: (name, function, form), form one of plain, index, alias."""

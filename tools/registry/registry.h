@@ -40,6 +40,7 @@ struct Arg {
 struct Check {
     int status;
     const char* text;
+    bool afterWriting; // the outputs may be written by then
     bool (*fails)(const Value*);
 };
 
@@ -60,12 +61,13 @@ struct Function {
     Result result;
     IndexForm index;
     bool dispatched; // through a variant table
-    bool checksInKernel;
     bool movesBits; // values are moved, never computed: NaN payloads survive
     const Arg* args;
     int argCount;
     const Check* checks;
     int checkCount;
+    const int* failures; // statuses that the arguments do not tell, after all checks
+    int failureCount;
     const int* warnings;
     int warningCount;
     const InPlace* inPlace;

@@ -8,8 +8,9 @@
 
 namespace registry {
 
-const Variant variants[6] = {{"px", 0, 0x3},  {"w7", 1, 0x7},   {"s8", 2, 0x1F},
-                             {"p8", 3, 0xDF}, {"g9", 4, 0x1DF}, {"h9", 5, 0x81DF}};
+const Variant variants[6] = {
+#include "variants.inc"
+};
 
 Entry exported(const char* name)
 {

@@ -65,7 +65,6 @@ template <class T> void* delayLine(int n)
 template <class T, class H, class Sizes, class Init>
 Status initAlloc(const T* pTaps, int tapsIdx, int tapsLen, H** ppHandle, Sizes sizes, Init init)
 {
-    if (!ppHandle) return StsNullPtrErr;
     *ppHandle = nullptr;
     const T* taps = element_or_null<sizeof(T)>(pTaps, tapsIdx);
     int specSize = 0, bufSize = 0;
@@ -116,7 +115,6 @@ template <auto filter, class T, class H> Status next(const T* src, T* dst, int n
 {
     using F = Functions<T>;
     auto* h = reinterpret_cast<Handle*>(pHandle);
-    if (!h) return StsNullPtrErr;
     T *in = static_cast<T*>(h->dlySrc), *out = static_cast<T*>(h->dlyDst);
     F::copy(out, in, static_cast<int>(h->tapsLen));
     return filter(src, dst, numIters, static_cast<typename F::Spec*>(h->spec), in, out, h->buf);

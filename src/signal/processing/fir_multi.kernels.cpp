@@ -100,8 +100,6 @@ template <class T> struct Filter {
 template <class T>
 Status multiRate(const T* pSrc, T* pDst, int numIters, const void* pSpec, const T* pDlySrc, T* pDlyDst, u8* pBuf)
 {
-    if (!pSpec || !pSrc || !pDst || !pBuf) return StsNullPtrErr;
-    if (numIters < 1) return StsSizeErr;
     const FirSpec* spec = aligned(static_cast<const FirSpec*>(pSpec));
     if (spec->mark == singleRateMark<T> && spec->singleRate) {
         filterSingleRate(pSrc, pDst, numIters, spec, pDlySrc, pDlyDst, pBuf);
@@ -122,12 +120,8 @@ Status multiRate(const T* pSrc, T* pDst, int numIters, const void* pSpec, const 
 
 Status multiRateSize(int tapsLen, int upFactor, int downFactor, int tapsType, int* pSpecSize, int* pBufSize)
 {
-    if (tapsLen < 1) return StsFIRLenErr;
     const int e = tapBytes(tapsType);
-    if (!e) return StsDataTypeErr;
     const bool same = upFactor == 1 && downFactor == 1, complex = isComplexType(tapsType);
-    if (upFactor < 1 || downFactor < 1) return StsFIRMRFactorErr;
-    if (!pSpecSize || !pBufSize) return StsNullPtrErr;
     const FirSizes sizes = same ? SingleRateLayout(tapsLen, e, complex).sizes()
                                 : MultiRateLayout(tapsLen, upFactor, downFactor, e, complex).sizes();
     if (!sizes.fit()) return same ? StsSizeErr : StsFIRLenErr;
@@ -138,11 +132,6 @@ Status multiRateSize(int tapsLen, int upFactor, int downFactor, int tapsType, in
 template <class T>
 Status multiRateInit(const T* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, void* pSpec)
 {
-    if (tapsLen < 1) return StsFIRLenErr;
-    // A factor of 0 passes here and fails the test of its phase: callers rely on that code.
-    if (upFactor < 0 || downFactor < 0) return StsFIRMRFactorErr;
-    if (upPhase < 0 || upPhase >= upFactor || downPhase < 0 || downPhase >= downFactor) return StsFIRMRPhaseErr;
-    if (!pTaps || !pSpec) return StsNullPtrErr;
     if (upFactor == 1 && downFactor == 1) {
         if (!SingleRateLayout(tapsLen, sizeof(T), isComplex<T>).sizes().fit()) return StsSizeErr;
         buildSingleRate(pTaps, tapsLen, 0, true, pSpec);

@@ -106,9 +106,6 @@ template <class T> void filter(const T* src, T* dst, int n, const FirSpec* spec,
 
 Status singleRateSize(int tapsLen, int tapsType, int* pSpecSize, int* pBufSize)
 {
-    if (tapsLen < 1) return StsSizeErr;
-    if (!tapBytes(tapsType)) return StsDataTypeErr;
-    if (!pSpecSize || !pBufSize) return StsNullPtrErr;
     const FirSizes sizes = SingleRateLayout(tapsLen, tapBytes(tapsType), isComplexType(tapsType)).sizes();
     if (!sizes.fit()) return StsSizeErr;
     sizes.store(pSpecSize, pBufSize);
@@ -117,9 +114,6 @@ Status singleRateSize(int tapsLen, int tapsType, int* pSpecSize, int* pBufSize)
 
 template <class T> Status singleRateInit(const T* pTaps, int tapsLen, int algType, void* pSpec)
 {
-    if (tapsLen < 1) return StsSizeErr;
-    if (!pTaps || !pSpec) return StsNullPtrErr;
-    if (algType < 0 || algType > 2) return StsAlgTypeErr;
     if (!SingleRateLayout(tapsLen, sizeof(T), isComplex<T>).sizes().fit()) return StsSizeErr;
     build(pTaps, tapsLen, algType, false, pSpec);
     return StsNoErr;
@@ -128,8 +122,6 @@ template <class T> Status singleRateInit(const T* pTaps, int tapsLen, int algTyp
 template <class T>
 Status singleRate(const T* pSrc, T* pDst, int numIters, const void* pSpec, const T* pDlySrc, T* pDlyDst, u8* pBuf)
 {
-    if (!pSpec || !pSrc || !pDst || !pBuf) return StsNullPtrErr;
-    if (numIters < 1) return StsSizeErr;
     const FirSpec* spec = aligned(static_cast<const FirSpec*>(pSpec));
     if (spec->mark != singleRateMark<T>) return StsContextMatchErr;
     filter(pSrc, pDst, numIters, spec, pDlySrc, pDlyDst, pBuf);

@@ -43,7 +43,7 @@ template <class T, class P> T* part(P* spec, u32 offset)
     return reinterpret_cast<T*>(reinterpret_cast<uintptr_t>(spec) + offset);
 }
 
-// The element sizes of the tap types 13, 14, 19 and 20; 0: no tap type.
+// The element sizes of the tap types 13, 14, 19 and 20.
 constexpr int tapBytes(int tapsType)
 {
     return tapsType == 13 ? 4 : tapsType == 14 || tapsType == 19 ? 8 : tapsType == 20 ? 16 : 0;
