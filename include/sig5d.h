@@ -1,5 +1,6 @@
 /* Numlab.Sig5d: double-precision signal processing and vector/matrix functions, C interface.
-   Generated from the description in api/; docs/reference tells shapes, checks, statuses and special values. */
+   Generated from the description in api/; docs/reference tells shapes, checks, statuses and special values.
+   A comment is about the functions that follow it, up to the next one. */
 #ifndef SIG5D_H
 #define SIG5D_H
 
@@ -297,155 +298,167 @@ typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 
 /* ---- Arithmetic on doubles, element by element ---- */
 
-/* pDst[i] = pSrc1[i] + pSrc2[i]. */
+/* pDst[i] = pSrc1[i] + pSrc2[i]; in place pSrcDst[i] = pSrcDst[i] + pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsAdd_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAdd_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAdd_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsAdd_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAdd_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAdd_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAdd_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAdd_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsAdd_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAdd_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAdd_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc2[i] - pSrc1[i]. Mind the order: the first array is subtracted from the second. In place:
-   pSrcDst[i] - pSrc[i]. */
+/* pDst[i] = pSrc2[i] - pSrc1[i]; in place pSrcDst[i] = pSrcDst[i] - pSrc[i]. Mind the order: the first array is
+   subtracted from the second. */
 IppStatus SIG5D_STDCALL ippsSub_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
-IppStatus SIG5D_STDCALL ippsSub_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsSub_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSub_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSub_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSub_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSub_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsSub_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsSub_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSub_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsSub_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSub_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] + val. */
+/* pDst[i] = pSrc[i] + val; in place pSrcDst[i] = pSrcDst[i] + val. */
 IppStatus SIG5D_STDCALL ippsAddC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsAddC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAddC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAddC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAddC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAddC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAddC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAddC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsAddC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
         len);
+IppStatus SIG5D_STDCALL ippsAddC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAddC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] - val. */
+/* pDst[i] = pSrc[i] - val; in place pSrcDst[i] = pSrcDst[i] - val. */
 IppStatus SIG5D_STDCALL ippsSubC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsSubC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSubC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSubC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSubC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSubC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsSubC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsSubC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSubC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
         len);
+IppStatus SIG5D_STDCALL ippsSubC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = val - pSrc[i]. */
+/* pDst[i] = val - pSrc[i]; in place pSrcDst[i] = val - pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsSubCRev_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
-IppStatus SIG5D_STDCALL ippsSubCRev_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsSubCRev_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSubCRev_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int
         len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSubCRev_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsSubCRev_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsSubCRev_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSubCRev_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx,
         int len);
+IppStatus SIG5D_STDCALL ippsSubCRev_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsSubCRev_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc1[i] * pSrc2[i]. */
+/* pDst[i] = pSrc1[i] * pSrc2[i]; in place pSrcDst[i] = pSrcDst[i] * pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsMul_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
-IppStatus SIG5D_STDCALL ippsMul_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsMul_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsMul_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMul_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMul_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[i] = pSrc1[i] * pSrc2[i]; in place pSrcDst[i] = pSrcDst[i] * pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsMul_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsMul_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsMul_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsMul_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMul_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMul_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] * val. */
+/* pDst[i] = pSrc[i] * val; in place pSrcDst[i] = pSrcDst[i] * val. */
 IppStatus SIG5D_STDCALL ippsMulC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsMulC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsMulC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsMulC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsMulC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] * val; in place pSrcDst[i] = pSrcDst[i] * val. */
 IppStatus SIG5D_STDCALL ippsMulC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsMulC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsMulC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsMulC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
         len);
+IppStatus SIG5D_STDCALL ippsMulC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsMulC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] * (1 / val). The reciprocal is rounded once, then multiplied: not the rounded quotient. */
+/* pDst[i] = pSrc[i] * (1 / val); in place pSrcDst[i] = pSrcDst[i] * (1 / val). The reciprocal is rounded once,
+   then multiplied: not the rounded quotient. */
 IppStatus SIG5D_STDCALL ippsDivC_64f(const Ipp64f* pSrc, Ipp64f val, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsDivC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsDivC_64f_I(Ipp64f val, Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsDivC_64f_I_Idx(Ipp64f val, Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsDivC_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] * (1 / val); in place pSrcDst[i] = pSrcDst[i] * (1 / val). */
 IppStatus SIG5D_STDCALL ippsDivC_64fc(const Ipp64fc* pSrc, Ipp64fc val, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsDivC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsDivC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsDivC_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc val, Ipp64fc* pDst, int dstIdx, int
         len);
+IppStatus SIG5D_STDCALL ippsDivC_64fc_I(Ipp64fc val, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDivC_64fc_I_Idx(Ipp64fc val, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
 /* pSrcDst[i] = pSrcDst[i] + pSrc1[i] * pSrc2[i]. The product is rounded, then the sum: no fused multiply-add. */
 IppStatus SIG5D_STDCALL ippsAddProduct_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAddProduct_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx,
         Ipp64f* pSrcDst, int srcDstIdx, int len);
+
+/* pSrcDst[i] = pSrcDst[i] + pSrc1[i] * pSrc2[i]. */
 IppStatus SIG5D_STDCALL ippsAddProduct_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAddProduct_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx,
         Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] * pSrc[i]. */
+/* pDst[i] = pSrc[i] * pSrc[i]; in place pSrcDst[i] = pSrcDst[i] * pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsSqr_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsSqr_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSqr_64f_I(Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSqr_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSqr_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] * pSrc[i]; in place pSrcDst[i] = pSrcDst[i] * pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsSqr_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsSqr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSqr_64fc_I(Ipp64fc* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSqr_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSqr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 
-/* pDst[i] = |pSrc[i]|. Clears the sign bit, also that of a NaN. */
+/* pDst[i] = |pSrc[i]|; in place pSrcDst[i] = |pSrcDst[i]|. Clears the sign bit, also that of a NaN. */
 IppStatus SIG5D_STDCALL ippsAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAbs_64f_I(Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
-/* pDst[i] = (pSrc[i].re, -pSrc[i].im). Changes the sign bit of the imaginary part, also of a NaN. */
+/* pDst[i] = (pSrc[i].re, -pSrc[i].im); in place pSrcDst[i] = (pSrcDst[i].re, -pSrcDst[i].im). Changes the sign bit
+   of the imaginary part, also of a NaN. */
 IppStatus SIG5D_STDCALL ippsConj_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsConj_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsConj_64fc_I(Ipp64fc* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsConj_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsConj_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 
 /* pDst[i] = conj(pSrc[len-1-i]). The conjugates in reverse order. */
 IppStatus SIG5D_STDCALL ippsConjFlip_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
 IppStatus SIG5D_CDECL ippsConjFlip_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 
-/* pDst[i] = pSrc2[i] / pSrc1[i]. Mind the order: the first array holds the divisors. In place: pSrcDst[i] /
-   pSrc[i]. */
+/* pDst[i] = pSrc2[i] / pSrc1[i]; in place pSrcDst[i] = pSrcDst[i] / pSrc[i]. Mind the order: the first array holds
+   the divisors. */
 IppStatus SIG5D_STDCALL ippsDiv_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, Ipp64f* pDst, int len);
-IppStatus SIG5D_STDCALL ippsDiv_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsDiv_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsDiv_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, Ipp64f*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64f_I(const Ipp64f* pSrc, Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDiv_64f_I_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_STDCALL ippsDiv_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsDiv_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsDiv_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsDiv_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, Ipp64fc*
         pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsDiv_64fc_I(const Ipp64fc* pSrc, Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsDiv_64fc_I_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = sqrt(pSrc[i]). */
+/* pDst[i] = sqrt(pSrc[i]); in place pSrcDst[i] = sqrt(pSrcDst[i]). */
 IppStatus SIG5D_STDCALL ippsSqrt_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSqrt_64f_I(Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSqrt_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSqrt_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSqrt_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsSqrt_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSqrt_64fc_I(Ipp64fc* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSqrt_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSqrt_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 
 /* pDstRe[i] = pSrc[i].re. */
 IppStatus SIG5D_STDCALL ippsReal_64fc(const Ipp64fc* pSrc, Ipp64f* pDstRe, int len);
@@ -470,6 +483,8 @@ IppStatus SIG5D_CDECL ippsRealToCplx_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx,
 IppStatus SIG5D_STDCALL ippsMagnitude_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsMagnitude_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = sqrt(re * re + im * im). */
 IppStatus SIG5D_STDCALL ippsMagnitude_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsMagnitude_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
@@ -482,176 +497,176 @@ IppStatus SIG5D_CDECL ippsPowerSpectr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, 
 
 /* ---- Integer arithmetic with scale factors ---- */
 
-/* pDst[i] = (pSrc1[i] + pSrc2[i]) * 2^-scaleFactor. */
-IppStatus SIG5D_STDCALL ippsAdd_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAdd_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
-        int scaleFactor);
+/* pDst[i] = (pSrc1[i] + pSrc2[i]) * 2^-scaleFactor; in place pSrcDst[i] = (pSrc[i] + pSrcDst[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsAdd_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAdd_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
 IppStatus SIG5D_STDCALL ippsAdd_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsAdd_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAdd_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAdd_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+IppStatus SIG5D_STDCALL ippsAdd_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
 IppStatus SIG5D_STDCALL ippsAdd_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsAdd_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAdd_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAdd_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+IppStatus SIG5D_STDCALL ippsAdd_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
 IppStatus SIG5D_STDCALL ippsAdd_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsAdd_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
         Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAdd_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAdd_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
-        scaleFactor);
-IppStatus SIG5D_STDCALL ippsAdd_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAdd_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
-        pDst, int dstIdx, int len, int scaleFactor);
-
-/* pDst[i] = (pSrc2[i] - pSrc1[i]) * 2^-scaleFactor. Mind the order: the first array is subtracted from the second.
-   In place: pSrcDst[i] - pSrc[i]. */
-IppStatus SIG5D_STDCALL ippsSub_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSub_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
+IppStatus SIG5D_STDCALL ippsAdd_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAdd_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
+
+/* pDst[i] = (pSrc2[i] - pSrc1[i]) * 2^-scaleFactor; in place pSrcDst[i] = (pSrcDst[i] - pSrc[i]) * 2^-scaleFactor.
+   Mind the order: the first array is subtracted from the second. */
+IppStatus SIG5D_STDCALL ippsSub_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
 IppStatus SIG5D_STDCALL ippsSub_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsSub_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSub_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSub_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+IppStatus SIG5D_STDCALL ippsSub_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
 IppStatus SIG5D_STDCALL ippsSub_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsSub_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSub_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSub_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+IppStatus SIG5D_STDCALL ippsSub_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
 IppStatus SIG5D_STDCALL ippsSub_32sc_Sfs(const Ipp32sc* pSrc1, const Ipp32sc* pSrc2, Ipp32sc* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsSub_32sc_Sfs_Idx(const Ipp32sc* pSrc1, int src1Idx, const Ipp32sc* pSrc2, int src2Idx,
         Ipp32sc* pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSub_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSub_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
-        scaleFactor);
-IppStatus SIG5D_STDCALL ippsSub_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSub_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
-        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSub_32sc_ISfs(const Ipp32sc* pSrc, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSub_32sc_ISfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
 
-/* pDst[i] = (pSrc[i] + val) * 2^-scaleFactor. */
-IppStatus SIG5D_STDCALL ippsAddC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAddC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAddC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAddC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
-        len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAddC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAddC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAddC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAddC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
-        len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAddC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAddC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAddC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAddC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
-        int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsAddC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsAddC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+/* pDst[i] = (pSrc[i] + val) * 2^-scaleFactor; in place pSrcDst[i] = (pSrcDst[i] + val) * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsAddC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsAddC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
         int scaleFactor);
-
-/* pDst[i] = (pSrc[i] - val) * 2^-scaleFactor. */
-IppStatus SIG5D_STDCALL ippsSubC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+IppStatus SIG5D_STDCALL ippsAddC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
         len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+IppStatus SIG5D_STDCALL ippsAddC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
         len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+IppStatus SIG5D_STDCALL ippsAddC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
         int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsAddC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsAddC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+
+/* pDst[i] = (pSrc[i] - val) * 2^-scaleFactor; in place pSrcDst[i] = (pSrcDst[i] - val) * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsSubC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsSubC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
         int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 
-/* pDst[i] = (val - pSrc[i]) * 2^-scaleFactor. */
-IppStatus SIG5D_STDCALL ippsSubCRev_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubCRev_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+/* pDst[i] = (val - pSrc[i]) * 2^-scaleFactor; in place pSrcDst[i] = (val - pSrcDst[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsSubCRev_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsSubCRev_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx,
         int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubCRev_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubCRev_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsSubCRev_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsSubCRev_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx,
         int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubCRev_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubCRev_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int
-        scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsSubCRev_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsSubCRev_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int
         dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubCRev_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubCRev_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsSubCRev_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsSubCRev_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int
-        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSubCRev_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSubCRev_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
 
-/* pDst[i] = pSrc1[i] * pSrc2[i] * 2^-scaleFactor. */
-IppStatus SIG5D_STDCALL ippsMul_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMul_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
-        int scaleFactor);
+/* pDst[i] = pSrc1[i] * pSrc2[i] * 2^-scaleFactor; in place pSrcDst[i] = pSrc[i] * pSrcDst[i] * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMul_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
 IppStatus SIG5D_STDCALL ippsMul_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsMul_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMul_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMul_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+IppStatus SIG5D_STDCALL ippsMul_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
 IppStatus SIG5D_STDCALL ippsMul_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsMul_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMul_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMul_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
-        scaleFactor);
-IppStatus SIG5D_STDCALL ippsMul_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMul_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
-        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMul_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMul_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
 
-/* pDst[i] = pSrc[i] * val * 2^-scaleFactor. */
-IppStatus SIG5D_STDCALL ippsMulC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMulC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMulC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMulC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
-        len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMulC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMulC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMulC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMulC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
-        len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMulC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMulC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMulC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMulC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
-        int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsMulC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsMulC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+/* pDst[i] = pSrc[i] * val * 2^-scaleFactor; in place pSrcDst[i] = pSrcDst[i] * val * 2^-scaleFactor. */
 IppStatus SIG5D_STDCALL ippsMulC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsMulC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
         int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_Sfs(const Ipp32s* pSrc, Ipp32s val, Ipp32s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s val, Ipp32s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32s_ISfs(Ipp32s val, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32s_ISfs_Idx(Ipp32s val, Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_Sfs(const Ipp32sc* pSrc, Ipp32sc val, Ipp32sc* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_Sfs_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc val, Ipp32sc* pDst, int dstIdx,
+        int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsMulC_32sc_ISfs(Ipp32sc val, Ipp32sc* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMulC_32sc_ISfs_Idx(Ipp32sc val, Ipp32sc* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 
 /* pSrcDst[i] = (pSrcDst[i] + pSrc1[i] * pSrc2[i]) * 2^-scaleFactor. The sum is scaled as a whole, what was in
    pSrcDst too. */
@@ -660,79 +675,111 @@ IppStatus SIG5D_STDCALL ippsAddProduct_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s
 IppStatus SIG5D_CDECL ippsAddProduct_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx,
         Ipp32s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 
-/* pDst[i] = (pSrc2[i] * 2^-scaleFactor) / pSrc1[i]. Mind the order: the first array holds the divisors. In place:
-   pSrcDst[i] / pSrc[i]. */
-IppStatus SIG5D_STDCALL ippsDiv_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsDiv_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
-        int scaleFactor);
+/* pDst[i] = (pSrc2[i] * 2^-scaleFactor) / pSrc1[i]; in place pSrcDst[i] = (pSrcDst[i] * 2^-scaleFactor) / pSrc[i].
+   Mind the order: the first array holds the divisors. */
+IppStatus SIG5D_STDCALL ippsDiv_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
+        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
+        scaleFactor);
 IppStatus SIG5D_STDCALL ippsDiv_16s_Sfs(const Ipp16s* pSrc1, const Ipp16s* pSrc2, Ipp16s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsDiv_16s_Sfs_Idx(const Ipp16s* pSrc1, int src1Idx, const Ipp16s* pSrc2, int src2Idx, Ipp16s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsDiv_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsDiv_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+IppStatus SIG5D_STDCALL ippsDiv_16s_ISfs(const Ipp16s* pSrc, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_16s_ISfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pSrcDst, int srcDstIdx, int len,
         int scaleFactor);
 IppStatus SIG5D_STDCALL ippsDiv_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, Ipp32s* pDst, int len, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsDiv_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, Ipp32s*
         pDst, int dstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsDiv_8u_ISfs(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsDiv_8u_ISfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len, int
-        scaleFactor);
-IppStatus SIG5D_STDCALL ippsDiv_8u_Sfs(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsDiv_8u_Sfs_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u*
-        pDst, int dstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDiv_32s_ISfs(const Ipp32s* pSrc, Ipp32s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDiv_32s_ISfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pSrcDst, int srcDstIdx, int len,
+        int scaleFactor);
 
-/* pDst[i] = (pSrc[i] * 2^-scaleFactor) / val. */
-IppStatus SIG5D_STDCALL ippsDivC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsDivC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsDivC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsDivC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
-        len, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsDivC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsDivC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+/* pDst[i] = (pSrc[i] * 2^-scaleFactor) / val; in place pSrcDst[i] = (pSrcDst[i] * 2^-scaleFactor) / val. */
 IppStatus SIG5D_STDCALL ippsDivC_8u_Sfs(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsDivC_8u_Sfs_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len,
         int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_8u_ISfs(Ipp8u val, Ipp8u* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_8u_ISfs_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_16s_Sfs(const Ipp16s* pSrc, Ipp16s val, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s val, Ipp16s* pDst, int dstIdx, int
+        len, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsDivC_16s_ISfs(Ipp16s val, Ipp16s* pSrcDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsDivC_16s_ISfs_Idx(Ipp16s val, Ipp16s* pSrcDst, int srcDstIdx, int len, int scaleFactor);
 
-/* pDst[i] = |pSrc[i]|. */
+/* pDst[i] = |pSrc[i]|; in place pSrcDst[i] = |pSrcDst[i]|. */
 IppStatus SIG5D_STDCALL ippsAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAbs_16s_I(Ipp16s* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAbs_32s_I(Ipp32s* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
 
 /* ---- Type conversions ---- */
 
 /* pDst[i] = pSrc[i]. */
-IppStatus SIG5D_STDCALL ippsConvert_16f32f(const Ipp16f* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_16f32f_Idx(const Ipp16f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_16s32f(const Ipp16s* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_16s32f_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8s16s(const Ipp8s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s16s_Idx(const Ipp8s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsConvert_16s32s(const Ipp16s* pSrc, Ipp32s* pDst, int len);
 IppStatus SIG5D_CDECL ippsConvert_16s32s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_16s64f_Sfs(const Ipp16s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_16s64f_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
-        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_8s32f(const Ipp8s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8s32f_Idx(const Ipp8s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_8u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16s32f(const Ipp16s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16s32f_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_16u32f(const Ipp16u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16u32f_Idx(const Ipp16u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
+/* pDst[i] = saturated(pSrc[i]). */
+IppStatus SIG5D_STDCALL ippsConvert_32s16s(const Ipp32s* pSrc, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+
+/* pDst[i] = saturated(pSrc[i] * 2^-scaleFactor). The scaled number is rounded to the nearest integer, ties to the
+   even one. Every scale factor is valid. */
 IppStatus SIG5D_STDCALL ippsConvert_16s8s_Sfs(const Ipp16s* pSrc, Ipp8s* pDst, int len, int scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_16s8s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
         scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_16u32f(const Ipp16u* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_16u32f_Idx(const Ipp16u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_24s32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_24s32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_24s32s(const Ipp8u* pSrc, Ipp32s* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_24s32s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_24u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_24u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_24u32u(const Ipp8u* pSrc, Ipp32u* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_24u32u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_32f16f(const Ipp32f* pSrc, Ipp16f* pDst, int len, int rndMode);
-IppStatus SIG5D_CDECL ippsConvert_32f16f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16f* pDst, int dstIdx, int len, int
-        rndMode);
+IppStatus SIG5D_STDCALL ippsConvert_32s16s_Sfs(const Ipp32s* pSrc, Ipp16s* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s16s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsConvert_32s64f(const Ipp32s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f64f(const Ipp32f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32f64f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i]. Rounds to the nearest number of the new type, ties to the even one; what is too large becomes
+   infinite. */
+IppStatus SIG5D_STDCALL ippsConvert_32s32f(const Ipp32s* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s32f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_64f32f(const Ipp64f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64f32f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i] * 2^-scaleFactor. The exact product, rounded once where it is below the range of normal
+   numbers and infinite above it. Every scale factor is valid. */
+IppStatus SIG5D_STDCALL ippsConvert_16s64f_Sfs(const Ipp16s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_16s64f_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f_Sfs(const Ipp32s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        int scaleFactor);
+
+/* pDst[i] = saturated(round(pSrc[i] * 2^-scaleFactor)). Rounds the exact product once: rndMode 0 toward zero, 1 to
+   the nearest integer with ties to the even one, 2 to the nearest with ties away from zero. Every scale factor is
+   valid. */
+IppStatus SIG5D_STDCALL ippsConvert_32f8s_Sfs(const Ipp32f* pSrc, Ipp8s* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32f8u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f8u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsConvert_32f16s_Sfs(const Ipp32f* pSrc, Ipp16s* pDst, int len, int rndMode, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_32f16s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
@@ -741,44 +788,13 @@ IppStatus SIG5D_STDCALL ippsConvert_32f16u_Sfs(const Ipp32f* pSrc, Ipp16u* pDst,
         scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_32f16u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
         int rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32f24s_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
-        scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32f24s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
-        rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32f24u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
-        scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32f24u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
-        rndMode, int scaleFactor);
 IppStatus SIG5D_STDCALL ippsConvert_32f32s_Sfs(const Ipp32f* pSrc, Ipp32s* pDst, int len, int rndMode, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_32f32s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
         int rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32f64f(const Ipp32f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_32f64f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_32f8s_Sfs(const Ipp32f* pSrc, Ipp8s* pDst, int len, int rndMode, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32f8s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8s* pDst, int dstIdx, int len, int
+IppStatus SIG5D_STDCALL ippsConvert_64f8u_Sfs(const Ipp64f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_64f8u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
         rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32f8u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32f8u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
-        rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32s16s(const Ipp32s* pSrc, Ipp16s* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_32s16s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_32s16s_Sfs(const Ipp32s* pSrc, Ipp16s* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32s16s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
-        int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32s24s_Sfs(const Ipp32s* pSrc, Ipp8u* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32s24s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
-        scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32s32f(const Ipp32s* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_32s32f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_32s64f(const Ipp32s* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_32s64f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_32s64f_Sfs(const Ipp32s* pSrc, Ipp64f* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32s64f_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
-        int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_32u24u_Sfs(const Ipp32u* pSrc, Ipp8u* pDst, int len, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_32u24u_Sfs_Idx(const Ipp32u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
-        scaleFactor);
 IppStatus SIG5D_STDCALL ippsConvert_64f16s_Sfs(const Ipp64f* pSrc, Ipp16s* pDst, int len, int rndMode, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_64f16s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
@@ -787,95 +803,139 @@ IppStatus SIG5D_STDCALL ippsConvert_64f16u_Sfs(const Ipp64f* pSrc, Ipp16u* pDst,
         scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_64f16u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len,
         int rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_64f32f(const Ipp64f* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_64f32f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsConvert_64f32s_Sfs(const Ipp64f* pSrc, Ipp32s* pDst, int len, int rndMode, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_64f32s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
         int rndMode, int scaleFactor);
+
+/* pDst[i] = pSrc[i]. Rounds to the nearest double, ties to the even one. */
+IppStatus SIG5D_STDCALL ippsConvert_64s64f(const Ipp64s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_64s64f_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = saturated(round(pSrc[i] * 2^-scaleFactor)). Rounds the exact product once: rndMode 0 toward zero, 1 to
+   the nearest integer with ties to the even one, 2 to the nearest with ties away from zero. Every scale factor is
+   valid. */
 IppStatus SIG5D_STDCALL ippsConvert_64f64s_Sfs(const Ipp64f* pSrc, Ipp64s* pDst, int len, int rndMode, int
         scaleFactor);
 IppStatus SIG5D_CDECL ippsConvert_64f64s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64s* pDst, int dstIdx, int len,
         int rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_64f8u_Sfs(const Ipp64f* pSrc, Ipp8u* pDst, int len, int rndMode, int scaleFactor);
-IppStatus SIG5D_CDECL ippsConvert_64f8u_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+
+/* pDst[i] = pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsConvert_16f32f(const Ipp16f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_16f32f_Idx(const Ipp16f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i]. Rounds to half precision: rndMode 0 toward zero, 1 to the nearest number with ties to the
+   even one, 2 to the nearest with ties away from zero. Results below 2^-14 are multiples of 2^-24. */
+IppStatus SIG5D_STDCALL ippsConvert_32f16f(const Ipp32f* pSrc, Ipp16f* pDst, int len, int rndMode);
+IppStatus SIG5D_CDECL ippsConvert_32f16f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16f* pDst, int dstIdx, int len, int
+        rndMode);
+
+/* pDst[i] = pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsConvert_24u32u(const Ipp8u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32s(const Ipp8u* pSrc, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_24s32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_24s32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
+/* pDst[i] = saturated(pSrc[i] * 2^-scaleFactor). The scaled number is rounded to the nearest integer, ties to the
+   even one. Every scale factor is valid. */
+IppStatus SIG5D_STDCALL ippsConvert_32s24s_Sfs(const Ipp32s* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32s24s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+IppStatus SIG5D_STDCALL ippsConvert_32u24u_Sfs(const Ipp32u* pSrc, Ipp8u* pDst, int len, int scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32u24u_Sfs_Idx(const Ipp32u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        scaleFactor);
+
+/* pDst[i] = saturated(round(pSrc[i] * 2^-scaleFactor)). Rounds the exact product once: rndMode 0 toward zero, 1 to
+   the nearest integer with ties to the even one, 2 to the nearest with ties away from zero. Every scale factor is
+   valid. */
+IppStatus SIG5D_STDCALL ippsConvert_32f24s_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24s_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
         rndMode, int scaleFactor);
-IppStatus SIG5D_STDCALL ippsConvert_64s64f(const Ipp64s* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_64s64f_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_8s16s(const Ipp8s* pSrc, Ipp16s* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_8s16s_Idx(const Ipp8s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_8s32f(const Ipp8s* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_8s32f_Idx(const Ipp8s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsConvert_8u32f(const Ipp8u* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32f24u_Sfs(const Ipp32f* pSrc, Ipp8u* pDst, int len, int rndMode, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsConvert_32f24u_Sfs_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len, int
+        rndMode, int scaleFactor);
 
 /* ---- Copy, move, set, zero, flip and bit strings ---- */
 
 /* pDst[i] = pSrc[i]. Copies element by element, front to back. */
+IppStatus SIG5D_STDCALL ippsCopy_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsCopy_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_16sc(const Ipp16sc* pSrc, Ipp16sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_16sc_Idx(const Ipp16sc* pSrc, int srcIdx, Ipp16sc* pDst, int dstIdx, int len);
-IppStatus SIG5D_CDECL ippsCopy_1u_Idx(const Ipp8u* pSrc, int srcIdx, int srcBitOffset, Ipp8u* pDst, int dstIdx, int
-        dstBitOffset, int len);
-IppStatus SIG5D_STDCALL ippsCopy_32f(const Ipp32f* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsCopy_32f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsCopy_32fc(const Ipp32fc* pSrc, Ipp32fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsCopy_32fc_Idx(const Ipp32fc* pSrc, int srcIdx, Ipp32fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_32sc(const Ipp32sc* pSrc, Ipp32sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_32sc_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsCopy_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsCopy_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsCopy_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsCopy_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsCopy_32f(const Ipp32f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsCopy_32f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsCopy_32fc(const Ipp32fc* pSrc, Ipp32fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsCopy_32fc_Idx(const Ipp32fc* pSrc, int srcIdx, Ipp32fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_64s(const Ipp64s* pSrc, Ipp64s* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_64s_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsCopy_64sc(const Ipp64sc* pSrc, Ipp64sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsCopy_64sc_Idx(const Ipp64sc* pSrc, int srcIdx, Ipp64sc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsCopy_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
-IppStatus SIG5D_CDECL ippsCopy_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsCopy_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsCopy_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsCopy_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsCopy_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+
+/* bit(pDst, dstBitOffset + i) = bit(pSrc, srcBitOffset + i). ippsCopyLE_1u with byte indices. */
+IppStatus SIG5D_CDECL ippsCopy_1u_Idx(const Ipp8u* pSrc, int srcIdx, int srcBitOffset, Ipp8u* pDst, int dstIdx, int
+        dstBitOffset, int len);
 
 /* pDst[i] = pSrc[i]. Copies bits between arrays that may overlap in any way. */
+IppStatus SIG5D_STDCALL ippsMove_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsMove_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsMove_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsMove_16sc(const Ipp16sc* pSrc, Ipp16sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_16sc_Idx(const Ipp16sc* pSrc, int srcIdx, Ipp16sc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsMove_32f(const Ipp32f* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_CDECL ippsMove_32f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsMove_32fc(const Ipp32fc* pSrc, Ipp32fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsMove_32fc_Idx(const Ipp32fc* pSrc, int srcIdx, Ipp32fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsMove_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsMove_32sc(const Ipp32sc* pSrc, Ipp32sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_32sc_Idx(const Ipp32sc* pSrc, int srcIdx, Ipp32sc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsMove_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsMove_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsMove_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsMove_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMove_32f(const Ipp32f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsMove_32f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMove_32fc(const Ipp32fc* pSrc, Ipp32fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsMove_32fc_Idx(const Ipp32fc* pSrc, int srcIdx, Ipp32fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsMove_64s(const Ipp64s* pSrc, Ipp64s* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_64s_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsMove_64sc(const Ipp64sc* pSrc, Ipp64sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsMove_64sc_Idx(const Ipp64sc* pSrc, int srcIdx, Ipp64sc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsMove_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
-IppStatus SIG5D_CDECL ippsMove_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMove_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsMove_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsMove_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsMove_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 
 /* pDst[i] = val. Every bit of val arrives, also of a NaN. */
+IppStatus SIG5D_STDCALL ippsSet_8u(Ipp8u val, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsSet_8u_Idx(Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSet_16s(Ipp16s val, Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_16s_Idx(Ipp16s val, Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSet_32s(Ipp32s val, Ipp32s* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_32s_Idx(Ipp32s val, Ipp32s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSet_32sc(Ipp32sc val, Ipp32sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_32sc_Idx(Ipp32sc val, Ipp32sc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsSet_64f(Ipp64f val, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsSet_64f_Idx(Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSet_64fc(Ipp64fc val, Ipp64fc* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_64fc_Idx(Ipp64fc val, Ipp64fc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsSet_8u(Ipp8u val, Ipp8u* pDst, int len);
-IppStatus SIG5D_CDECL ippsSet_8u_Idx(Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
+
+/* pDst[i] = val. */
+IppStatus SIG5D_STDCALL ippsSet_64f(Ipp64f val, Ipp64f* pDst, int len);
+
+/* pDst[i] = val. */
+IppStatus SIG5D_CDECL ippsSet_64f_Idx(Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 
 /* pDst[i] = 0. All bits are cleared: +0 in floating-point elements. */
+IppStatus SIG5D_STDCALL ippsZero_8u(Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsZero_8u_Idx(Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsZero_16s(Ipp16s* pDst, int len);
 IppStatus SIG5D_CDECL ippsZero_16s_Idx(Ipp16s* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsZero_32s(Ipp32s* pDst, int len);
@@ -886,30 +946,28 @@ IppStatus SIG5D_STDCALL ippsZero_64f(Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsZero_64f_Idx(Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsZero_64fc(Ipp64fc* pDst, int len);
 IppStatus SIG5D_CDECL ippsZero_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsZero_8u(Ipp8u* pDst, int len);
-IppStatus SIG5D_CDECL ippsZero_8u_Idx(Ipp8u* pDst, int dstIdx, int len);
 
-/* pDst[i] = pSrc[len-1-i]. Reverses the order of the elements. */
-IppStatus SIG5D_STDCALL ippsFlip_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsFlip_16u_I(Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsFlip_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsFlip_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsFlip_32f(const Ipp32f* pSrc, Ipp32f* pDst, int len);
-IppStatus SIG5D_STDCALL ippsFlip_32f_I(Ipp32f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsFlip_32f_I_Idx(Ipp32f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsFlip_32f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsFlip_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_STDCALL ippsFlip_64f_I(Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsFlip_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsFlip_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsFlip_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_STDCALL ippsFlip_64fc_I(Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsFlip_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsFlip_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+/* pDst[i] = pSrc[len-1-i]; in place pSrcDst[i] = pSrcDst[len-1-i]. Reverses the order of the elements. */
 IppStatus SIG5D_STDCALL ippsFlip_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsFlip_8u_I(Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsFlip_8u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsFlip_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_16u_I(Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_32f(const Ipp32f* pSrc, Ipp32f* pDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_32f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_32f_I(Ipp32f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_32f_I_Idx(Ipp32f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsFlip_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsFlip_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
 
 /* bit(pDst, dstBitOffset + i) = bit(pSrc, srcBitOffset + i). Copies len bits. Bit 0 of a byte is the most
    significant (mask 0x80), bit 7 the least significant. */
@@ -925,158 +983,161 @@ IppStatus SIG5D_CDECL ippsCopyBE_1u_Idx(const Ipp8u* pSrc, int srcIdx, int srcBi
 
 /* ---- Logic, shifts and byte order ---- */
 
-/* pDst[i] = pSrc1[i] & pSrc2[i]. */
-IppStatus SIG5D_STDCALL ippsAnd_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAnd_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAnd_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAnd_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u*
-        pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsAnd_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAnd_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAnd_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAnd_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u*
-        pDst, int dstIdx, int len);
+/* pDst[i] = pSrc1[i] & pSrc2[i]; in place pSrcDst[i] = pSrcDst[i] & pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsAnd_8u(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAnd_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAnd_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsAnd_8u_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u* pDst,
         int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAnd_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAnd_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAnd_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAnd_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAnd_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAnd_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc1[i] | pSrc2[i]. */
-IppStatus SIG5D_STDCALL ippsOr_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsOr_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsOr_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsOr_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u* pDst,
-        int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsOr_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsOr_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsOr_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsOr_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u* pDst,
-        int dstIdx, int len);
+/* pDst[i] = pSrc1[i] | pSrc2[i]; in place pSrcDst[i] = pSrcDst[i] | pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsOr_8u(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsOr_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsOr_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsOr_8u_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u* pDst, int
         dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOr_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOr_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOr_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsOr_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u* pDst,
+        int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOr_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOr_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOr_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsOr_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u* pDst,
+        int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOr_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOr_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc1[i] ^ pSrc2[i]. */
-IppStatus SIG5D_STDCALL ippsXor_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsXor_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsXor_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsXor_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u*
-        pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsXor_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsXor_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsXor_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsXor_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u*
-        pDst, int dstIdx, int len);
+/* pDst[i] = pSrc1[i] ^ pSrc2[i]; in place pSrcDst[i] = pSrcDst[i] ^ pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsXor_8u(const Ipp8u* pSrc1, const Ipp8u* pSrc2, Ipp8u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsXor_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsXor_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_CDECL ippsXor_8u_Idx(const Ipp8u* pSrc1, int src1Idx, const Ipp8u* pSrc2, int src2Idx, Ipp8u* pDst,
         int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXor_8u_I(const Ipp8u* pSrc, Ipp8u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXor_8u_I_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXor_16u(const Ipp16u* pSrc1, const Ipp16u* pSrc2, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsXor_16u_Idx(const Ipp16u* pSrc1, int src1Idx, const Ipp16u* pSrc2, int src2Idx, Ipp16u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXor_16u_I(const Ipp16u* pSrc, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXor_16u_I_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXor_32u(const Ipp32u* pSrc1, const Ipp32u* pSrc2, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsXor_32u_Idx(const Ipp32u* pSrc1, int src1Idx, const Ipp32u* pSrc2, int src2Idx, Ipp32u*
+        pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXor_32u_I(const Ipp32u* pSrc, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXor_32u_I_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] & val. */
-IppStatus SIG5D_STDCALL ippsAndC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAndC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAndC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAndC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsAndC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsAndC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsAndC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAndC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+/* pDst[i] = pSrc[i] & val; in place pSrcDst[i] = pSrcDst[i] & val. */
 IppStatus SIG5D_STDCALL ippsAndC_8u(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsAndC_8u_I(Ipp8u val, Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsAndC_8u_I_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsAndC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAndC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAndC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAndC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsAndC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsAndC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] | val. */
-IppStatus SIG5D_STDCALL ippsOrC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsOrC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsOrC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsOrC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsOrC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsOrC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsOrC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsOrC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+/* pDst[i] = pSrc[i] | val; in place pSrcDst[i] = pSrcDst[i] | val. */
 IppStatus SIG5D_STDCALL ippsOrC_8u(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsOrC_8u_I(Ipp8u val, Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsOrC_8u_I_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsOrC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOrC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOrC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOrC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsOrC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsOrC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] ^ val. */
-IppStatus SIG5D_STDCALL ippsXorC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsXorC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsXorC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsXorC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsXorC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsXorC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsXorC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsXorC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+/* pDst[i] = pSrc[i] ^ val; in place pSrcDst[i] = pSrcDst[i] ^ val. */
 IppStatus SIG5D_STDCALL ippsXorC_8u(const Ipp8u* pSrc, Ipp8u val, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsXorC_8u_I(Ipp8u val, Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsXorC_8u_I_Idx(Ipp8u val, Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsXorC_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u val, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXorC_16u(const Ipp16u* pSrc, Ipp16u val, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u val, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXorC_16u_I(Ipp16u val, Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_16u_I_Idx(Ipp16u val, Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXorC_32u(const Ipp32u* pSrc, Ipp32u val, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u val, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsXorC_32u_I(Ipp32u val, Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsXorC_32u_I_Idx(Ipp32u val, Ipp32u* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = ~pSrc[i]. */
-IppStatus SIG5D_STDCALL ippsNot_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsNot_16u_I(Ipp16u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsNot_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsNot_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsNot_32u(const Ipp32u* pSrc, Ipp32u* pDst, int len);
-IppStatus SIG5D_STDCALL ippsNot_32u_I(Ipp32u* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsNot_32u_I_Idx(Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsNot_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+/* pDst[i] = ~pSrc[i]; in place pSrcDst[i] = ~pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsNot_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsNot_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsNot_8u_I(Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsNot_8u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsNot_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsNot_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsNot_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsNot_16u_I(Ipp16u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsNot_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsNot_32u(const Ipp32u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsNot_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsNot_32u_I(Ipp32u* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsNot_32u_I_Idx(Ipp32u* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] << val. Bits that leave the element are lost; nothing saturates. */
-IppStatus SIG5D_STDCALL ippsLShiftC_16s(const Ipp16s* pSrc, int val, Ipp16s* pDst, int len);
-IppStatus SIG5D_STDCALL ippsLShiftC_16s_I(int val, Ipp16s* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsLShiftC_16s_I_Idx(int val, Ipp16s* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsLShiftC_16s_Idx(const Ipp16s* pSrc, int srcIdx, int val, Ipp16s* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsLShiftC_32s(const Ipp32s* pSrc, int val, Ipp32s* pDst, int len);
-IppStatus SIG5D_STDCALL ippsLShiftC_32s_I(int val, Ipp32s* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsLShiftC_32s_I_Idx(int val, Ipp32s* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsLShiftC_32s_Idx(const Ipp32s* pSrc, int srcIdx, int val, Ipp32s* pDst, int dstIdx, int len);
+/* pDst[i] = pSrc[i] << val; in place pSrcDst[i] = pSrcDst[i] << val. Bits that leave the element are lost; nothing
+   saturates. */
 IppStatus SIG5D_STDCALL ippsLShiftC_8u(const Ipp8u* pSrc, int val, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_8u_Idx(const Ipp8u* pSrc, int srcIdx, int val, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsLShiftC_8u_I(int val, Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsLShiftC_8u_I_Idx(int val, Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsLShiftC_8u_Idx(const Ipp8u* pSrc, int srcIdx, int val, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_16s(const Ipp16s* pSrc, int val, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_16s_Idx(const Ipp16s* pSrc, int srcIdx, int val, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_16s_I(int val, Ipp16s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_16s_I_Idx(int val, Ipp16s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_32s(const Ipp32s* pSrc, int val, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_32s_Idx(const Ipp32s* pSrc, int srcIdx, int val, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsLShiftC_32s_I(int val, Ipp32s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsLShiftC_32s_I_Idx(int val, Ipp32s* pSrcDst, int srcDstIdx, int len);
 
-/* pDst[i] = pSrc[i] >> val. 16s and 32s shift arithmetically (floor of the division by 2^val), 8u logically. */
-IppStatus SIG5D_STDCALL ippsRShiftC_16s(const Ipp16s* pSrc, int val, Ipp16s* pDst, int len);
-IppStatus SIG5D_STDCALL ippsRShiftC_16s_I(int val, Ipp16s* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsRShiftC_16s_I_Idx(int val, Ipp16s* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsRShiftC_16s_Idx(const Ipp16s* pSrc, int srcIdx, int val, Ipp16s* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsRShiftC_32s(const Ipp32s* pSrc, int val, Ipp32s* pDst, int len);
-IppStatus SIG5D_STDCALL ippsRShiftC_32s_I(int val, Ipp32s* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsRShiftC_32s_I_Idx(int val, Ipp32s* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsRShiftC_32s_Idx(const Ipp32s* pSrc, int srcIdx, int val, Ipp32s* pDst, int dstIdx, int len);
+/* pDst[i] = pSrc[i] >> val; in place pSrcDst[i] = pSrcDst[i] >> val. 16s and 32s shift arithmetically (floor of
+   the division by 2^val), 8u logically. */
 IppStatus SIG5D_STDCALL ippsRShiftC_8u(const Ipp8u* pSrc, int val, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_8u_Idx(const Ipp8u* pSrc, int srcIdx, int val, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsRShiftC_8u_I(int val, Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsRShiftC_8u_I_Idx(int val, Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsRShiftC_8u_Idx(const Ipp8u* pSrc, int srcIdx, int val, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_16s(const Ipp16s* pSrc, int val, Ipp16s* pDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_16s_Idx(const Ipp16s* pSrc, int srcIdx, int val, Ipp16s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_16s_I(int val, Ipp16s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_16s_I_Idx(int val, Ipp16s* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_32s(const Ipp32s* pSrc, int val, Ipp32s* pDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_32s_Idx(const Ipp32s* pSrc, int srcIdx, int val, Ipp32s* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsRShiftC_32s_I(int val, Ipp32s* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsRShiftC_32s_I_Idx(int val, Ipp32s* pSrcDst, int srcDstIdx, int len);
 
-/* byte k of pDst[i] = byte (size-1-k) of pSrc[i]. Reverses the order of the 2, 3, 4 or 8 bytes of each element. */
+/* byte k of pDst[i] = byte (size-1-k) of pSrc[i]; in place byte k of pSrcDst[i] = byte (size-1-k) of pSrcDst[i].
+   Reverses the order of the 2, 3, 4 or 8 bytes of each element. */
 IppStatus SIG5D_STDCALL ippsSwapBytes_16u(const Ipp16u* pSrc, Ipp16u* pDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSwapBytes_16u_I(Ipp16u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_16u_I_Idx(Ipp16u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSwapBytes_16u_Idx(const Ipp16u* pSrc, int srcIdx, Ipp16u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSwapBytes_24u(const Ipp8u* pSrc, Ipp8u* pDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_24u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSwapBytes_24u_I(Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_24u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSwapBytes_24u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSwapBytes_32u(const Ipp32u* pSrc, Ipp32u* pDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSwapBytes_32u_I(Ipp32u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_32u_I_Idx(Ipp32u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSwapBytes_32u_Idx(const Ipp32u* pSrc, int srcIdx, Ipp32u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSwapBytes_64u(const Ipp64u* pSrc, Ipp64u* pDst, int len);
+IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp64u* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSwapBytes_64u_I(Ipp64u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSwapBytes_64u_I_Idx(Ipp64u* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp64u* pDst, int dstIdx, int len);
 
 /* ---- Polar and Cartesian coordinates ---- */
 
@@ -1086,6 +1147,8 @@ IppStatus SIG5D_CDECL ippsSwapBytes_64u_Idx(const Ipp64u* pSrc, int srcIdx, Ipp6
 IppStatus SIG5D_STDCALL ippsPhase_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPhase_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = atan2(Im pSrc[i], Re pSrc[i]). */
 IppStatus SIG5D_STDCALL ippsPhase_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPhase_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
@@ -1095,6 +1158,8 @@ IppStatus SIG5D_STDCALL ippsCartToPolar_64f(const Ipp64f* pSrcRe, const Ipp64f* 
         pDstPhase, int len);
 IppStatus SIG5D_CDECL ippsCartToPolar_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDstMagn, int dstMagnIdx, Ipp64f* pDstPhase, int dstPhaseIdx, int len);
+
+/* pDstMagn[i] = |pSrc[i]|, pDstPhase[i] = arg pSrc[i]. */
 IppStatus SIG5D_STDCALL ippsCartToPolar_64fc(const Ipp64fc* pSrc, Ipp64f* pDstMagn, Ipp64f* pDstPhase, int len);
 IppStatus SIG5D_CDECL ippsCartToPolar_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstMagn, int dstMagnIdx,
         Ipp64f* pDstPhase, int dstPhaseIdx, int len);
@@ -1105,185 +1170,228 @@ IppStatus SIG5D_STDCALL ippsPolarToCart_64f(const Ipp64f* pSrcMagn, const Ipp64f
         pDstIm, int len);
 IppStatus SIG5D_CDECL ippsPolarToCart_64f_Idx(const Ipp64f* pSrcMagn, int srcMagnIdx, const Ipp64f* pSrcPhase, int
         srcPhaseIdx, Ipp64f* pDstRe, int dstReIdx, Ipp64f* pDstIm, int dstImIdx, int len);
+
+/* pDst[i] = pSrcMagn[i] * (cos(pSrcPhase[i]) + j sin(pSrcPhase[i])). */
 IppStatus SIG5D_STDCALL ippsPolarToCart_64fc(const Ipp64f* pSrcMagn, const Ipp64f* pSrcPhase, Ipp64fc* pDst, int len);
 IppStatus SIG5D_CDECL ippsPolarToCart_64fc_Idx(const Ipp64f* pSrcMagn, int srcMagnIdx, const Ipp64f* pSrcPhase, int
         srcPhaseIdx, Ipp64fc* pDst, int dstIdx, int len);
 
 /* ---- Thresholds ---- */
 
-/* pDst[i] = pSrc[i] < level ? level : pSrc[i]. */
+/* pDst[i] = pSrc[i] < level ? level : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] < level ? level : pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsThreshold_LT_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
-IppStatus SIG5D_STDCALL ippsThreshold_LT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
-IppStatus SIG5D_CDECL ippsThreshold_LT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_CDECL ippsThreshold_LT_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
         Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_STDCALL ippsThreshold_LT_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
-IppStatus SIG5D_STDCALL ippsThreshold_LT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
-IppStatus SIG5D_CDECL ippsThreshold_LT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
 IppStatus SIG5D_CDECL ippsThreshold_LT_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
         Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+
+/* pDst[i] = pSrc[i] < level ? level : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] < level ? level : pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsThreshold_LT_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_LT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_LT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_LT_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
         Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+
+/* pDst[i] = |pSrc[i]|^2 < level^2 ? pSrc[i] / |pSrc[i]| * level : pSrc[i]; in place pSrcDst[i] = |pSrcDst[i]|^2 <
+   level^2 ? pSrcDst[i] / |pSrcDst[i]| * level : pSrcDst[i]. Raises magnitudes and keeps phases; 0 becomes (level,
+   0). */
 IppStatus SIG5D_STDCALL ippsThreshold_LT_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_LT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_LT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_LT_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
         Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 
-/* pDst[i] = pSrc[i] > level ? level : pSrc[i]. */
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] > level ? level : pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsThreshold_GT_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
-IppStatus SIG5D_STDCALL ippsThreshold_GT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
-IppStatus SIG5D_CDECL ippsThreshold_GT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_CDECL ippsThreshold_GT_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
         Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_STDCALL ippsThreshold_GT_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
-IppStatus SIG5D_STDCALL ippsThreshold_GT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
-IppStatus SIG5D_CDECL ippsThreshold_GT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
 IppStatus SIG5D_CDECL ippsThreshold_GT_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
         Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] > level ? level : pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsThreshold_GT_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_GT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_GT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_GT_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
         Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+
+/* pDst[i] = |pSrc[i]|^2 > level^2 ? pSrc[i] / |pSrc[i]| * level : pSrc[i]; in place pSrcDst[i] = |pSrcDst[i]|^2 >
+   level^2 ? pSrcDst[i] / |pSrcDst[i]| * level : pSrcDst[i]. Limits magnitudes and keeps phases. */
 IppStatus SIG5D_STDCALL ippsThreshold_GT_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_GT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
         Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GT_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GT_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 
-/* pDst[i] = |pSrc[i]| >= level ? pSrc[i] : pSrc[i] < 0 ? -level : level. Raises magnitudes and keeps signs; 0
-   becomes level. */
+/* pDst[i] = |pSrc[i]| >= level ? pSrc[i] : pSrc[i] < 0 ? -level : level; in place pSrcDst[i] = |pSrcDst[i]| >=
+   level ? pSrcDst[i] : pSrcDst[i] < 0 ? -level : level. Raises magnitudes and keeps signs; 0 becomes level. */
 IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
-IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
-IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
         Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
-IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
-IppStatus SIG5D_CDECL ippsThreshold_LTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
 IppStatus SIG5D_CDECL ippsThreshold_LTAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
         Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+
+/* pDst[i] = |pSrc[i]| >= level ? pSrc[i] : pSrc[i] < 0 ? -level : level; in place pSrcDst[i] = |pSrcDst[i]| >=
+   level ? pSrcDst[i] : pSrcDst[i] < 0 ? -level : level. Raises magnitudes and keeps signs; 0 and -0 become level. */
 IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_LTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_LTAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
         Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 
-/* pDst[i] = pSrc[i] > level ? level : pSrc[i] < -level ? -level : pSrc[i]. Limits magnitudes and keeps signs. */
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i] < -level ? -level : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] >
+   level ? level : pSrcDst[i] < -level ? -level : pSrcDst[i]. Limits magnitudes and keeps signs. */
 IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level);
-IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
-IppStatus SIG5D_CDECL ippsThreshold_GTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_CDECL ippsThreshold_GTAbs_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
         Ipp16s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level);
 IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s level);
-IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
-IppStatus SIG5D_CDECL ippsThreshold_GTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
 IppStatus SIG5D_CDECL ippsThreshold_GTAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
         Ipp32s level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_32s_I(Ipp32s* pSrcDst, int len, Ipp32s level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s level);
+
+/* pDst[i] = pSrc[i] > level ? level : pSrc[i] < -level ? -level : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] >
+   level ? level : pSrcDst[i] < -level ? -level : pSrcDst[i]. Limits magnitudes and keeps signs. */
 IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_GTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_GTAbs_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
         Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_GTAbs_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_GTAbs_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 
-/* pDst[i] = pSrc[i] < level ? value : pSrc[i]. */
+/* pDst[i] = pSrc[i] < level ? value : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] < level ? value : pSrcDst[i]. */
 IppStatus SIG5D_STDCALL ippsThreshold_LTVal_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s level, Ipp16s
-        value);
-IppStatus SIG5D_STDCALL ippsThreshold_LTVal_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level, Ipp16s value);
-IppStatus SIG5D_CDECL ippsThreshold_LTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
         value);
 IppStatus SIG5D_CDECL ippsThreshold_LTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
         Ipp16s level, Ipp16s value);
-IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_16s_I(Ipp16s* pSrcDst, int len, Ipp16s level, Ipp16s value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
         value);
-IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
-IppStatus SIG5D_CDECL ippsThreshold_LTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
+
+/* pDst[i] = pSrc[i] < level ? value : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] < level ? value : pSrcDst[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
         value);
 IppStatus SIG5D_CDECL ippsThreshold_LTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
         Ipp64f level, Ipp64f value);
-IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
         value);
-IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
-IppStatus SIG5D_CDECL ippsThreshold_LTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
+
+/* pDst[i] = |pSrc[i]|^2 < level^2 ? value : pSrc[i]; in place pSrcDst[i] = |pSrcDst[i]|^2 < level^2 ? value :
+   pSrcDst[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
         value);
 IppStatus SIG5D_CDECL ippsThreshold_LTVal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
         len, Ipp64f level, Ipp64fc value);
-
-/* pDst[i] = pSrc[i] > level ? value : pSrc[i]. */
-IppStatus SIG5D_CDECL ippsThreshold_GTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
+IppStatus SIG5D_STDCALL ippsThreshold_LTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
+IppStatus SIG5D_CDECL ippsThreshold_LTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
         value);
+
+/* pDst[i] = pSrc[i] > level ? value : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] > level ? value : pSrcDst[i]. */
 IppStatus SIG5D_CDECL ippsThreshold_GTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
         Ipp16s level, Ipp16s value);
-IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s level, Ipp16s
         value);
-IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
-IppStatus SIG5D_CDECL ippsThreshold_GTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
+
+/* pDst[i] = pSrc[i] > level ? value : pSrc[i]; in place pSrcDst[i] = pSrcDst[i] > level ? value : pSrcDst[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, Ipp64f
         value);
 IppStatus SIG5D_CDECL ippsThreshold_GTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
         Ipp64f level, Ipp64f value);
-IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, Ipp64f value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64f
         value);
-IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
-IppStatus SIG5D_CDECL ippsThreshold_GTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
+
+/* pDst[i] = |pSrc[i]|^2 > level^2 ? value : pSrc[i]; in place pSrcDst[i] = |pSrcDst[i]|^2 > level^2 ? value :
+   pSrcDst[i]. */
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, Ipp64fc
         value);
 IppStatus SIG5D_CDECL ippsThreshold_GTVal_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
         len, Ipp64f level, Ipp64fc value);
+IppStatus SIG5D_STDCALL ippsThreshold_GTVal_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, Ipp64fc value);
+IppStatus SIG5D_CDECL ippsThreshold_GTVal_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, Ipp64fc
+        value);
 
-/* pDst[i] = levelLT <= pSrc[i] <= levelGT ? pSrc[i] : pSrc[i] < levelLT ? valueLT : valueGT. */
+/* pDst[i] = levelLT <= pSrc[i] <= levelGT ? pSrc[i] : pSrc[i] < levelLT ? valueLT : valueGT; in place pSrcDst[i] =
+   levelLT <= pSrcDst[i] <= levelGT ? pSrcDst[i] : pSrcDst[i] < levelLT ? valueLT : valueGT. */
 IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, Ipp16s levelLT, Ipp16s
         valueLT, Ipp16s levelGT, Ipp16s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int
+        len, Ipp16s levelLT, Ipp16s valueLT, Ipp16s levelGT, Ipp16s valueGT);
 IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_16s_I(Ipp16s* pSrcDst, int len, Ipp16s levelLT, Ipp16s valueLT,
         Ipp16s levelGT, Ipp16s valueGT);
 IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, int len, Ipp16s levelLT,
         Ipp16s valueLT, Ipp16s levelGT, Ipp16s valueGT);
-IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int
-        len, Ipp16s levelLT, Ipp16s valueLT, Ipp16s levelGT, Ipp16s valueGT);
 IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, Ipp32s levelLT, Ipp32s
         valueLT, Ipp32s levelGT, Ipp32s valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int
+        len, Ipp32s levelLT, Ipp32s valueLT, Ipp32s levelGT, Ipp32s valueGT);
 IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_32s_I(Ipp32s* pSrcDst, int len, Ipp32s levelLT, Ipp32s valueLT,
         Ipp32s levelGT, Ipp32s valueGT);
 IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len, Ipp32s levelLT,
         Ipp32s valueLT, Ipp32s levelGT, Ipp32s valueGT);
-IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int
-        len, Ipp32s levelLT, Ipp32s valueLT, Ipp32s levelGT, Ipp32s valueGT);
+
+/* pDst[i] = levelLT <= pSrc[i] <= levelGT ? pSrc[i] : pSrc[i] < levelLT ? valueLT : valueGT; in place pSrcDst[i] =
+   levelLT <= pSrcDst[i] <= levelGT ? pSrcDst[i] : pSrcDst[i] < levelLT ? valueLT : valueGT. */
 IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f levelLT, Ipp64f
         valueLT, Ipp64f levelGT, Ipp64f valueGT);
+IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int
+        len, Ipp64f levelLT, Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
 IppStatus SIG5D_STDCALL ippsThreshold_LTValGTVal_64f_I(Ipp64f* pSrcDst, int len, Ipp64f levelLT, Ipp64f valueLT,
         Ipp64f levelGT, Ipp64f valueGT);
 IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f levelLT,
         Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
-IppStatus SIG5D_CDECL ippsThreshold_LTValGTVal_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int
-        len, Ipp64f levelLT, Ipp64f valueLT, Ipp64f levelGT, Ipp64f valueGT);
 
-/* relOp 0: pDst[i] = pSrc[i] < level ? level : pSrc[i]; relOp 4: pDst[i] = pSrc[i] > level ? level : pSrc[i].
-   Limits elements from below (relOp 0, "less than") or from above (relOp 4, "greater than"). */
+/* relOp 0: pDst[i] = pSrc[i] < level ? level : pSrc[i]; relOp 4: pDst[i] = pSrc[i] > level ? level : pSrc[i]; in
+   place relOp 0: pSrcDst[i] = pSrcDst[i] < level ? level : pSrcDst[i]; relOp 4: pSrcDst[i] = pSrcDst[i] > level ?
+   level : pSrcDst[i]. Limits elements from below (relOp 0, "less than") or from above (relOp 4, "greater than"). */
 IppStatus SIG5D_STDCALL ippsThreshold_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_STDCALL ippsThreshold_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_CDECL ippsThreshold_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
 IppStatus SIG5D_CDECL ippsThreshold_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
         level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
+
+/* relOp 0: as ippsThreshold_LT_64fc; relOp 4: as ippsThreshold_GT_64fc. Limits magnitudes from below (relOp 0,
+   "less than") or from above (relOp 4, "greater than") and keeps phases. */
 IppStatus SIG5D_STDCALL ippsThreshold_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_STDCALL ippsThreshold_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, int relOp);
-IppStatus SIG5D_CDECL ippsThreshold_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
 IppStatus SIG5D_CDECL ippsThreshold_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
         Ipp64f level, int relOp);
+IppStatus SIG5D_STDCALL ippsThreshold_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level, int relOp);
+IppStatus SIG5D_CDECL ippsThreshold_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level, int relOp);
 
-/* pDst[i] = |pSrc[i]| > level ? 1 / pSrc[i] : pSrc[i] < 0 ? -1 / level : 1 / level. Reciprocals, limited in
+/* pDst[i] = |pSrc[i]| > level ? 1 / pSrc[i] : pSrc[i] < 0 ? -1 / level : 1 / level; in place pSrcDst[i] =
+   |pSrcDst[i]| > level ? 1 / pSrcDst[i] : pSrcDst[i] < 0 ? -1 / level : 1 / level. Reciprocals, limited in
    magnitude to that of the level. */
 IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_LTInv_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_LTInv_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
         Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64f_I(Ipp64f* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f level);
+
+/* pDst[i] = 1 / (|pSrc[i]|^2 < level^2 ? pSrc[i] / |pSrc[i]| * level : pSrc[i]); in place pSrcDst[i] = 1 /
+   (|pSrcDst[i]|^2 < level^2 ? pSrcDst[i] / |pSrcDst[i]| * level : pSrcDst[i]). Reciprocals, limited in magnitude
+   to that of the level. The element 0 becomes (1/level, 0). */
 IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f level);
-IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
-IppStatus SIG5D_CDECL ippsThreshold_LTInv_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 IppStatus SIG5D_CDECL ippsThreshold_LTInv_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
         len, Ipp64f level);
+IppStatus SIG5D_STDCALL ippsThreshold_LTInv_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f level);
+IppStatus SIG5D_CDECL ippsThreshold_LTInv_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f level);
 
 /* ---- Status texts, processor variants, version ---- */
 
@@ -1312,10 +1420,10 @@ Ipp64u SIG5D_STDCALL ippGetEnabledCpuFeatures(void);
    bytes, or the heap has no such block. The elements are not cleared. `ippsFree` releases it. */
 Ipp32s* SIG5D_STDCALL ippsMalloc_32s(int len);
 Ipp32s* SIG5D_CDECL ippsMalloc_32s_Idx(int len);
-Ipp32sc* SIG5D_STDCALL ippsMalloc_32sc(int len);
-Ipp32sc* SIG5D_CDECL ippsMalloc_32sc_Idx(int len);
 Ipp64f* SIG5D_STDCALL ippsMalloc_64f(int len);
 Ipp64f* SIG5D_CDECL ippsMalloc_64f_Idx(int len);
+Ipp32sc* SIG5D_STDCALL ippsMalloc_32sc(int len);
+Ipp32sc* SIG5D_CDECL ippsMalloc_32sc_Idx(int len);
 Ipp64fc* SIG5D_STDCALL ippsMalloc_64fc(int len);
 Ipp64fc* SIG5D_CDECL ippsMalloc_64fc_Idx(int len);
 
@@ -1353,19 +1461,19 @@ IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
    source; the destination receives cols rows of rows elements. Bits are moved. */
 void SIG5D_CDECL TransposeMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride);
-void SIG5D_CDECL TransposeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned
-        int srcStride, unsigned int dstStride);
-void SIG5D_CDECL TransposeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+void SIG5D_CDECL TransposeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride);
 void SIG5D_CDECL TransposeMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned
         int srcStride, unsigned int dstStride);
 void SIG5D_CDECL TransposeMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
+void SIG5D_CDECL TransposeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
 void SIG5D_CDECL TransposeMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride);
 void SIG5D_CDECL TransposeMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
-        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
-void SIG5D_CDECL TransposeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride);
 void SIG5D_CDECL TransposeMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride);
@@ -1381,13 +1489,13 @@ void SIG5D_CDECL AdjungateMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* d
 
 /* a(i, j) and a(j, i) exchanged for i > j. Transposes in place; the diagonal is not touched. */
 void SIG5D_CDECL TransposeSquareMatrix(Ipp64f* a, unsigned int n, unsigned int stride);
-void SIG5D_CDECL TransposeSquareMatrix_16s(Ipp16s* a, unsigned int n, unsigned int stride);
-void SIG5D_CDECL TransposeSquareMatrix_16s_Idx(Ipp16s* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_Idx(Ipp64f* a, int aIdx, unsigned int n, unsigned int stride);
 void SIG5D_CDECL TransposeSquareMatrix_32s(Ipp32s* a, unsigned int n, unsigned int stride);
 void SIG5D_CDECL TransposeSquareMatrix_32s_Idx(Ipp32s* a, int aIdx, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_16s(Ipp16s* a, unsigned int n, unsigned int stride);
+void SIG5D_CDECL TransposeSquareMatrix_16s_Idx(Ipp16s* a, int aIdx, unsigned int n, unsigned int stride);
 void SIG5D_CDECL TransposeSquareMatrix_8u(Ipp8u* a, unsigned int n, unsigned int stride);
 void SIG5D_CDECL TransposeSquareMatrix_8u_Idx(Ipp8u* a, int aIdx, unsigned int n, unsigned int stride);
-void SIG5D_CDECL TransposeSquareMatrix_Idx(Ipp64f* a, int aIdx, unsigned int n, unsigned int stride);
 void SIG5D_CDECL TransposeSquareMatrixc(Ipp64fc* a, unsigned int n, unsigned int stride);
 void SIG5D_CDECL TransposeSquareMatrixc_Idx(Ipp64fc* a, int aIdx, unsigned int n, unsigned int stride);
 
@@ -1401,10 +1509,7 @@ void SIG5D_CDECL AdjungateSquareMatrixc_Idx(Ipp64fc* a, int aIdx, unsigned int n
 void SIG5D_CDECL CopySubMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int srcRow, unsigned int srcCol, unsigned int
         dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
         dstStride);
-void SIG5D_CDECL CopySubMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int srcRow, unsigned int srcCol, unsigned
-        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
-        dstStride);
-void SIG5D_CDECL CopySubMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int srcRow,
+void SIG5D_CDECL CopySubMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int srcRow,
         unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
         int srcStride, unsigned int dstStride);
 void SIG5D_CDECL CopySubMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int srcRow, unsigned int srcCol, unsigned
@@ -1413,13 +1518,16 @@ void SIG5D_CDECL CopySubMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int 
 void SIG5D_CDECL CopySubMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int srcRow,
         unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
         int srcStride, unsigned int dstStride);
+void SIG5D_CDECL CopySubMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int srcRow, unsigned int srcCol, unsigned
+        int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
+        dstStride);
+void SIG5D_CDECL CopySubMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int srcRow,
+        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
+        int srcStride, unsigned int dstStride);
 void SIG5D_CDECL CopySubMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int srcRow, unsigned int srcCol, unsigned int
         dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned int srcStride, unsigned int
         dstStride);
 void SIG5D_CDECL CopySubMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int srcRow,
-        unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
-        int srcStride, unsigned int dstStride);
-void SIG5D_CDECL CopySubMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int srcRow,
         unsigned int srcCol, unsigned int dstRow, unsigned int dstCol, unsigned int rows, unsigned int cols, unsigned
         int srcStride, unsigned int dstStride);
 void SIG5D_CDECL CopySubMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int srcRow, unsigned int srcCol, unsigned
@@ -1434,19 +1542,19 @@ void SIG5D_CDECL CopySubMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst
    the new size. */
 void SIG5D_CDECL ResizeMatrix(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride);
-void SIG5D_CDECL ResizeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
-        srcStride, unsigned int dstStride);
-void SIG5D_CDECL ResizeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
-        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride);
 void SIG5D_CDECL ResizeMatrix_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride);
 void SIG5D_CDECL ResizeMatrix_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride);
+void SIG5D_CDECL ResizeMatrix_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride);
 void SIG5D_CDECL ResizeMatrix_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride);
 void SIG5D_CDECL ResizeMatrix_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows, unsigned
-        int cols, unsigned int srcStride, unsigned int dstStride);
-void SIG5D_CDECL ResizeMatrix_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
         int cols, unsigned int srcStride, unsigned int dstStride);
 void SIG5D_CDECL ResizeMatrixc(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride);
@@ -1456,19 +1564,19 @@ void SIG5D_CDECL ResizeMatrixc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst,
 /* a(row1, k) and a(row2, k) exchanged for k < cols. A row exchanged with itself stays as it is. Bits are moved,
    both parts of complex elements together. */
 void SIG5D_CDECL RowExchange(Ipp64f* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int stride);
-void SIG5D_CDECL RowExchange_16s(Ipp16s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
-        stride);
-void SIG5D_CDECL RowExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+void SIG5D_CDECL RowExchange_Idx(Ipp64f* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
         unsigned int stride);
 void SIG5D_CDECL RowExchange_32s(Ipp32s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
         stride);
 void SIG5D_CDECL RowExchange_32s_Idx(Ipp32s* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
         unsigned int stride);
+void SIG5D_CDECL RowExchange_16s(Ipp16s* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
+        stride);
+void SIG5D_CDECL RowExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
+        unsigned int stride);
 void SIG5D_CDECL RowExchange_8u(Ipp8u* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
         stride);
 void SIG5D_CDECL RowExchange_8u_Idx(Ipp8u* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
-        unsigned int stride);
-void SIG5D_CDECL RowExchange_Idx(Ipp64f* a, int aIdx, unsigned int row1, unsigned int row2, unsigned int cols,
         unsigned int stride);
 void SIG5D_CDECL RowExchangec(Ipp64fc* a, unsigned int row1, unsigned int row2, unsigned int cols, unsigned int
         stride);
@@ -1478,19 +1586,19 @@ void SIG5D_CDECL RowExchangec_Idx(Ipp64fc* a, int aIdx, unsigned int row1, unsig
 /* a(k, col1) and a(k, col2) exchanged for k < rows. A column exchanged with itself stays as it is. Bits are moved,
    both parts of complex elements together. */
 void SIG5D_CDECL ColExchange(Ipp64f* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int stride);
-void SIG5D_CDECL ColExchange_16s(Ipp16s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
-        stride);
-void SIG5D_CDECL ColExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+void SIG5D_CDECL ColExchange_Idx(Ipp64f* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
         unsigned int stride);
 void SIG5D_CDECL ColExchange_32s(Ipp32s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
         stride);
 void SIG5D_CDECL ColExchange_32s_Idx(Ipp32s* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
         unsigned int stride);
+void SIG5D_CDECL ColExchange_16s(Ipp16s* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
+        stride);
+void SIG5D_CDECL ColExchange_16s_Idx(Ipp16s* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
+        unsigned int stride);
 void SIG5D_CDECL ColExchange_8u(Ipp8u* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
         stride);
 void SIG5D_CDECL ColExchange_8u_Idx(Ipp8u* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
-        unsigned int stride);
-void SIG5D_CDECL ColExchange_Idx(Ipp64f* a, int aIdx, unsigned int col1, unsigned int col2, unsigned int rows,
         unsigned int stride);
 void SIG5D_CDECL ColExchangec(Ipp64fc* a, unsigned int col1, unsigned int col2, unsigned int rows, unsigned int
         stride);
@@ -1501,20 +1609,20 @@ void SIG5D_CDECL ColExchangec_Idx(Ipp64fc* a, int aIdx, unsigned int col1, unsig
    outside the triangle keep their contents. */
 void SIG5D_CDECL LowerTriangle(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
-void SIG5D_CDECL LowerTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
-        srcStride, unsigned int dstStride, int diagonal);
-void SIG5D_CDECL LowerTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
-        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL LowerTriangle_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL LowerTriangle_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL LowerTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL LowerTriangle_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL LowerTriangle_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
-void SIG5D_CDECL LowerTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
-        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL LowerTrianglec(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL LowerTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
@@ -1524,20 +1632,20 @@ void SIG5D_CDECL LowerTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst
    outside the triangle keep their contents. */
 void SIG5D_CDECL UpperTriangle(const Ipp64f* src, Ipp64f* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
-void SIG5D_CDECL UpperTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
-        srcStride, unsigned int dstStride, int diagonal);
-void SIG5D_CDECL UpperTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
-        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
+        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL UpperTriangle_32s(const Ipp32s* src, Ipp32s* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL UpperTriangle_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int rows,
+        unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_16s(const Ipp16s* src, Ipp16s* dst, unsigned int rows, unsigned int cols, unsigned int
+        srcStride, unsigned int dstStride, int diagonal);
+void SIG5D_CDECL UpperTriangle_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL UpperTriangle_8u(const Ipp8u* src, Ipp8u* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL UpperTriangle_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int rows,
         unsigned int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
-void SIG5D_CDECL UpperTriangle_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int rows, unsigned
-        int cols, unsigned int srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL UpperTrianglec(const Ipp64fc* src, Ipp64fc* dst, unsigned int rows, unsigned int cols, unsigned int
         srcStride, unsigned int dstStride, int diagonal);
 void SIG5D_CDECL UpperTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int rows,
@@ -1547,20 +1655,20 @@ void SIG5D_CDECL UpperTrianglec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst
    matrices. */
 void SIG5D_CDECL ZeroLowerTriangle(Ipp64f* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
-void SIG5D_CDECL ZeroLowerTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
-        diagonal);
-void SIG5D_CDECL ZeroLowerTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
-        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
+        int diagonal);
 void SIG5D_CDECL ZeroLowerTriangle_32s(Ipp32s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
 void SIG5D_CDECL ZeroLowerTriangle_32s_Idx(Ipp32s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroLowerTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
         stride, int diagonal);
 void SIG5D_CDECL ZeroLowerTriangle_8u(Ipp8u* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
 void SIG5D_CDECL ZeroLowerTriangle_8u_Idx(Ipp8u* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
         stride, int diagonal);
-void SIG5D_CDECL ZeroLowerTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
-        int diagonal);
 void SIG5D_CDECL ZeroLowerTrianglec(Ipp64fc* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
 void SIG5D_CDECL ZeroLowerTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
@@ -1570,20 +1678,20 @@ void SIG5D_CDECL ZeroLowerTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows,
    matrices. */
 void SIG5D_CDECL ZeroUpperTriangle(Ipp64f* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
-void SIG5D_CDECL ZeroUpperTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
-        diagonal);
-void SIG5D_CDECL ZeroUpperTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
-        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
+        int diagonal);
 void SIG5D_CDECL ZeroUpperTriangle_32s(Ipp32s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
 void SIG5D_CDECL ZeroUpperTriangle_32s_Idx(Ipp32s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
+        stride, int diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_16s(Ipp16s* a, unsigned int rows, unsigned int cols, unsigned int stride, int
+        diagonal);
+void SIG5D_CDECL ZeroUpperTriangle_16s_Idx(Ipp16s* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
         stride, int diagonal);
 void SIG5D_CDECL ZeroUpperTriangle_8u(Ipp8u* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
 void SIG5D_CDECL ZeroUpperTriangle_8u_Idx(Ipp8u* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
         stride, int diagonal);
-void SIG5D_CDECL ZeroUpperTriangle_Idx(Ipp64f* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int stride,
-        int diagonal);
 void SIG5D_CDECL ZeroUpperTrianglec(Ipp64fc* a, unsigned int rows, unsigned int cols, unsigned int stride, int
         diagonal);
 void SIG5D_CDECL ZeroUpperTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows, unsigned int cols, unsigned int
@@ -1593,13 +1701,13 @@ void SIG5D_CDECL ZeroUpperTrianglec_Idx(Ipp64fc* a, int aIdx, unsigned int rows,
 
 /* bit i of words[w] = src[offset+32*w+i] != 0. Packs one bit an element, the first into the lowest bit. Bits
    beyond `end` are 0. */
-void SIG5D_CDECL BitPack_16s(const Ipp16s* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
-        nWords);
-void SIG5D_CDECL BitPack_16s_Idx(const Ipp16s* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
-        int wordsIdx, unsigned int nWords);
 void SIG5D_CDECL BitPack_32s(const Ipp32s* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
         nWords);
 void SIG5D_CDECL BitPack_32s_Idx(const Ipp32s* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
+        int wordsIdx, unsigned int nWords);
+void SIG5D_CDECL BitPack_16s(const Ipp16s* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
+        nWords);
+void SIG5D_CDECL BitPack_16s_Idx(const Ipp16s* src, int srcIdx, unsigned int offset, unsigned int end, Ipp32u* words,
         int wordsIdx, unsigned int nWords);
 void SIG5D_CDECL BitPack_8u(const Ipp8u* src, unsigned int offset, unsigned int end, Ipp32u* words, unsigned int
         nWords);
@@ -1607,13 +1715,13 @@ void SIG5D_CDECL BitPack_8u_Idx(const Ipp8u* src, int srcIdx, unsigned int offse
         int wordsIdx, unsigned int nWords);
 
 /* dst[offset+i] = bit i%32 of words[i/32]. Writes 1 or 0 for each bit, the lowest first. `reserved` is ignored. */
-void SIG5D_CDECL BitUnpack_16s(const Ipp32u* words, unsigned int reserved, Ipp16s* dst, unsigned int offset, unsigned
-        int n);
-void SIG5D_CDECL BitUnpack_16s_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp16s* dst, int dstIdx,
-        unsigned int offset, unsigned int n);
 void SIG5D_CDECL BitUnpack_32s(const Ipp32u* words, unsigned int reserved, Ipp32s* dst, unsigned int offset, unsigned
         int n);
 void SIG5D_CDECL BitUnpack_32s_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp32s* dst, int dstIdx,
+        unsigned int offset, unsigned int n);
+void SIG5D_CDECL BitUnpack_16s(const Ipp32u* words, unsigned int reserved, Ipp16s* dst, unsigned int offset, unsigned
+        int n);
+void SIG5D_CDECL BitUnpack_16s_Idx(const Ipp32u* words, int wordsIdx, unsigned int reserved, Ipp16s* dst, int dstIdx,
         unsigned int offset, unsigned int n);
 void SIG5D_CDECL BitUnpack_8u(const Ipp32u* words, unsigned int reserved, Ipp8u* dst, unsigned int offset, unsigned
         int n);
@@ -1668,6 +1776,8 @@ void SIG5D_CDECL HistogramSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f scale, I
    at an address that is no multiple of 8, there are none. Otherwise they begin at p = 0 when the values are
    16-byte aligned, else at p = 1, and there are 4*((n-p)/8) of them, rounded down; none when n < p+8. */
 void SIG5D_CDECL HistoSum(const Ipp32u* bins, const Ipp64f* values, Ipp64f* sums, unsigned int n);
+
+/* sums[bins[k]] += values[k], by pairs. */
 void SIG5D_CDECL HistoSum_Idx(const Ipp32u* bins, int binsIdx, const Ipp64f* values, int valuesIdx, Ipp64f* sums, int
         sumsIdx, unsigned int n);
 
@@ -1675,23 +1785,23 @@ void SIG5D_CDECL HistoSum_Idx(const Ipp32u* bins, int binsIdx, const Ipp64f* val
 
 /* mask[k] = src[k] ? value, ? by code: 0 <, 1 <=, 2 >, 3 >=, 4 ==, 5 !=. A mask for the packs and unpacks: 1 where
    the comparison holds, 0 where it does not. Another code leaves the mask as it is. 8u is unsigned. */
-void SIG5D_CDECL FindMaskC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32s* mask, int
-        maskIdx, unsigned int n);
 void SIG5D_CDECL FindMaskC_32s_Idx(unsigned int code, const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* mask, int
         maskIdx, unsigned int n);
-void SIG5D_CDECL FindMaskC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32s* mask, int
+void SIG5D_CDECL FindMaskC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32s* mask, int
         maskIdx, unsigned int n);
 void SIG5D_CDECL FindMaskC_8u_Idx(unsigned int code, const Ipp8u* src, int srcIdx, Ipp8u value, Ipp32s* mask, int
         maskIdx, unsigned int n);
+void SIG5D_CDECL FindMaskC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32s* mask, int
+        maskIdx, unsigned int n);
 
 /* mask[k] = src1[k] ? src2[k], ? by code as for FindMaskC. */
-void SIG5D_CDECL FindMask_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int src2Idx,
-        Ipp32s* mask, int maskIdx, unsigned int n);
 void SIG5D_CDECL FindMask_32s_Idx(unsigned int code, const Ipp32s* src1, int src1Idx, const Ipp32s* src2, int src2Idx,
         Ipp32s* mask, int maskIdx, unsigned int n);
-void SIG5D_CDECL FindMask_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int src2Idx,
+void SIG5D_CDECL FindMask_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int src2Idx,
         Ipp32s* mask, int maskIdx, unsigned int n);
 void SIG5D_CDECL FindMask_8u_Idx(unsigned int code, const Ipp8u* src1, int src1Idx, const Ipp8u* src2, int src2Idx,
+        Ipp32s* mask, int maskIdx, unsigned int n);
+void SIG5D_CDECL FindMask_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int src2Idx,
         Ipp32s* mask, int maskIdx, unsigned int n);
 
 /* *count = number of k with src[k] > value. NaNs count nothing. */
@@ -1701,31 +1811,29 @@ void SIG5D_CDECL CountGT_Idx(const Ipp64f* src, int srcIdx, Ipp64f value, unsign
 /* indexes[(*count)++] = k for each k with src[k] ? value, ? by code as for FindMaskC. The positions, counted from
    src[0], where the comparison holds, in increasing order. The list needs room for no more than these. Another
    code finds nothing: the count is 0. */
-void SIG5D_CDECL FindIndexesC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32u* indexes,
-        int indexesIdx, unsigned int n, unsigned int* count);
 void SIG5D_CDECL FindIndexesC_32s_Idx(unsigned int code, const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32u* indexes,
         int indexesIdx, unsigned int n, unsigned int* count);
-void SIG5D_CDECL FindIndexesC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32u* indexes,
+void SIG5D_CDECL FindIndexesC_16s_Idx(unsigned int code, const Ipp16s* src, int srcIdx, Ipp16s value, Ipp32u* indexes,
         int indexesIdx, unsigned int n, unsigned int* count);
 void SIG5D_CDECL FindIndexesC_8u_Idx(unsigned int code, const Ipp8u* src, int srcIdx, Ipp8u value, Ipp32u* indexes,
+        int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexesC_64f_Idx(unsigned int code, const Ipp64f* src, int srcIdx, Ipp64f value, Ipp32u* indexes,
         int indexesIdx, unsigned int n, unsigned int* count);
 
 /* indexes[(*count)++] = k for each k with src1[k] ? src2[k], ? by code as for FindMaskC. As FindIndexesC, with two
    arrays. */
-void SIG5D_CDECL FindIndexes_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int
-        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
 void SIG5D_CDECL FindIndexes_32s_Idx(unsigned int code, const Ipp32s* src1, int src1Idx, const Ipp32s* src2, int
         src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
-void SIG5D_CDECL FindIndexes_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int
+void SIG5D_CDECL FindIndexes_16s_Idx(unsigned int code, const Ipp16s* src1, int src1Idx, const Ipp16s* src2, int
         src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
 void SIG5D_CDECL FindIndexes_8u_Idx(unsigned int code, const Ipp8u* src1, int src1Idx, const Ipp8u* src2, int src2Idx,
         Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
+void SIG5D_CDECL FindIndexes_64f_Idx(unsigned int code, const Ipp64f* src1, int src1Idx, const Ipp64f* src2, int
+        src2Idx, Ipp32u* indexes, int indexesIdx, unsigned int n, unsigned int* count);
 
 /* ---- Pack and unpack by increment, index and mask ---- */
 
 /* dst[k] = src[k*inc]. Gathers every inc-th element. An increment of 0 fills the destination with src[0]. */
-void SIG5D_CDECL vbpacki(unsigned int n, const Ipp8u* src, unsigned int inc, Ipp8u* dst);
-void SIG5D_CDECL vbpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, unsigned int inc, Ipp8u* dst, int dstIdx);
 void SIG5D_CDECL vdpackic(unsigned int n, const Ipp64fc* src, unsigned int inc, Ipp64fc* dst);
 void SIG5D_CDECL vdpackic_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, unsigned int inc, Ipp64fc* dst, int
         dstIdx);
@@ -1735,12 +1843,11 @@ void SIG5D_CDECL vipacki_Idx(unsigned int n, const Ipp32s* src, int srcIdx, unsi
 void SIG5D_CDECL vspacki(unsigned int n, const Ipp16s* src, unsigned int inc, Ipp16s* dst);
 void SIG5D_CDECL vspacki_Idx(unsigned int n, const Ipp16s* src, int srcIdx, unsigned int inc, Ipp16s* dst, int
         dstIdx);
+void SIG5D_CDECL vbpacki(unsigned int n, const Ipp8u* src, unsigned int inc, Ipp8u* dst);
+void SIG5D_CDECL vbpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, unsigned int inc, Ipp8u* dst, int dstIdx);
 
 /* dst[k*inc] = src[k]. Scatters to every inc-th element; the elements between keep their values. With an increment
    of 0 the last element of the source remains in dst[0]. */
-void SIG5D_CDECL vbunpacki(unsigned int n, const Ipp8u* src, Ipp8u* dst, unsigned int inc);
-void SIG5D_CDECL vbunpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int
-        inc);
 void SIG5D_CDECL vdunpackic(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, unsigned int inc);
 void SIG5D_CDECL vdunpackic_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int
         inc);
@@ -1750,12 +1857,12 @@ void SIG5D_CDECL viunpacki_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ip
 void SIG5D_CDECL vsunpacki(unsigned int n, const Ipp16s* src, Ipp16s* dst, unsigned int inc);
 void SIG5D_CDECL vsunpacki_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int
         inc);
+void SIG5D_CDECL vbunpacki(unsigned int n, const Ipp8u* src, Ipp8u* dst, unsigned int inc);
+void SIG5D_CDECL vbunpacki_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int
+        inc);
 
 /* dst[k] = src[index[k]]. Gathers by 0-based indexes, which are used as they are. Only the elements that an index
    names are read. */
-void SIG5D_CDECL vbpackv(unsigned int n, const Ipp8u* src, const Ipp32u* index, Ipp8u* dst);
-void SIG5D_CDECL vbpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp8u*
-        dst, int dstIdx);
 void SIG5D_CDECL vdpackvc(unsigned int n, const Ipp64fc* src, const Ipp32u* index, Ipp64fc* dst);
 void SIG5D_CDECL vdpackvc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, const Ipp32u* index, int indexIdx,
         Ipp64fc* dst, int dstIdx);
@@ -1765,12 +1872,12 @@ void SIG5D_CDECL vipackv_Idx(unsigned int n, const Ipp32s* src, int srcIdx, cons
 void SIG5D_CDECL vspackv(unsigned int n, const Ipp16s* src, const Ipp32u* index, Ipp16s* dst);
 void SIG5D_CDECL vspackv_Idx(unsigned int n, const Ipp16s* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp16s*
         dst, int dstIdx);
+void SIG5D_CDECL vbpackv(unsigned int n, const Ipp8u* src, const Ipp32u* index, Ipp8u* dst);
+void SIG5D_CDECL vbpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32u* index, int indexIdx, Ipp8u*
+        dst, int dstIdx);
 
 /* dst[index[k]] = src[k]. Scatters by 0-based indexes, which are used as they are. The last of several elements
    for one index remains; elements without an index keep their values. */
-void SIG5D_CDECL vbunpackv(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32u* index);
-void SIG5D_CDECL vbunpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32u*
-        index, int indexIdx);
 void SIG5D_CDECL vdunpackvc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32u* index);
 void SIG5D_CDECL vdunpackvc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const
         Ipp32u* index, int indexIdx);
@@ -1780,12 +1887,12 @@ void SIG5D_CDECL viunpackv_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ip
 void SIG5D_CDECL vsunpackv(unsigned int n, const Ipp16s* src, Ipp16s* dst, const Ipp32u* index);
 void SIG5D_CDECL vsunpackv_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, const Ipp32u*
         index, int indexIdx);
+void SIG5D_CDECL vbunpackv(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32u* index);
+void SIG5D_CDECL vbunpackv_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32u*
+        index, int indexIdx);
 
 /* dst[j++] = src[k] for each k with mask[k] > 0. Collects the selected elements, those whose mask is positive. The
    destination needs room for no more than these; elements beyond them keep their values. */
-void SIG5D_CDECL vbpackm(unsigned int n, const Ipp8u* src, const Ipp32s* mask, Ipp8u* dst);
-void SIG5D_CDECL vbpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp8u*
-        dst, int dstIdx);
 void SIG5D_CDECL vdpackmc(unsigned int n, const Ipp64fc* src, const Ipp32s* mask, Ipp64fc* dst);
 void SIG5D_CDECL vdpackmc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, const Ipp32s* mask, int maskIdx,
         Ipp64fc* dst, int dstIdx);
@@ -1794,6 +1901,9 @@ void SIG5D_CDECL vipackm_Idx(unsigned int n, const Ipp32s* src, int srcIdx, cons
         dst, int dstIdx);
 void SIG5D_CDECL vspackm(unsigned int n, const Ipp16s* src, const Ipp32s* mask, Ipp16s* dst);
 void SIG5D_CDECL vspackm_Idx(unsigned int n, const Ipp16s* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp16s*
+        dst, int dstIdx);
+void SIG5D_CDECL vbpackm(unsigned int n, const Ipp8u* src, const Ipp32s* mask, Ipp8u* dst);
+void SIG5D_CDECL vbpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, const Ipp32s* mask, int maskIdx, Ipp8u*
         dst, int dstIdx);
 
 /* dst[j++] = src[k] for each k with mask[k] > 0. As the vpackm family, with the destination before the mask; the
@@ -1808,9 +1918,6 @@ unsigned int SIG5D_CDECL PackByMaskc_Idx(unsigned int n, const Ipp64fc* src, int
 /* dst[k] = src[j++] for each k with mask[k] > 0. Distributes the source over the selected elements, those whose
    mask is positive. The source needs no more elements than are selected; elements that are not selected keep their
    values. */
-void SIG5D_CDECL vbunpackm(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32s* mask);
-void SIG5D_CDECL vbunpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32s*
-        mask, int maskIdx);
 void SIG5D_CDECL vdunpackmc(unsigned int n, const Ipp64fc* src, Ipp64fc* dst, const Ipp32s* mask);
 void SIG5D_CDECL vdunpackmc_Idx(unsigned int n, const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const
         Ipp32s* mask, int maskIdx);
@@ -1819,6 +1926,9 @@ void SIG5D_CDECL viunpackm_Idx(unsigned int n, const Ipp32s* src, int srcIdx, Ip
         mask, int maskIdx);
 void SIG5D_CDECL vsunpackm(unsigned int n, const Ipp16s* src, Ipp16s* dst, const Ipp32s* mask);
 void SIG5D_CDECL vsunpackm_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, const Ipp32s*
+        mask, int maskIdx);
+void SIG5D_CDECL vbunpackm(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32s* mask);
+void SIG5D_CDECL vbunpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32s*
         mask, int maskIdx);
 
 /* ---- FIR filters ---- */
@@ -1842,14 +1952,18 @@ IppStatus SIG5D_CDECL ippsFIRSRInit_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, 
    not null, receives the last tapsLen-1 samples for the next call. */
 IppStatus SIG5D_STDCALL ippsFIRSR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int numIters, const IppsFIRSpec_64f* pSpec,
         const Ipp64f* pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsFIRSR_64f_I_Idx(Ipp64f* pSrcDst, int idx, int numIters, IppsFIRHandle_64f* pHandle);
-IppStatus SIG5D_CDECL ippsFIRSR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
-        IppsFIRHandle_64f* pHandle);
 IppStatus SIG5D_STDCALL ippsFIRSR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int numIters, const IppsFIRSpec_64fc*
         pSpec, const Ipp64fc* pDlySrc, Ipp64fc* pDlyDst, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsFIRSR_64fc_I_Idx(Ipp64fc* pSrcDst, int idx, int numIters, IppsFIRHandle_64fc* pHandle);
+
+/* pDst[n] = sum over k = 0..tapsLen-1 of taps[k] * x[n-k]; in place pSrcDst[n] = sum over k = 0..tapsLen-1 of
+   taps[k] * x[n-k]. Filters the next numIters samples of the stream that a handle of ippsFIRSRInitAlloc carries
+   from call to call: several calls give what one over all the samples gives. */
+IppStatus SIG5D_CDECL ippsFIRSR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
+        IppsFIRHandle_64f* pHandle);
+IppStatus SIG5D_CDECL ippsFIRSR_64f_I_Idx(Ipp64f* pSrcDst, int idx, int numIters, IppsFIRHandle_64f* pHandle);
 IppStatus SIG5D_CDECL ippsFIRSR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int numIters,
         IppsFIRHandle_64fc* pHandle);
+IppStatus SIG5D_CDECL ippsFIRSR_64fc_I_Idx(Ipp64fc* pSrcDst, int idx, int numIters, IppsFIRHandle_64fc* pHandle);
 
 /* The bytes of a specification and of a work buffer for a multi-rate filter. With both factors 1 the answer is
    that of ippsFIRSRGetSize. */
@@ -1873,14 +1987,18 @@ IppStatus SIG5D_CDECL ippsFIRMRInit_64fc_Idx(const Ipp64fc* pTaps, int tapsIdx, 
    (tapsLen+upFactor-1)/upFactor samples. */
 IppStatus SIG5D_STDCALL ippsFIRMR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int numIters, const IppsFIRSpec_64f* pSpec,
         const Ipp64f* pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsFIRMR_64f_I_Idx(Ipp64f* pSrcDst, int idx, int numIters, IppsFIRHandle_64f* pHandle);
-IppStatus SIG5D_CDECL ippsFIRMR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
-        IppsFIRHandle_64f* pHandle);
 IppStatus SIG5D_STDCALL ippsFIRMR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int numIters, const IppsFIRSpec_64fc*
         pSpec, const Ipp64fc* pDlySrc, Ipp64fc* pDlyDst, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsFIRMR_64fc_I_Idx(Ipp64fc* pSrcDst, int idx, int numIters, IppsFIRHandle_64fc* pHandle);
+
+/* pDst[j] = sum over i of taps[j*downFactor + downPhase - upPhase - i*upFactor] * x[i]; in place pSrcDst[j] = sum
+   over i of taps[j*downFactor + downPhase - upPhase - i*upFactor] * x[i]. Resamples the next numIters*downFactor
+   samples of the stream that a handle of ippsFIRMRInitAlloc carries from call to call. */
+IppStatus SIG5D_CDECL ippsFIRMR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
+        IppsFIRHandle_64f* pHandle);
+IppStatus SIG5D_CDECL ippsFIRMR_64f_I_Idx(Ipp64f* pSrcDst, int idx, int numIters, IppsFIRHandle_64f* pHandle);
 IppStatus SIG5D_CDECL ippsFIRMR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int numIters,
         IppsFIRHandle_64fc* pHandle);
+IppStatus SIG5D_CDECL ippsFIRMR_64fc_I_Idx(Ipp64fc* pSrcDst, int idx, int numIters, IppsFIRHandle_64fc* pHandle);
 
 /* Allocates a single-rate filter with its delay line (zeros) and buffer, and initialises it; to be released by
    ippsFIRSRFree_Idx. */
@@ -1911,19 +2029,21 @@ IppStatus SIG5D_CDECL ippsFIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, const I
 
 /* ---- Integer conversions and byte statistics ---- */
 
-/* dst[i] = src[i]. */
-void SIG5D_CDECL Convert_16s64f(const Ipp16s* src, Ipp64f* dst, unsigned int len);
-void SIG5D_CDECL Convert_16s64f_Idx(const Ipp16s* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
-void SIG5D_CDECL Convert_16s8u(const Ipp16s* src, Ipp8u* dst, unsigned int len);
-void SIG5D_CDECL Convert_16s8u_Idx(const Ipp16s* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+/* dst[i] = min(max(src[i], 0), 255). */
 void SIG5D_CDECL Convert_32s8u(const Ipp32s* src, Ipp8u* dst, unsigned int len);
 void SIG5D_CDECL Convert_32s8u_Idx(const Ipp32s* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Convert_16s8u(const Ipp16s* src, Ipp8u* dst, unsigned int len);
+void SIG5D_CDECL Convert_16s8u_Idx(const Ipp16s* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = src[i]. */
 void SIG5D_CDECL Convert_8u16s(const Ipp8u* src, Ipp16s* dst, unsigned int len);
 void SIG5D_CDECL Convert_8u16s_Idx(const Ipp8u* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
 void SIG5D_CDECL Convert_8u32s(const Ipp8u* src, Ipp32s* dst, unsigned int len);
 void SIG5D_CDECL Convert_8u32s_Idx(const Ipp8u* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len);
 void SIG5D_CDECL Convert_8u64f(const Ipp8u* src, Ipp64f* dst, unsigned int len);
 void SIG5D_CDECL Convert_8u64f_Idx(const Ipp8u* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Convert_16s64f(const Ipp16s* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Convert_16s64f_Idx(const Ipp16s* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
 
 /* *max = the largest src[i]. */
 void SIG5D_CDECL Max_8u(const Ipp8u* src, unsigned int len, Ipp8u* max);
@@ -1959,72 +2079,73 @@ void SIG5D_CDECL Sum_8u32s_SFS_Idx(const Ipp8u* src, int srcIdx, unsigned int le
 
 /* ---- Integer division ---- */
 
-/* dst[i] = src[i] / value. Truncated towards zero: 7 / -2 = -3, -7 / 2 = -3. There is no scale factor. */
-void SIG5D_CDECL DivC_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
-void SIG5D_CDECL DivC_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+/* dst[i] = src[i] / value; in place srcDst[i] = srcDst[i] / value. Truncated towards zero: 7 / -2 = -3, -7 / 2 =
+   -3. There is no scale factor. */
 void SIG5D_CDECL DivC_32s_SFS(const Ipp32s* src, Ipp32s value, Ipp32s* dst, unsigned int len);
 void SIG5D_CDECL DivC_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* dst, int dstIdx, unsigned int
         len);
+void SIG5D_CDECL DivC_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
+void SIG5D_CDECL DivC_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
 
-/* dst[i] = src[i] - value * (src[i] / value). The remainder of the truncated quotient, with the sign of src[i]: 7
-   mod -2 = 1, -7 mod 2 = -1. */
-void SIG5D_CDECL ModC_16s_ISFS(Ipp16s* srcDst, Ipp16s value, unsigned int len);
-void SIG5D_CDECL ModC_16s_ISFS_Idx(Ipp16s* srcDst, int srcDstIdx, Ipp16s value, unsigned int len);
-void SIG5D_CDECL ModC_16s_SFS(const Ipp16s* src, Ipp16s value, Ipp16s* dst, unsigned int len);
-void SIG5D_CDECL ModC_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s value, Ipp16s* dst, int dstIdx, unsigned int
-        len);
-void SIG5D_CDECL ModC_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
-void SIG5D_CDECL ModC_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+/* dst[i] = src[i] - value * (src[i] / value); in place srcDst[i] = srcDst[i] - value * (srcDst[i] / value). The
+   remainder of the truncated quotient, with the sign of src[i]: 7 mod -2 = 1, -7 mod 2 = -1. */
 void SIG5D_CDECL ModC_32s_SFS(const Ipp32s* src, Ipp32s value, Ipp32s* dst, unsigned int len);
 void SIG5D_CDECL ModC_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* dst, int dstIdx, unsigned int
         len);
-void SIG5D_CDECL ModC_8u_ISFS(Ipp8u* srcDst, Ipp8u value, unsigned int len);
-void SIG5D_CDECL ModC_8u_ISFS_Idx(Ipp8u* srcDst, int srcDstIdx, Ipp8u value, unsigned int len);
+void SIG5D_CDECL ModC_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
+void SIG5D_CDECL ModC_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL ModC_16s_SFS(const Ipp16s* src, Ipp16s value, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL ModC_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s value, Ipp16s* dst, int dstIdx, unsigned int
+        len);
+void SIG5D_CDECL ModC_16s_ISFS(Ipp16s* srcDst, Ipp16s value, unsigned int len);
+void SIG5D_CDECL ModC_16s_ISFS_Idx(Ipp16s* srcDst, int srcDstIdx, Ipp16s value, unsigned int len);
 void SIG5D_CDECL ModC_8u_SFS(const Ipp8u* src, Ipp8u value, Ipp8u* dst, unsigned int len);
 void SIG5D_CDECL ModC_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u value, Ipp8u* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL ModC_8u_ISFS(Ipp8u* srcDst, Ipp8u value, unsigned int len);
+void SIG5D_CDECL ModC_8u_ISFS_Idx(Ipp8u* srcDst, int srcDstIdx, Ipp8u value, unsigned int len);
 
 /* quot[i] = src[i] / value; rem[i] = src[i] mod value. For each element in turn the quotient is stored, then the
    remainder of the element as it is then. */
-void SIG5D_CDECL RemDivC_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int
-        remIdx, Ipp16s value, unsigned int len);
 void SIG5D_CDECL RemDivC_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s* quot, int quotIdx, Ipp32s* rem, int
         remIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL RemDivC_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int
+        remIdx, Ipp16s value, unsigned int len);
 void SIG5D_CDECL RemDivC_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, int quotIdx, Ipp8u* rem, int remIdx,
         Ipp8u value, unsigned int len);
 
-/* dst[i] = value / src[i]. The value divided by the element, truncated towards zero and to the width of the
-   elements: 16s gives -32768 for -32768 / -1. */
-void SIG5D_CDECL DivCREV_16s_ISFS(Ipp16s* srcDst, Ipp16s value, unsigned int len);
-void SIG5D_CDECL DivCREV_16s_ISFS_Idx(Ipp16s* srcDst, int srcDstIdx, Ipp16s value, unsigned int len);
-void SIG5D_CDECL DivCREV_16s_SFS(const Ipp16s* src, Ipp16s value, Ipp16s* dst, unsigned int len);
-void SIG5D_CDECL DivCREV_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s value, Ipp16s* dst, int dstIdx, unsigned
-        int len);
-void SIG5D_CDECL DivCREV_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
-void SIG5D_CDECL DivCREV_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+/* dst[i] = value / src[i]; in place srcDst[i] = value / srcDst[i]. The value divided by the element, truncated
+   towards zero and to the width of the elements: 16s gives -32768 for -32768 / -1. */
 void SIG5D_CDECL DivCREV_32s_SFS(const Ipp32s* src, Ipp32s value, Ipp32s* dst, unsigned int len);
 void SIG5D_CDECL DivCREV_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s value, Ipp32s* dst, int dstIdx, unsigned
         int len);
-void SIG5D_CDECL DivCREV_8u_ISFS(Ipp8u* srcDst, Ipp8u value, unsigned int len);
-void SIG5D_CDECL DivCREV_8u_ISFS_Idx(Ipp8u* srcDst, int srcDstIdx, Ipp8u value, unsigned int len);
+void SIG5D_CDECL DivCREV_32s_ISFS(Ipp32s* srcDst, Ipp32s value, unsigned int len);
+void SIG5D_CDECL DivCREV_32s_ISFS_Idx(Ipp32s* srcDst, int srcDstIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL DivCREV_16s_SFS(const Ipp16s* src, Ipp16s value, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL DivCREV_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s value, Ipp16s* dst, int dstIdx, unsigned
+        int len);
+void SIG5D_CDECL DivCREV_16s_ISFS(Ipp16s* srcDst, Ipp16s value, unsigned int len);
+void SIG5D_CDECL DivCREV_16s_ISFS_Idx(Ipp16s* srcDst, int srcDstIdx, Ipp16s value, unsigned int len);
 void SIG5D_CDECL DivCREV_8u_SFS(const Ipp8u* src, Ipp8u value, Ipp8u* dst, unsigned int len);
 void SIG5D_CDECL DivCREV_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u value, Ipp8u* dst, int dstIdx, unsigned int
         len);
+void SIG5D_CDECL DivCREV_8u_ISFS(Ipp8u* srcDst, Ipp8u value, unsigned int len);
+void SIG5D_CDECL DivCREV_8u_ISFS_Idx(Ipp8u* srcDst, int srcDstIdx, Ipp8u value, unsigned int len);
 
 /* quot[i] = value / src[i]; rem[i] = value mod src[i]. For each element in turn the quotient is stored, then the
    remainder by the element as it is then. */
-void SIG5D_CDECL RemDivCREV_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int
-        remIdx, Ipp16s value, unsigned int len);
 void SIG5D_CDECL RemDivCREV_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s* quot, int quotIdx, Ipp32s* rem, int
         remIdx, Ipp32s value, unsigned int len);
+void SIG5D_CDECL RemDivCREV_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int
+        remIdx, Ipp16s value, unsigned int len);
 void SIG5D_CDECL RemDivCREV_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, int quotIdx, Ipp8u* rem, int remIdx,
         Ipp8u value, unsigned int len);
 
 /* quot[i] = src[i] / divisor[i]; rem[i] = src[i] mod divisor[i]. For each element in turn the quotient is stored,
    then the remainder of the elements as they are then. */
-void SIG5D_CDECL RemDiv_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int remIdx,
-        const Ipp16s* divisor, int divisorIdx, unsigned int len);
 void SIG5D_CDECL RemDiv_32s_SFS_Idx(const Ipp32s* src, int srcIdx, Ipp32s* quot, int quotIdx, Ipp32s* rem, int remIdx,
         const Ipp32s* divisor, int divisorIdx, unsigned int len);
+void SIG5D_CDECL RemDiv_16s_SFS_Idx(const Ipp16s* src, int srcIdx, Ipp16s* quot, int quotIdx, Ipp16s* rem, int remIdx,
+        const Ipp16s* divisor, int divisorIdx, unsigned int len);
 void SIG5D_CDECL RemDiv_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, int quotIdx, Ipp8u* rem, int remIdx,
         const Ipp8u* divisor, int divisorIdx, unsigned int len);
 
@@ -2033,12 +2154,14 @@ void SIG5D_CDECL RemDiv_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, in
 /* dst[i] = src[i] + value. A real number takes part as a complex one with the imaginary part +0.0. */
 void SIG5D_CDECL AddValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL AddValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int len);
-void SIG5D_CDECL AddValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
-void SIG5D_CDECL AddValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
-        unsigned int len);
 void SIG5D_CDECL AddValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL AddValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned int
         len);
+
+/* dst[i] = src[i] + value. */
+void SIG5D_CDECL AddValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL AddValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
 void SIG5D_CDECL AddValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL AddValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
@@ -2048,12 +2171,14 @@ void SIG5D_CDECL AddValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int
 void SIG5D_CDECL SubFromValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL SubFromValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
         len);
-void SIG5D_CDECL SubFromValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
-void SIG5D_CDECL SubFromValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
-        unsigned int len);
 void SIG5D_CDECL SubFromValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL SubFromValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
         int len);
+
+/* dst[i] = value - src[i]. */
+void SIG5D_CDECL SubFromValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL SubFromValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
 void SIG5D_CDECL SubFromValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
@@ -2062,12 +2187,14 @@ void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst,
 void SIG5D_CDECL ScaleByValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL ScaleByValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
         len);
-void SIG5D_CDECL ScaleByValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
-void SIG5D_CDECL ScaleByValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
-        unsigned int len);
 void SIG5D_CDECL ScaleByValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL ScaleByValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
         int len);
+
+/* dst[i] = src[i] * value. */
+void SIG5D_CDECL ScaleByValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL ScaleByValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+        unsigned int len);
 void SIG5D_CDECL ScaleByValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
@@ -2076,14 +2203,16 @@ void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst,
 void SIG5D_CDECL DivideValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL DivideValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
         len);
-void SIG5D_CDECL DivideValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
-void SIG5D_CDECL DivideValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+
+/* dst[i] = value / src[i]. */
+void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
 void SIG5D_CDECL DivideValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL DivideValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
         int len);
-void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
-void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
+void SIG5D_CDECL DivideValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
+void SIG5D_CDECL DivideValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
 
 /* dst[i] = (a[i].re + b[i], a[i].im + 0.0). */
@@ -2155,14 +2284,16 @@ void SIG5D_CDECL Rem_Idx(const Ipp64f* a, int aIdx, const Ipp64f* b, int bIdx, I
 /* dst[i] = 1 for src[i] > 0, -1 for src[i] < 0, else 0. Letters: the type of src and that of dst, c complex, d
    real. A complex number has the sign of its real part, and where that is zero or NaN, the sign of its imaginary
    part. A complex result is (sign, +0.0). */
-void SIG5D_CDECL Sgncc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
-void SIG5D_CDECL Sgncc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
-void SIG5D_CDECL Sgncd(const Ipp64fc* src, Ipp64f* dst, unsigned int len);
-void SIG5D_CDECL Sgncd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
-void SIG5D_CDECL Sgndc(const Ipp64f* src, Ipp64fc* dst, unsigned int len);
-void SIG5D_CDECL Sgndc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
 void SIG5D_CDECL Sgndd(const Ipp64f* src, Ipp64f* dst, unsigned int len);
 void SIG5D_CDECL Sgndd_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Sgncc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Sgncc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = 1 for src[i] > 0, -1 for src[i] < 0, else 0. */
+void SIG5D_CDECL Sgndc(const Ipp64f* src, Ipp64fc* dst, unsigned int len);
+void SIG5D_CDECL Sgndc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL Sgncd(const Ipp64fc* src, Ipp64f* dst, unsigned int len);
+void SIG5D_CDECL Sgncd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
 
 /* srcDst[i] = +0.0 for src[i] = 0, -srcDst[i] for src[i] < 0, else srcDst[i]. A change of sign turns the sign bit
    (of both parts of a complex number), also that of a NaN. A complex src[i] counts by its real part, and where
@@ -2171,49 +2302,54 @@ void SIG5D_CDECL SgnMul(const Ipp64f* src, Ipp64f* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMul_Idx(const Ipp64f* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
 void SIG5D_CDECL SgnMulc(const Ipp64fc* src, Ipp64fc* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMulc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* srcDst, int srcDstIdx, unsigned int len);
-void SIG5D_CDECL SgnMulcd(const Ipp64fc* src, Ipp64f* srcDst, unsigned int len);
-void SIG5D_CDECL SgnMulcd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
+
+/* srcDst[i] = +0.0 for src[i] = 0, -srcDst[i] for src[i] < 0, else srcDst[i]. */
 void SIG5D_CDECL SgnMuldc(const Ipp64f* src, Ipp64fc* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMuldc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* srcDst, int srcDstIdx, unsigned int len);
+void SIG5D_CDECL SgnMulcd(const Ipp64fc* src, Ipp64f* srcDst, unsigned int len);
+void SIG5D_CDECL SgnMulcd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
 
 /* ---- Running sums, ramps, products, powers and exchanges ---- */
 
 /* dst[0] = src[0]; dst[i] = src[i] + dst[i-1]. Strictly in index order: doubles round as a sum from left to right,
    of which every step is stored. Integers wrap around in their own width. Complex parts are summed one by one. */
 void SIG5D_CDECL CumSum(const Ipp64f* src, Ipp64f* dst, unsigned int len);
-void SIG5D_CDECL CumSum_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len);
-void SIG5D_CDECL CumSum_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
 void SIG5D_CDECL CumSum_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len);
 void SIG5D_CDECL CumSum_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len);
+void SIG5D_CDECL CumSum_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len);
+void SIG5D_CDECL CumSum_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len);
 void SIG5D_CDECL CumSum_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len);
 void SIG5D_CDECL CumSum_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len);
-void SIG5D_CDECL CumSum_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
 void SIG5D_CDECL CumSumc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
 void SIG5D_CDECL CumSumc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
 
 /* dst[i] = src[i] for i < delta; dst[i] = src[i] + dst[i-delta] for delta <= i < len. A running sum of every
    delta-th element, delta sums in all. Integers wrap around in their own width. */
 void SIG5D_CDECL CumSumDelta(const Ipp64f* src, Ipp64f* dst, unsigned int len, unsigned int delta);
-void SIG5D_CDECL CumSumDelta_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len, unsigned int delta);
-void SIG5D_CDECL CumSumDelta_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len,
-        unsigned int delta);
+void SIG5D_CDECL CumSumDelta_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len, unsigned
+        int delta);
 void SIG5D_CDECL CumSumDelta_32s(const Ipp32s* src, Ipp32s* dst, unsigned int len, unsigned int delta);
 void SIG5D_CDECL CumSumDelta_32s_Idx(const Ipp32s* src, int srcIdx, Ipp32s* dst, int dstIdx, unsigned int len,
         unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s(const Ipp16s* src, Ipp16s* dst, unsigned int len, unsigned int delta);
+void SIG5D_CDECL CumSumDelta_16s_Idx(const Ipp16s* src, int srcIdx, Ipp16s* dst, int dstIdx, unsigned int len,
+        unsigned int delta);
 void SIG5D_CDECL CumSumDelta_8u(const Ipp8u* src, Ipp8u* dst, unsigned int len, unsigned int delta);
 void SIG5D_CDECL CumSumDelta_8u_Idx(const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, unsigned int len, unsigned
-        int delta);
-void SIG5D_CDECL CumSumDelta_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len, unsigned
         int delta);
 void SIG5D_CDECL CumSumDeltac(const Ipp64fc* src, Ipp64fc* dst, unsigned int len, unsigned int delta);
 void SIG5D_CDECL CumSumDeltac_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len, unsigned
         int delta);
 
 /* dst[i] = offset + step * i. Every element is computed from its index, as a product rounded and then a sum
+   rounded. */
+void SIG5D_CDECL Rampd(Ipp64f* dst, unsigned int len, Ipp64f offset, Ipp64f step);
+
+/* dst[i] = offset + step * i. Every element is computed from its index, as a product rounded and then a sum
    rounded, each part for itself. */
 void SIG5D_CDECL Rampc(Ipp64fc* dst, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
 void SIG5D_CDECL Rampc_Idx(Ipp64fc* dst, int dstIdx, unsigned int len, const Ipp64fc* offset, const Ipp64fc* step);
-void SIG5D_CDECL Rampd(Ipp64f* dst, unsigned int len, Ipp64f offset, Ipp64f step);
 
 /* dst[i] = (src[i].im, src[i].re). All bits are kept, also of a NaN. Other overlap than exact gives any values. */
 void SIG5D_CDECL Flip(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);

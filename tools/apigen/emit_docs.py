@@ -1,63 +1,78 @@
-"""Writes docs/reference: a page per topic, a section per family."""
+"""Writes docs/reference: a page per topic, a section per family, in it a part for each group of members."""
 from emit_header import prototype
+from grouping import formulas, groups, short_names
 
 
-def check_list(f):
+def failures(checks):
+    return "; ".join(f"{c.text()}: `ippSts{c.status}`" for c in checks) + "."
+
+
+def checks_text(f):
+    found = f.checks + f.fails
     if not f.failures():
-        return "Nothing is checked." if f.half == "own" else "No argument is checked."
-    steps = [f"{c.text()}: `ippSts{c.status}`" for c in f.failures()]
-    return "Checked in this order: " + "; ".join(steps) + "."
+        return "" if not f.args else "Nothing is checked." if f.half == "own" else "No argument is checked."
+    late = "Checked when results may have been written already, in this order: " + failures(f.late) if f.late else ""
+    return " ".join(t for t in ("Checked in this order: " + failures(found) if found else "", late) if t)
 
 
-def shape_rows(f):
+def arguments_text(f):
     rows = []
     for a in f.args:
         if a.kind in ("array", "work"):
             unit = "bytes" if a.kind == "work" or a.type.suffix == "1u" else "elements"
             role = "in" if a.const else "in and out" if a.inout else "scratch" if a.kind == "work" else "out"
+            same = " or ".join(f"`{s}`" for d, s in f.in_place if d == a.name)
             null = ", may be null" if a.optional else ""
-            rows.append(f"- `{a.name}`: {role}, `{a.extent}` {unit}{null}")
-    return rows
+            rows.append(f"- `{a.name}`: {role}, `{a.extent}` {unit}{null}" + (f"; may be {same}" if same else ""))
+    return "\n".join(rows)
 
 
-def section(family, members):
-    f = members[0][1]
-    said = [g for _, g, _ in members]  # types that were described apart are told of together
-    out = [f"## {family}", ""]
-    for formula in dict.fromkeys(g.formula for g in said if g.formula):
-        out += [f"`{formula}`", ""]
-    for doc in dict.fromkeys(g.doc for g in said if g.doc):
-        out += [doc, ""]
-    seen = []
-    for _, g, form in members:
-        if form == "plain" and shape_rows(g) and shape_rows(g) not in seen:
-            seen.append(shape_rows(g))
-    for rows in seen:
-        out += rows + [""]
-    orders = list(dict.fromkeys(check_list(g) for _, g, form in members if form == "plain"))
-    out += [o + "\n" for o in orders]
-    if f.in_place:
-        pairs = ", ".join(f"`{d}` may be `{s}`" for d, s in f.in_place)
-        out += [f"In place: {pairs}.", ""]
+def form_text(f):
+    """What differs between the forms of a group, beside the formula."""
+    return "\n\n".join(t for t in (arguments_text(f), checks_text(f)) if t)
+
+
+def part(group):
+    """What holds for the whole group comes first, then what only some of its functions have, under their names."""
+    f = group.functions[0]
+    out = [formulas(group, "`{}`".format), f.doc] + f.notes
     if f.warnings:
-        out += ["Warnings, after the whole array is written: " + ", ".join(f"`ippSts{w}`" for w in f.warnings) + ".", ""]
-    out += [n + "\n" for n in dict.fromkeys(n for g in said for n in g.notes)]
-    out += ["```c"] + [prototype(*m) for m in members] + ["```", ""]
+        out.append("Warnings, after the whole array is written: " + ", ".join(f"`ippSts{w}`" for w in f.warnings) + ".")
+    texts = group.told_apart(form_text)
+    for text, whose in texts:
+        if len(texts) > 1:
+            out.append(f"**{short_names([g.shown_name() for g in whose], group.family)}**")
+        out.append(text)
+    out.append("\n".join(["```c"] + [prototype(*e) for e in group.exports()] + ["```"]))
+    return [text for text in out if text]
+
+
+def section(family, parts):
+    out = [f"## {family}"]
+    for group in parts:
+        if len(parts) > 1:
+            out.append(f"### {group.names()}")
+        out += part(group)
     return out
 
 
 def pages(api):
-    files, exports = {}, api.exports()
-    order = {f.name + f.index: i for i, f in enumerate(api.functions)}
-    index = ["# Reference", "", "Generated from `api/*.api`.", ""]
+    files = {}
+    index = [
+        "# Reference",
+        "",
+        "Generated from `api/*.api`. In the formulas of in-place forms the right side has the elements as they were before",
+        "the call.",
+        "",
+    ]
     for topic, title in api.topics.items():
-        mine = sorted((e for e in exports if e[1].topic == topic), key=lambda e: order[e[1].name + e[1].index])
+        mine = [f for f in api.functions if f.topic == topic]
         if not mine:
             continue
-        out = [f"# {title}", ""]
-        for family in dict.fromkeys(e[1].family for e in mine):
-            out += section(family, [e for e in mine if e[1].family == family])
-        files[f"docs/reference/{topic}.md"] = "\n".join(out).rstrip() + "\n"
-        index.append(f"- [{title}]({topic}.md): {len(mine)} exports")
+        out = [f"# {title}"]
+        for family, parts in groups(mine).items():
+            out += section(family, parts)
+        files[f"docs/reference/{topic}.md"] = "\n\n".join(out) + "\n"
+        index.append(f"- [{title}]({topic}.md): {sum(len(f.exports()) for f in mine)} exports")
     files["docs/reference/README.md"] = "\n".join(index) + "\n"
     return files

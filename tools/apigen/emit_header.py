@@ -1,6 +1,7 @@
 """Writes the public C header."""
 import textwrap
 
+from grouping import formulas, groups
 from model import index_args
 
 
@@ -28,31 +29,29 @@ def prototype(name, f, form):
     return "\n".join(textwrap.wrap(line, 118, subsequent_indent="        ", break_long_words=False))
 
 
-def describe(family):
-    f = family[0][1]
-    parts = [f"{f.formula}." if f.formula else "", f.doc]
-    return comment(" ".join(p for p in parts if p))
+def describe(group):
+    doc = group.functions[0].doc
+    return comment(". ".join(t for t in (formulas(group), doc) if t) + ("" if doc else "."))
 
 
 def header(api):
     out = [
         "/* Numlab.Sig5d: double-precision signal processing and vector/matrix functions, C interface.",
-        "   Generated from the description in api/; docs/reference tells shapes, checks, statuses and special values. */",
+        "   Generated from the description in api/; docs/reference tells shapes, checks, statuses and special values.",
+        "   A comment is about the functions that follow it, up to the next one. */",
         "#ifndef SIG5D_H\n#define SIG5D_H\n",
         '#include "sig5d_types.h"\n',
         "#ifdef __cplusplus\nextern \"C\" {\n#endif\n",
         statuses(api) + "\n",
     ]
     out += [f"typedef struct {name} {name};" for name in api.opaque]
-    exports = api.exports()
     for topic, title in api.topics.items():
-        mine = [e for e in exports if e[1].topic == topic]
-        if not mine:
-            continue
-        out.append(f"\n/* ---- {title} ---- */")
-        for family in dict.fromkeys(e[1].family for e in sorted(mine, key=lambda e: api.functions.index(e[1]))):
-            members = [e for e in mine if e[1].family == family]
-            out.append("\n" + describe(members))
-            out += [prototype(*e) for e in members]
+        mine = [f for f in api.functions if f.topic == topic]
+        if mine:
+            out.append(f"\n/* ---- {title} ---- */")
+        for parts in groups(mine).values():
+            for group in parts:
+                out.append("\n" + describe(group))
+                out += [prototype(*e) for e in group.exports()]
     out.append("\n#ifdef __cplusplus\n}\n#endif\n\n#endif")
     return "\n".join(out) + "\n"

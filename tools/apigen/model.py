@@ -1,6 +1,9 @@
 """What the interface description says, as plain records."""
 from dataclasses import dataclass, field
 
+# A form and the one whose argument list it has; Sfs forms have a scale factor more, SFS forms are only named so.
+FORMS = {"plain": "plain", "_I": "_I", "_Sfs": "plain", "_SFS": "plain", "_ISfs": "_I", "_ISFS": "_I"}
+
 
 @dataclass(frozen=True)
 class Type:
@@ -103,6 +106,21 @@ class Function:
     def bytes32(self):
         return sum(a.bytes32() for a in self.args)
 
+    def exports(self):
+        """(name, form) of what is exported, form one of plain, index, alias."""
+        indexed = self.name + "_Idx"
+        plain = [(self.name, "plain")]
+        return {
+            "auto": plain + [(indexed, "index")],
+            "none": plain,
+            "only": [(indexed, "index")],
+            "same": plain + [(indexed, "alias")],
+            "written": [(indexed, "plain")],
+        }[self.index]
+
+    def shown_name(self):
+        return self.exports()[0][0]
+
 
 @dataclass
 class Api:
@@ -121,17 +139,7 @@ class Api:
 
     def exports(self):
         """Every export in order of its name: (name, function, form), form one of plain, index, alias."""
-        found = []
-        for f in self.functions:
-            if f.index == "written":
-                found.append((f.name + "_Idx", f, "plain"))
-                continue
-            if f.index != "only":
-                found.append((f.name, f, "plain"))
-            if f.index in ("auto", "only"):
-                found.append((f.name + "_Idx", f, "index"))
-            elif f.index == "same":
-                found.append((f.name + "_Idx", f, "alias"))
+        found = [(name, f, form) for f in self.functions for name, form in f.exports()]
         return sorted(found, key=lambda e: e[0])
 
 

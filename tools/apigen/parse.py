@@ -4,15 +4,13 @@ from pathlib import Path
 
 import expression
 import variants
-from model import Api, Function, Type
+from model import FORMS, Api, Function, Type
 from signature import argument, known_names, parse_args, parse_checks, parse_member, status, with_suffix
 from statements import Mistake, Place, at, lines, split_list, statements
 
 ONCE = {"types", "forms", "kernel", "checks", "fails", "late", "returns", "warns", "idx", "convention", "in_place", "moves",
         "fixture", "formula", "doc"}
 REPEATED = {"form", "domain", "note"}
-# A form and the one whose argument list it has; Sfs forms have a scale factor more, SFS forms are only named so.
-FORMS = {"plain": "plain", "_I": "_I", "_Sfs": "plain", "_SFS": "plain", "_ISfs": "_I", "_ISFS": "_I"}
 # Who builds arguments in tests: tools/registry/fixtures. none: nobody can.
 FIXTURES = {"none", "fir", "bins", "bins_apart", "equal_width", "compare", "compare_and_list", "pack_index", "unpack_index",
             "pack_mask", "unpack_mask", "division"}
