@@ -478,20 +478,23 @@ IppStatus SIG5D_STDCALL ippsRealToCplx_64f(const Ipp64f* pSrcRe, const Ipp64f* p
 IppStatus SIG5D_CDECL ippsRealToCplx_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64fc* pDst, int dstIdx, int len);
 
-/* pDst[i] = sqrt(re * re + im * im). Each operation is rounded; squares overflow from 1.34e154 on and vanish below
-   1.5e-162. */
+/* pDst[i] = sqrt(pSrcRe[i] * pSrcRe[i] + pSrcIm[i] * pSrcIm[i]). Each operation is rounded; squares overflow from
+   1.34e154 on and vanish below 1.5e-162. */
 IppStatus SIG5D_STDCALL ippsMagnitude_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsMagnitude_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDst, int dstIdx, int len);
 
-/* pDst[i] = sqrt(re * re + im * im). */
+/* pDst[i] = sqrt(pSrc[i].re * pSrc[i].re + pSrc[i].im * pSrc[i].im). Each operation is rounded; squares overflow
+   from 1.34e154 on and vanish below 1.5e-162. */
 IppStatus SIG5D_STDCALL ippsMagnitude_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsMagnitude_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
-/* pDst[i] = re * re + im * im. */
+/* pDst[i] = pSrcRe[i] * pSrcRe[i] + pSrcIm[i] * pSrcIm[i]. */
 IppStatus SIG5D_STDCALL ippsPowerSpectr_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPowerSpectr_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDst, int dstIdx, int len);
+
+/* pDst[i] = pSrc[i].re * pSrc[i].re + pSrc[i].im * pSrc[i].im. */
 IppStatus SIG5D_STDCALL ippsPowerSpectr_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPowerSpectr_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
@@ -735,6 +738,8 @@ IppStatus SIG5D_STDCALL ippsConvert_16s32f(const Ipp16s* pSrc, Ipp32f* pDst, int
 IppStatus SIG5D_CDECL ippsConvert_16s32f_Idx(const Ipp16s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsConvert_16u32f(const Ipp16u* pSrc, Ipp32f* pDst, int len);
 IppStatus SIG5D_CDECL ippsConvert_16u32f_Idx(const Ipp16u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsConvert_32s64f(const Ipp32s* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsConvert_32s64f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
 /* pDst[i] = saturated(pSrc[i]). */
 IppStatus SIG5D_STDCALL ippsConvert_32s16s(const Ipp32s* pSrc, Ipp16s* pDst, int len);
@@ -750,15 +755,15 @@ IppStatus SIG5D_CDECL ippsConvert_32s16s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx,
         int scaleFactor);
 
 /* pDst[i] = pSrc[i]. */
-IppStatus SIG5D_STDCALL ippsConvert_32s64f(const Ipp32s* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsConvert_32s64f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsConvert_32f64f(const Ipp32f* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsConvert_32f64f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
-/* pDst[i] = pSrc[i]. Rounds to the nearest number of the new type, ties to the even one; what is too large becomes
-   infinite. */
+/* pDst[i] = rounded(pSrc[i]). Rounds to the nearest float, ties to the even one. */
 IppStatus SIG5D_STDCALL ippsConvert_32s32f(const Ipp32s* pSrc, Ipp32f* pDst, int len);
 IppStatus SIG5D_CDECL ippsConvert_32s32f_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+
+/* pDst[i] = rounded(pSrc[i]). Rounds to the nearest number of the new type, ties to the even one; what is too
+   large becomes infinite. */
 IppStatus SIG5D_STDCALL ippsConvert_64f32f(const Ipp64f* pSrc, Ipp32f* pDst, int len);
 IppStatus SIG5D_CDECL ippsConvert_64f32f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
 
@@ -808,7 +813,7 @@ IppStatus SIG5D_STDCALL ippsConvert_64f32s_Sfs(const Ipp64f* pSrc, Ipp32s* pDst,
 IppStatus SIG5D_CDECL ippsConvert_64f32s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
         int rndMode, int scaleFactor);
 
-/* pDst[i] = pSrc[i]. Rounds to the nearest double, ties to the even one. */
+/* pDst[i] = rounded(pSrc[i]). Rounds to the nearest double, ties to the even one. */
 IppStatus SIG5D_STDCALL ippsConvert_64s64f(const Ipp64s* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsConvert_64s64f_Idx(const Ipp64s* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
@@ -824,8 +829,8 @@ IppStatus SIG5D_CDECL ippsConvert_64f64s_Sfs_Idx(const Ipp64f* pSrc, int srcIdx,
 IppStatus SIG5D_STDCALL ippsConvert_16f32f(const Ipp16f* pSrc, Ipp32f* pDst, int len);
 IppStatus SIG5D_CDECL ippsConvert_16f32f_Idx(const Ipp16f* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
 
-/* pDst[i] = pSrc[i]. Rounds to half precision: rndMode 0 toward zero, 1 to the nearest number with ties to the
-   even one, 2 to the nearest with ties away from zero. Results below 2^-14 are multiples of 2^-24. */
+/* pDst[i] = rounded(pSrc[i]). Rounds to half precision: rndMode 0 toward zero, 1 to the nearest number with ties
+   to the even one, 2 to the nearest with ties away from zero. Results below 2^-14 are multiples of 2^-24. */
 IppStatus SIG5D_STDCALL ippsConvert_32f16f(const Ipp32f* pSrc, Ipp16f* pDst, int len, int rndMode);
 IppStatus SIG5D_CDECL ippsConvert_32f16f_Idx(const Ipp32f* pSrc, int srcIdx, Ipp16f* pDst, int dstIdx, int len, int
         rndMode);
@@ -926,11 +931,10 @@ IppStatus SIG5D_STDCALL ippsSet_32sc(Ipp32sc val, Ipp32sc* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_32sc_Idx(Ipp32sc val, Ipp32sc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSet_64fc(Ipp64fc val, Ipp64fc* pDst, int len);
 IppStatus SIG5D_CDECL ippsSet_64fc_Idx(Ipp64fc val, Ipp64fc* pDst, int dstIdx, int len);
-
-/* pDst[i] = val. */
 IppStatus SIG5D_STDCALL ippsSet_64f(Ipp64f val, Ipp64f* pDst, int len);
 
-/* pDst[i] = val. */
+/* pDst[i] = val. Every bit of val arrives, also of a NaN. This function stores by itself: it checks nothing, does
+   nothing for a length below 1, and always returns `ippStsNoErr`. */
 IppStatus SIG5D_CDECL ippsSet_64f_Idx(Ipp64f val, Ipp64f* pDst, int dstIdx, int len);
 
 /* pDst[i] = 0. All bits are cleared: +0 in floating-point elements. */
@@ -1148,7 +1152,7 @@ IppStatus SIG5D_STDCALL ippsPhase_64f(const Ipp64f* pSrcRe, const Ipp64f* pSrcIm
 IppStatus SIG5D_CDECL ippsPhase_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDst, int dstIdx, int len);
 
-/* pDst[i] = atan2(Im pSrc[i], Re pSrc[i]). */
+/* pDst[i] = atan2(pSrc[i].im, pSrc[i].re). The angle of ippsPhase_64f, with the same bits. */
 IppStatus SIG5D_STDCALL ippsPhase_64fc(const Ipp64fc* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsPhase_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 
@@ -1159,7 +1163,8 @@ IppStatus SIG5D_STDCALL ippsCartToPolar_64f(const Ipp64f* pSrcRe, const Ipp64f* 
 IppStatus SIG5D_CDECL ippsCartToPolar_64f_Idx(const Ipp64f* pSrcRe, int srcReIdx, const Ipp64f* pSrcIm, int srcImIdx,
         Ipp64f* pDstMagn, int dstMagnIdx, Ipp64f* pDstPhase, int dstPhaseIdx, int len);
 
-/* pDstMagn[i] = |pSrc[i]|, pDstPhase[i] = arg pSrc[i]. */
+/* pDstMagn[i] = sqrt(pSrc[i].re^2 + pSrc[i].im^2), pDstPhase[i] = atan2(pSrc[i].im, pSrc[i].re). The magnitude by
+   this formula, as ippsMagnitude gives it: squares may overflow or vanish. The phase as ippsPhase gives it. */
 IppStatus SIG5D_STDCALL ippsCartToPolar_64fc(const Ipp64fc* pSrc, Ipp64f* pDstMagn, Ipp64f* pDstPhase, int len);
 IppStatus SIG5D_CDECL ippsCartToPolar_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64f* pDstMagn, int dstMagnIdx,
         Ipp64f* pDstPhase, int dstPhaseIdx, int len);
@@ -1171,7 +1176,8 @@ IppStatus SIG5D_STDCALL ippsPolarToCart_64f(const Ipp64f* pSrcMagn, const Ipp64f
 IppStatus SIG5D_CDECL ippsPolarToCart_64f_Idx(const Ipp64f* pSrcMagn, int srcMagnIdx, const Ipp64f* pSrcPhase, int
         srcPhaseIdx, Ipp64f* pDstRe, int dstReIdx, Ipp64f* pDstIm, int dstImIdx, int len);
 
-/* pDst[i] = pSrcMagn[i] * (cos(pSrcPhase[i]) + j sin(pSrcPhase[i])). */
+/* pDst[i] = (pSrcMagn[i] * cos(pSrcPhase[i]), pSrcMagn[i] * sin(pSrcPhase[i])). The parts are those of
+   ippsPolarToCart_64f, with the same bits and the same special values. */
 IppStatus SIG5D_STDCALL ippsPolarToCart_64fc(const Ipp64f* pSrcMagn, const Ipp64f* pSrcPhase, Ipp64fc* pDst, int len);
 IppStatus SIG5D_CDECL ippsPolarToCart_64fc_Idx(const Ipp64f* pSrcMagn, int srcMagnIdx, const Ipp64f* pSrcPhase, int
         srcPhaseIdx, Ipp64fc* pDst, int dstIdx, int len);
@@ -2151,34 +2157,45 @@ void SIG5D_CDECL RemDiv_8u_SFS_Idx(const Ipp8u* src, int srcIdx, Ipp8u* quot, in
 
 /* ---- Mixed real and complex arithmetic ---- */
 
-/* dst[i] = src[i] + value. A real number takes part as a complex one with the imaginary part +0.0. */
+/* dst[i] = src[i] + value. */
 void SIG5D_CDECL AddValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL AddValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int len);
+
+/* dst[i] = (src[i].re + value, src[i].im + 0.0). The real value takes part as a complex one: an imaginary part of
+   -0.0 becomes +0.0. */
 void SIG5D_CDECL AddValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL AddValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned int
         len);
 
-/* dst[i] = src[i] + value. */
+/* dst[i] = src[i] + *value. */
 void SIG5D_CDECL AddValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL AddValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
+
+/* dst[i] = (src[i] + v.re, v.im + 0.0), v = *value. The real elements take part as complex ones: an imaginary part
+   of -0.0 becomes +0.0. */
 void SIG5D_CDECL AddValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL AddValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
 
-/* dst[i] = value - src[i]. The scalar minus the element. A real number takes part as a complex one with the
-   imaginary part +0.0. */
+/* dst[i] = value - src[i]. The scalar minus the element. */
 void SIG5D_CDECL SubFromValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL SubFromValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
         len);
+
+/* dst[i] = (value - src[i].re, 0.0 - src[i].im). The scalar minus the element. The imaginary part is a difference
+   and no change of sign: +0.0 stays +0.0. */
 void SIG5D_CDECL SubFromValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL SubFromValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
         int len);
 
-/* dst[i] = value - src[i]. */
+/* dst[i] = *value - src[i]. The scalar minus the element. */
 void SIG5D_CDECL SubFromValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL SubFromValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
+
+/* dst[i] = (v.re - src[i], v.im - 0.0), v = *value. The scalar minus the element. An imaginary part of -0.0 is
+   kept. */
 void SIG5D_CDECL SubFromValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
@@ -2187,14 +2204,20 @@ void SIG5D_CDECL SubFromValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst,
 void SIG5D_CDECL ScaleByValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL ScaleByValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
         len);
+
+/* dst[i] = (src[i].re * value, src[i].im * value). The parts are multiplied one by one, without products by a zero
+   imaginary part. */
 void SIG5D_CDECL ScaleByValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
 void SIG5D_CDECL ScaleByValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
         int len);
 
-/* dst[i] = src[i] * value. */
+/* dst[i] = src[i] * *value. Four products and two sums; infinities and NaN as they come out of these. */
 void SIG5D_CDECL ScaleByValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL ScaleByValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
+
+/* dst[i] = (src[i] * v.re, src[i] * v.im), v = *value. The parts are multiplied one by one, without products by a
+   zero imaginary part. */
 void SIG5D_CDECL ScaleByValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL ScaleByValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
@@ -2204,16 +2227,24 @@ void SIG5D_CDECL DivideValue(const Ipp64f* src, Ipp64f* dst, Ipp64f value, unsig
 void SIG5D_CDECL DivideValue_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, Ipp64f value, unsigned int
         len);
 
-/* dst[i] = value / src[i]. */
+/* dst[i] = (v.re / src[i], v.im / src[i]), v = *value. The scalar divided by the element, part by part. */
 void SIG5D_CDECL DivideValuedc(const Ipp64f* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL DivideValuedc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
-void SIG5D_CDECL DivideValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
-void SIG5D_CDECL DivideValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
-        int len);
+
+/* t = 1.0 / (s.re*s.re + s.im*s.im); dst[i] = ((v.re*s.re + s.im*v.im) * t, t * (v.im*s.re - v.re*s.im)), s =
+   src[i], v = *value. The scalar divided by the element, without scaling, each step rounded to 53 bits with
+   exponents that neither overflow nor underflow; a result beyond the doubles becomes infinite, one below the
+   normal ones is rounded once more. These are the bits of an x87 unit set to 53 bits, on every processor. */
 void SIG5D_CDECL DivideValuec(const Ipp64fc* src, Ipp64fc* dst, const Ipp64fc* value, unsigned int len);
 void SIG5D_CDECL DivideValuec_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, const Ipp64fc* value,
         unsigned int len);
+
+/* t = 1.0 / (s.re*s.re + s.im*s.im); dst[i] = ((value*s.re + s.im*0.0) * t, t * (0.0*s.re - value*s.im)), s =
+   src[i]. The scalar divided by the element, as in DivideValuec with the imaginary part +0.0. */
+void SIG5D_CDECL DivideValuecd(const Ipp64fc* src, Ipp64fc* dst, Ipp64f value, unsigned int len);
+void SIG5D_CDECL DivideValuecd_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, Ipp64f value, unsigned
+        int len);
 
 /* dst[i] = (a[i].re + b[i], a[i].im + 0.0). */
 void SIG5D_CDECL AddVeccd(const Ipp64fc* a, const Ipp64f* b, Ipp64fc* dst, unsigned int len);
@@ -2281,31 +2312,43 @@ void SIG5D_CDECL Rem(const Ipp64f* a, const Ipp64f* b, Ipp64f* dst, unsigned int
 void SIG5D_CDECL Rem_Idx(const Ipp64f* a, int aIdx, const Ipp64f* b, int bIdx, Ipp64f* dst, int dstIdx, unsigned int
         len);
 
-/* dst[i] = 1 for src[i] > 0, -1 for src[i] < 0, else 0. Letters: the type of src and that of dst, c complex, d
-   real. A complex number has the sign of its real part, and where that is zero or NaN, the sign of its imaginary
-   part. A complex result is (sign, +0.0). */
+/* dst[i] = 1 for src[i] > 0, -1 for src[i] < 0, else 0. */
 void SIG5D_CDECL Sgndd(const Ipp64f* src, Ipp64f* dst, unsigned int len);
 void SIG5D_CDECL Sgndd_Idx(const Ipp64f* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = (sign, +0.0), sign = 1 for s > 0, -1 for s < 0, else 0, s = src[i].re, or src[i].im where src[i].re is
+   0 or NaN. */
 void SIG5D_CDECL Sgncc(const Ipp64fc* src, Ipp64fc* dst, unsigned int len);
 void SIG5D_CDECL Sgncc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
 
-/* dst[i] = 1 for src[i] > 0, -1 for src[i] < 0, else 0. */
+/* dst[i] = (sign, +0.0), sign = 1 for src[i] > 0, -1 for src[i] < 0, else 0. */
 void SIG5D_CDECL Sgndc(const Ipp64f* src, Ipp64fc* dst, unsigned int len);
 void SIG5D_CDECL Sgndc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* dst, int dstIdx, unsigned int len);
+
+/* dst[i] = 1 for s > 0, -1 for s < 0, else 0, s = src[i].re, or src[i].im where src[i].re is 0 or NaN. */
 void SIG5D_CDECL Sgncd(const Ipp64fc* src, Ipp64f* dst, unsigned int len);
 void SIG5D_CDECL Sgncd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* dst, int dstIdx, unsigned int len);
 
 /* srcDst[i] = +0.0 for src[i] = 0, -srcDst[i] for src[i] < 0, else srcDst[i]. A change of sign turns the sign bit
-   (of both parts of a complex number), also that of a NaN. A complex src[i] counts by its real part, and where
-   that is zero, by its imaginary part. */
+   (of both parts of a complex number), also that of a NaN. An element that is set to zero becomes +0.0 in all
+   parts, whatever it was. */
 void SIG5D_CDECL SgnMul(const Ipp64f* src, Ipp64f* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMul_Idx(const Ipp64f* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
+
+/* srcDst[i] = +0.0 for s = 0, -srcDst[i] for s < 0, else srcDst[i], s = src[i].re, or src[i].im where src[i].re is
+   0. A change of sign turns the sign bit (of both parts of a complex number), also that of a NaN. An element that
+   is set to zero becomes +0.0 in all parts, whatever it was. */
 void SIG5D_CDECL SgnMulc(const Ipp64fc* src, Ipp64fc* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMulc_Idx(const Ipp64fc* src, int srcIdx, Ipp64fc* srcDst, int srcDstIdx, unsigned int len);
 
-/* srcDst[i] = +0.0 for src[i] = 0, -srcDst[i] for src[i] < 0, else srcDst[i]. */
+/* srcDst[i] = +0.0 for src[i] = 0, -srcDst[i] for src[i] < 0, else srcDst[i]. src is real, srcDst complex. A
+   change of sign turns the sign bits of both parts, also of a NaN. An element that is set to zero becomes +0.0 in
+   both parts, whatever it was. */
 void SIG5D_CDECL SgnMuldc(const Ipp64f* src, Ipp64fc* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMuldc_Idx(const Ipp64f* src, int srcIdx, Ipp64fc* srcDst, int srcDstIdx, unsigned int len);
+
+/* srcDst[i] = +0.0 for s = 0, -srcDst[i] for s < 0, else srcDst[i], s = src[i].re, or src[i].im where src[i].re is
+   0. src is complex, srcDst real. A change of sign turns the sign bit, also that of a NaN. */
 void SIG5D_CDECL SgnMulcd(const Ipp64fc* src, Ipp64f* srcDst, unsigned int len);
 void SIG5D_CDECL SgnMulcd_Idx(const Ipp64fc* src, int srcIdx, Ipp64f* srcDst, int srcDstIdx, unsigned int len);
 

@@ -37,7 +37,9 @@ def part(group):
     f = group.functions[0]
     out = [formulas(group, "`{}`".format), f.doc] + f.notes
     if f.warnings:
-        out.append("Warnings, after the whole array is written: " + ", ".join(f"`ippSts{w}`" for w in f.warnings) + ".")
+        written = any(a.kind == "array" and not a.const for a in f.args)
+        listed = ", ".join(f"`ippSts{w}`" for w in f.warnings)
+        out.append(f"Warnings{', after the whole array is written' if written else ''}: {listed}.")
     texts = group.told_apart(form_text)
     for text, whose in texts:
         if len(texts) > 1:
