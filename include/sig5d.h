@@ -1976,8 +1976,8 @@ IppStatus SIG5D_CDECL ippsFIRSR_64fc_I_Idx(Ipp64fc* pSrcDst, int idx, int numIte
 IppStatus SIG5D_STDCALL ippsFIRMRGetSize(int tapsLen, int upFactor, int downFactor, int tapsType, int* pSpecSize, int*
         pBufSize);
 
-/* Fills a block of the size that ippsFIRMRGetSize gave, at any address. With both factors 1 the block is a single-
-   rate specification of automatic algorithm, which ippsFIRSR takes too. */
+/* Fills a block of the size that ippsFIRMRGetSize gave, at any address. With both factors 1 the block is a
+   single-rate specification of automatic algorithm, which ippsFIRSR takes too. */
 IppStatus SIG5D_STDCALL ippsFIRMRInit_64f(const Ipp64f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor,
         int downPhase, IppsFIRSpec_64f* pSpec);
 IppStatus SIG5D_CDECL ippsFIRMRInit_64f_Idx(const Ipp64f* pTaps, int tapsIdx, int tapsLen, int upFactor, int upPhase,

@@ -2,12 +2,13 @@ sig5d_test(contract contract/exports_test.cpp contract/calls_test.cpp contract/c
 sig5d_test(variants variants/equality_test.cpp variants/digest_test.cpp)
 set_source_files_properties(variants/equality_test.cpp PROPERTIES COMPILE_OPTIONS -O2) # millions of calls
 
-# What no program of the library's own can see: the built objects, the committed generated files, what the generator refuses.
+# What no program of the library's own can see: the built objects, the committed generated files, their description.
 if(NOT SIG5D_SANITIZE)
     add_test(NAME ${build}/objects COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/tools/objcheck.py --build ${CMAKE_BINARY_DIR}
                                   --objdump ${CMAKE_OBJDUMP})
-    add_test(NAME ${build}/committed COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/committed_test.py)
-    add_test(NAME ${build}/description COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/description_test.py)
+    foreach(test committed description documentation)
+        add_test(NAME ${build}/${test} COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/${test}_test.py)
+    endforeach()
 endif()
 
 # The library as a file. A sanitizer's build has other imports.

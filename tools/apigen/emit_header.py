@@ -6,7 +6,7 @@ from model import index_args
 
 
 def comment(text):
-    body = textwrap.wrap(text, 112)
+    body = textwrap.wrap(text, 112, break_on_hyphens=False)
     if len(body) == 1:
         return f"/* {body[0]} */"
     return "/* " + "\n   ".join(body) + " */"
