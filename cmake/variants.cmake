@@ -1,4 +1,5 @@
-# How the variants of src/variants.txt are compiled: each *.kernels.cpp once per body, with the flags of its variant.
+# How the variants of src/variants.txt are compiled (the generator hands them on as SIG5D_VARIANTS, SIG5D_FLAGS_*,
+# SIG5D_KERNEL_SOURCES and SIG5D_BODIES_*): each *.kernels.cpp once per body, with the flags of its variant.
 
 # For all code of the product. No fused multiply-add and no x87 arithmetic, so that all variants and platforms give the
 # same bits; hosts align a 32-bit stack to 4 bytes only, so that functions that need more realign it themselves. Loops

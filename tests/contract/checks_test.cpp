@@ -14,14 +14,10 @@ using registry::Kind;
 long long fitting(long long x, registry::Element type)
 {
     switch (type) {
-    case registry::Element::u8:
-        return static_cast<uint8_t>(x);
-    case registry::Element::i16:
-        return static_cast<int16_t>(x);
-    case registry::Element::u16:
-        return static_cast<uint16_t>(x);
-    default:
-        return x;
+    case registry::Element::u8: return static_cast<uint8_t>(x);
+    case registry::Element::i16: return static_cast<int16_t>(x);
+    case registry::Element::u16: return static_cast<uint16_t>(x);
+    default: return x;
     }
 }
 
@@ -111,20 +107,25 @@ TEST(Checks, FirstFailingOneDecidesAndNothingIsWritten)
     });
 }
 
-TEST(Checks, PassedByAllMeansSuccessOrAListedWarning)
+// What the arguments do not tell, such as a size that is no int, is among the failures.
+TEST(Checks, AllPassedMeansSuccessAListedWarningOrFailure)
 {
     support::Stage stage;
     forEachBody([&](const Function& f) {
         registry::Random random(17);
+        int successes = 0;
         for (int attempt = 0; attempt < 40; ++attempt) {
             Arguments a = registry::build(f, random, 1 + random.below(40), registry::Pattern::adversarial, 0);
             if (!a.valid()) continue;
             stage.put(a, {});
-            const int status = stage.call(a, support::entryOf(f)).status;
-            EXPECT_TRUE(status == 0 || among(status, f.warnings, f.warningCount))
+            const int status = static_cast<int>(stage.call(a, support::entryOf(f)).status);
+            EXPECT_TRUE(status == 0 || among(status, f.warnings, f.warningCount) ||
+                        among(status, f.failures, f.failureCount))
                 << support::nameOf(f) << ": " << status;
+            successes += status >= 0;
             registry::release(a);
         }
+        EXPECT_GT(successes, 0) << support::nameOf(f);
     });
 }
 

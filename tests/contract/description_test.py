@@ -1,5 +1,5 @@
-"""Mistakes in a description are told, with the line where they stand; the pages and the header say of each function what
-is said of it."""
+"""A right description is read as it is meant; mistakes in one are told, with the line where they stand."""
+import re
 import subprocess
 import sys
 import tempfile
@@ -8,6 +8,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools/apigen"))
+import emit_cpp
 from parse import Parser
 from statements import Mistake
 
@@ -151,6 +152,25 @@ class Mistakes(unittest.TestCase):
         self.assertEqual([f.name for f in read({"a.api": family(forms="plain _I")}).functions], ["F_64f", "F_64f_I"])
         read({"a.api": family(OWN, checks="null(pBuf) if mode == 2; null; size; !(mode > 0) : BadArgErr; val != 0 : BadArgErr",
                               fails="BadArgErr when it rains", late="mode == 3 : BadArgErr", domain="mode = 1 len+1")})
+
+    def test_the_shell_makes_the_checks_and_the_kernel_is_asked_for_the_rest(self):
+        described = family(
+            "family F (const T pSrc[len], T pDst[len], work pBuf[len]?, int len, int mode)",
+            checks="null(pBuf) if mode == 2; null; size; !(mode > 0) : BadArgErr",
+            late="mode == 3 : BadArgErr",
+        )
+        shell = emit_cpp.entries(read({"a.api": described.replace("a.kernels", "x/a.kernels"),
+                                       "variants.txt": FILES["variants.txt"].replace("bodies ", "bodies x/")}))
+        self.assertEqual(
+            re.findall(r"^    (.*)$", shell["entries/x/a.inc"], re.M),
+            [
+                "if ((mode == 2) && !pBuf) return StsNullPtrErr;",
+                "if (!pSrc || !pDst) return StsNullPtrErr;",
+                "if (len < 1) return StsSizeErr;",
+                "if (!(mode > 0)) return StsBadArgErr;",
+                "return k(pSrc, pDst, pBuf, len, mode);",
+            ],
+        )
 
     def test_each_mistake_is_told_with_its_line(self):
         for what, given, message in MISTAKES:

@@ -63,8 +63,8 @@ def pages(api):
     index = [
         "# Reference",
         "",
-        "Generated from `api/*.api`. In the formulas of in-place forms the right side has the elements as they were before",
-        "the call.",
+        "Generated from `api/*.api`. In the formulas of in-place forms the right side has the elements as they were",
+        "before the call.",
         "",
     ]
     for topic, title in api.topics.items():

@@ -7,10 +7,12 @@ of any length.
 """
 import re
 
-from statements import Mistake
+from statements import IDENTIFIER, Mistake
 
-TOKEN = re.compile(r"\s*(?:(0[xX][0-9a-fA-F]+|\d+\.?\d*(?:[eE][-+]?\d+)?)|([A-Za-z_]\w*)|(\|\||&&|[=!<>]=|<<|>>|[-+*/%<>!~&|^?:().,]))")
-LEVELS = [["||"], ["&&"], ["|"], ["^"], ["&"], ["==", "!="], ["<", "<=", ">", ">="], ["<<", ">>"], ["+", "-"], ["*", "/", "%"]]
+NUMBER = r"0[xX][0-9a-fA-F]+|\d+\.?\d*(?:[eE][-+]?\d+)?"
+SYMBOL = r"\|\||&&|[=!<>]=|<<|>>|[-+*/%<>!~&|^?:().,]"
+TOKEN = re.compile(rf"\s*(?:({NUMBER})|({IDENTIFIER})|({SYMBOL}))")
+LEVELS = [level.split() for level in "||,&&,|,^,&,== !=,< <= > >=,<< >>,+ -,* / %".split(",")]
 FUNCTIONS = {"min": 2, "max": 2}
 
 
@@ -78,7 +80,7 @@ class Reader:
         if number:
             return ("number", number)
         if not name:
-            raise Mistake(f"no expression, it ends too soon: {self.text}" if symbol == "end" else f"no expression: {self.text}")
+            raise Mistake(f"no expression{', it ends too soon' if symbol == 'end' else ''}: {self.text}")
         if not self.take("("):
             return ("name", name)
         given = [self.choice()]

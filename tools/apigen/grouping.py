@@ -35,16 +35,17 @@ class Group:
 
 def formulas(group, shown=str):
     """Those of the group's forms, one after the other."""
-    found = [
-        ("in place " if FORMS[whose[0].form] == "_I" else "") + shown(text) for text, whose in group.told_apart(formula_of)
-    ]
+    found = []
+    for text, whose in group.told_apart(formula_of):
+        found.append(("in place " if FORMS[whose[0].form] == "_I" else "") + shown(text))
     return "; ".join(found)
 
 
 def short_names(names, family):
     """`ippsAdd_16s, _32s`: behind the first name the common beginning is left out."""
     head = family + "_"
-    return ", ".join([names[0]] + [n[len(family):] if n.startswith(head) and names[0].startswith(head) else n for n in names[1:]])
+    short = names[0].startswith(head)
+    return ", ".join([names[0]] + [n[len(family):] if short and n.startswith(head) else n for n in names[1:]])
 
 
 def groups(functions):

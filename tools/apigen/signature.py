@@ -72,7 +72,7 @@ def with_suffix(text, binding):
 
 
 def known_names(args):
-    """What expressions over the arguments may name (expression.check); values that are no arguments would be added here."""
+    """What expressions may name (expression.check). Values that are no arguments would be added here."""
     by_name = {a.name: a for a in args}
 
     def kind(name):

@@ -33,6 +33,16 @@ def at(place):
         raise
 
 
+IDENTIFIER = r"[A-Za-z_]\w*"
+
+
+def match(pattern, text, otherwise):
+    found = re.fullmatch(pattern, text)
+    if not found:
+        raise Mistake(f"{otherwise}: {text}")
+    return found
+
+
 @dataclass
 class Clause:
     place: Place
@@ -74,7 +84,7 @@ def lines(path):
 
 
 def statements(path):
-    """Statements start in the first column, clauses in the fifth, what goes on from the line above in the ninth or later."""
+    """Statements start in the first column, clauses in the fifth, what goes on from above in the ninth or later."""
     found = []
     for place, line in lines(path):
         indent = len(line) - len(line.lstrip(" "))
@@ -89,5 +99,5 @@ def statements(path):
             above = (found[-1].clauses or found)[-1]
             above.rest += " " + line.strip()
         else:
-            raise Mistake(f"indented by {indent}: clauses are indented by 4, what goes on from above by 8 or more", place)
+            raise Mistake(f"indented by {indent}: 4 begin a clause, 8 or more go on from above", place)
     return found
