@@ -1962,7 +1962,7 @@ IppStatus SIG5D_STDCALL ippsFIRSR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int n
         pSpec, const Ipp64fc* pDlySrc, Ipp64fc* pDlyDst, Ipp8u* pBuf);
 
 /* pDst[n] = sum over k = 0..tapsLen-1 of taps[k] * x[n-k]; in place pSrcDst[n] = sum over k = 0..tapsLen-1 of
-   taps[k] * x[n-k]. Filters the next numIters samples of the stream that a handle of ippsFIRSRInitAlloc carries
+   taps[k] * x[n-k]. Filters the next numIters samples of the stream x that a handle of ippsFIRSRInitAlloc carries
    from call to call: several calls give what one over all the samples gives. */
 IppStatus SIG5D_CDECL ippsFIRSR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
         IppsFIRHandle_64f* pHandle);
@@ -1998,7 +1998,7 @@ IppStatus SIG5D_STDCALL ippsFIRMR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int n
 
 /* pDst[j] = sum over i of taps[j*downFactor + downPhase - upPhase - i*upFactor] * x[i]; in place pSrcDst[j] = sum
    over i of taps[j*downFactor + downPhase - upPhase - i*upFactor] * x[i]. Resamples the next numIters*downFactor
-   samples of the stream that a handle of ippsFIRMRInitAlloc carries from call to call. */
+   samples of the stream x that a handle of ippsFIRMRInitAlloc carries from call to call. */
 IppStatus SIG5D_CDECL ippsFIRMR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int numIters,
         IppsFIRHandle_64f* pHandle);
 IppStatus SIG5D_CDECL ippsFIRMR_64f_I_Idx(Ipp64f* pSrcDst, int idx, int numIters, IppsFIRHandle_64f* pHandle);
