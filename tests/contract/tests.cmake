@@ -7,6 +7,7 @@ if(NOT SIG5D_SANITIZE)
     add_test(NAME ${build}/objects COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/tools/objcheck.py --build ${CMAKE_BINARY_DIR}
                                   --objdump ${CMAKE_OBJDUMP})
     add_test(NAME ${build}/committed COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/committed_test.py)
+    add_test(NAME ${build}/witness COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/contract_witness_test.py)
 endif()
 
 # The library as a file. A sanitizer's build has other imports.
