@@ -455,6 +455,8 @@ IppStatus SIG5D_STDCALL ippsSqrt_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
 IppStatus SIG5D_CDECL ippsSqrt_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSqrt_64f_I(Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSqrt_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[i] = sqrt(pSrc[i]); in place pSrcDst[i] = sqrt(pSrcDst[i]). */
 IppStatus SIG5D_STDCALL ippsSqrt_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
 IppStatus SIG5D_CDECL ippsSqrt_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSqrt_64fc_I(Ipp64fc* pSrcDst, int len);

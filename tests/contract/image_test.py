@@ -39,7 +39,7 @@ options = None
 
 
 def described():
-    return [name for name, _, _ in Parser(PROJECT / "api").read().exports()]
+    return [name for name, _, _ in Parser(PROJECT / "api", PROJECT / "src/variants.txt").read().exports()]
 
 
 def writable_variables(sections):

@@ -6,7 +6,7 @@ set_source_files_properties(variants/equality_test.cpp PROPERTIES COMPILE_OPTION
 if(NOT SIG5D_SANITIZE)
     add_test(NAME ${build}/objects COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/tools/objcheck.py --build ${CMAKE_BINARY_DIR}
                                   --objdump ${CMAKE_OBJDUMP})
-    foreach(test committed description documentation)
+    foreach(test committed description documentation contract_witness)
         add_test(NAME ${build}/${test} COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/${test}_test.py)
     endforeach()
 endif()

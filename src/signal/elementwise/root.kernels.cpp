@@ -123,10 +123,9 @@ struct ComplexRoot {
     return negatives ? StsSqrtNegArg : StsNoErr;
 }
 
-[[gnu::noinline]] Status root(const c64f* a, c64f* d, int n)
+[[gnu::noinline]] void root(const c64f* a, c64f* d, int n)
 {
     map_pipelined(static_cast<size_t>(n), folded(d), ComplexRoot{}, folded(a));
-    return StsNoErr;
 }
 
 } // namespace
