@@ -65,6 +65,8 @@ struct Job {
             if (isLength(f->args[i])) values[i].i = n;
         for (int i = 0; i < f->argCount; ++i)
             if (rules[i]) values[i] = number(rules[i](values.data()));
+        for (int i = 0; i < f->namedCount; ++i)
+            if (f->named[i].value) values[f->argCount + i].i = f->named[i].value(values.data());
     }
     bool valid() const
     {
@@ -93,7 +95,7 @@ std::vector<Candidate> candidates(const Job& job, int i)
     } else if (!std::strcmp(a.name, "rndMode")) {
         add({1}); // what callers use, though not the largest
     } else {
-        for (int k = 0; k < a.domainSize; ++k) all.push_back({a.domain[k](job.values.data()), a.domain[k]});
+        for (int k = 0; k < a.domainSize; ++k) all.push_back({a.domain[k].low(job.values.data()), a.domain[k].low});
         std::stable_partition(all.begin(), all.end(), [](const Candidate& c) { return c.value > 1; });
     }
     if (all.empty() && a.element == Element::none) add({1, 0, 2, 3, 8});
@@ -193,7 +195,9 @@ const char* obstacle(const Function& f)
         if (f.args[i].kind == Kind::opaque || f.args[i].kind == Kind::pointer)
             return "arguments that only a case of its own can build";
     }
-    if (*f.fixture) return "arguments that only a case of its own can build";
+    bool follows = !*f.untested && !f.ruleCount;
+    for (int i = 0; i < f.namedCount; ++i) follows &= f.named[i].source == registry::Source::computed;
+    if (!follows) return "arguments that only a case of its own can build";
     if (!array || !length) return "no array whose length is an argument";
     return nullptr;
 }
@@ -218,8 +222,8 @@ void addJob(Job job, const std::string& name, const Selection& selection, std::v
 {
     const Function& f = *job.f;
     int attempts = 1000;
-    job.values.resize(static_cast<size_t>(f.argCount));
-    job.rules.resize(job.values.size());
+    job.values.resize(static_cast<size_t>(f.argCount + f.namedCount));
+    job.rules.resize(static_cast<size_t>(f.argCount));
     for (int i = 0; i < f.argCount; ++i)
         if (f.args[i].kind != Kind::scalar && f.args[i].kind != Kind::index) job.values[i].p = somewhere();
     job.setLengths(16);

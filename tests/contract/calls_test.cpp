@@ -1,6 +1,5 @@
 // A call is invisible to its caller: every function, form and variant, from four stack alignments.
 #include "support/stage.h"
-#include <cstring>
 #include <gtest/gtest.h>
 
 namespace {
@@ -8,31 +7,16 @@ namespace {
 using registry::Arguments;
 using registry::Function;
 
-bool slow(const Function& f) { return !std::strcmp(f.fixture, "slow"); }
-
-void release(const Function& f, const registry::Answer& answer)
-{
-    if (std::strcmp(f.family, "ippsMalloc")) return;
-    registry::Value block;
-    block.p = reinterpret_cast<void*>(static_cast<uintptr_t>(answer.status));
-    const Function& free = *registry::find("ippsFree");
-    registry::invoke(support::entryOf(free), free, &block);
-}
-
 void probe(const Function& f, support::Stage& stage)
 {
     registry::Random random(7);
     for (int phase : {0, 4, 8, 12}) {
         if (sizeof(void*) == 8 && phase % 8) continue; // pushes are 8 bytes there
-        if (slow(f) && phase) continue;
         for (long long length : {5, 67}) {
             Arguments a = registry::build(f, random, length, registry::Pattern::tame, 0);
             stage.put(a, {});
             const auto answer = stage.call(a, support::entryOf(f), phase);
             EXPECT_EQ(answer.intrusion, "") << support::nameOf(f) << " phase " << phase;
-            release(f, answer);
-            registry::release(a);
-            if (slow(f)) break;
             for (auto& v : a.values) v.p = nullptr; // the way out through the first check
             if (f.checkCount) {
                 EXPECT_EQ(stage.call(a, support::entryOf(f), phase).intrusion, "") << support::nameOf(f);

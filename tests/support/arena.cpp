@@ -89,6 +89,16 @@ GuardedRegion::GuardedRegion(size_t bytes) : size_((bytes + granule - 1) / granu
 #endif
 }
 
+void GuardedRegion::lock(bool locked) const
+{
+#ifdef _WIN32
+    DWORD old;
+    if (!VirtualProtect(readWrite_, size_, locked ? PAGE_READONLY : PAGE_READWRITE, &old)) fail("not locked");
+#else
+    if (mprotect(readWrite_, size_, locked ? PROT_READ : PROT_READ | PROT_WRITE)) fail("not locked");
+#endif
+}
+
 void onFault(const char* (*what)())
 {
     describe = what;

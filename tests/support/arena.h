@@ -16,6 +16,7 @@ public:
     uint8_t* own() const { return own_; } // the test's view
     uint8_t* readWrite() const { return readWrite_; } // the function's views of the same memory
     uint8_t* readOnly() const { return readOnly_; }
+    void lock(bool locked) const; // makes readWrite() read-only, for memory that holds addresses of itself
 
 private:
     size_t size_;

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <gtest/gtest.h>
 
 namespace support {
 namespace {
@@ -65,34 +66,106 @@ GuardedRegion& Stage::region(size_t index, size_t bytes)
     return *regions_[index];
 }
 
+Stage::Spot Stage::spot(GuardedRegion& r, size_t bytes, Place place)
+{
+    const auto offset = static_cast<size_t>(place.offset);
+    const size_t start = place.atEnd ? r.size() - bytes - offset : offset;
+    Spot s;
+    s.bytes = bytes;
+    s.own = r.own() + start;
+    s.low = r.own() + (start > canaryBytes ? start - canaryBytes : 0);
+    s.high = r.own() + std::min(r.size(), start + bytes + canaryBytes);
+    std::memset(s.low, canary, static_cast<size_t>(s.high - s.low));
+    return s;
+}
+
 void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* shared)
 {
     const registry::Function& f = a.f;
+    releaseStates();
     spots_.assign(static_cast<size_t>(f.argCount), {});
+    shared_ = shared;
     for (int i = 0; i < f.argCount; ++i) {
         const Arg& arg = f.args[i];
         if (arg.kind == Kind::scalar || arg.kind == Kind::index) continue;
         a.values[i].p = nullptr;
         if (a.null[i]) continue;
+        if (arg.makers) {
+            putState(a, i, place);
+            continue;
+        }
         size_t bytes = a.content[i].size();
         if (shared && shared->source == i) bytes = std::max(bytes, a.content[shared->destination].size());
         GuardedRegion& r = region(static_cast<size_t>(i), bytes + 2 * canaryBytes + 4096);
-        size_t start = place.atEnd ? r.size() - bytes - static_cast<size_t>(place.offset) : static_cast<size_t>(place.offset);
-        if (arg.kind == Kind::opaque) start = start / 64 * 64; // records keep their alignment when they move
-        Spot& spot = spots_[i];
-        spot.bytes = bytes;
-        spot.own = r.own() + start;
-        spot.low = r.own() + (start > canaryBytes ? start - canaryBytes : 0);
-        spot.high = r.own() + std::min(r.size(), start + bytes + canaryBytes);
+        spots_[i] = spot(r, bytes, place);
         const bool writable = !arg.isConst || (shared && shared->source == i);
-        a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + start;
-        std::memset(spot.low, canary, static_cast<size_t>(spot.high - spot.low));
-        if (!a.content[i].empty()) std::memcpy(spot.own, a.content[i].data(), a.content[i].size());
+        a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + (spots_[i].own - r.own());
+        write(a, i);
     }
     if (shared) {
         spots_[shared->destination] = spots_[shared->source];
         a.values[shared->destination].p = a.values[shared->source].p;
     }
+}
+
+// What lies between rows that are only read differs from call to call.
+void Stage::write(const registry::Arguments& a, int i)
+{
+    const Spot& s = spots_[i];
+    if (!s.own || a.content[i].empty()) return;
+    std::memcpy(s.own, a.content[i].data(), a.content[i].size());
+    ++writes_;
+    if (a.f.args[i].rows && a.f.args[i].isConst && !shared_)
+        for (size_t k = 0; k < a.content[i].size(); ++k)
+            if (a.inGap(i, k)) s.own[k] = static_cast<uint8_t>(writes_ * 37);
+}
+
+void Stage::refresh(const registry::Arguments& a)
+{
+    for (int i = 0; i < a.f.argCount; ++i)
+        if (!shared_ || shared_->destination != i) write(a, i);
+    for (const State& s : states_) { // as the last call left it
+        const Spot& at = spots_[s.argument];
+        if (at.own) spots_[s.argument].made.assign(at.own, at.own + at.bytes);
+    }
+}
+
+void Stage::putState(registry::Arguments& a, int i, Place place)
+{
+    State state{i, nullptr, nullptr};
+    const Variant user = current();
+    if (maker_) force(*maker_);
+    state.made = std::make_unique<registry::Made>(*a.made[i], [&](size_t bytes, bool kept) {
+        GuardedRegion& r = region(static_cast<size_t>(a.f.argCount) + stateRegions_++, bytes + 2 * canaryBytes + 4096);
+        const Spot s = spot(r, bytes, place);
+        if (kept) {
+            spots_[i] = s;
+            state.home = &r;
+        }
+        return r.readWrite() + (s.own - r.own());
+    });
+    if (maker_) force(user);
+    EXPECT_TRUE(state.made->pointer()) << nameOf(a.made[i]->f) << " makes no state: " << state.made->status();
+    a.values[i].p = state.made->pointer();
+    Spot& s = spots_[i];
+    if (s.own) s.made.assign(s.own, s.own + s.bytes);
+    if (state.home && a.f.args[i].isConst) state.home->lock(true);
+    states_.push_back(std::move(state));
+}
+
+void Stage::wipe(int argument)
+{
+    Spot& s = spots_[argument];
+    std::memset(s.own, 0, s.bytes);
+    s.made.assign(s.bytes, 0);
+}
+
+void Stage::releaseStates()
+{
+    for (const State& s : states_)
+        if (s.home) s.home->lock(false);
+    states_.clear();
+    stateRegions_ = 0;
 }
 
 registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int stackPhase)
@@ -105,20 +178,32 @@ registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int 
         std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
         context += piece;
     }
+    registry::Answer answer;
     if (a.f.index == registry::IndexForm::only) {
         const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
-        return registry::invokeIndexed(entry, a.f, a.values.data(), zeros.data(), stackPhase);
+        answer = registry::invokeIndexed(entry, a.f, a.values.data(), zeros.data(), stackPhase);
+    } else {
+        answer = registry::invoke(entry, a.f, a.values.data(), stackPhase);
     }
-    return registry::invoke(entry, a.f, a.values.data(), stackPhase);
+    settle(a, answer);
+    return answer;
+}
+
+// What the call made and nobody will use is released; what it released is not released again.
+void Stage::settle(const registry::Arguments& a, const registry::Answer& answer)
+{
+    registry::releaseMade(a.f, a.values.data(), answer);
+    for (State& s : states_)
+        if (registry::releasesState(a.f) && a.values[s.argument].p == s.made->pointer()) s.made->forget();
 }
 
 std::string Stage::strayWrite(const registry::Arguments& a) const
 {
     for (size_t i = 0; i < spots_.size(); ++i) {
         const Spot& s = spots_[i];
-        if (!s.own || a.f.args[i].isConst) continue;
+        if (!s.own || (a.f.args[i].isConst && s.made.empty())) continue;
         for (const uint8_t* p = s.low; p < s.high; ++p)
-            if ((p < s.own || p >= s.own + s.bytes) && *p != canary) return a.f.args[i].name;
+            if ((p < s.own || p >= s.own + s.bytes || a.inGap(static_cast<int>(i), static_cast<size_t>(p - s.own))) && *p != canary) return a.f.args[i].name;
     }
     return "";
 }
@@ -127,7 +212,9 @@ std::string Stage::changed(const registry::Arguments& a) const
 {
     for (size_t i = 0; i < spots_.size(); ++i) {
         const Spot& s = spots_[i];
-        if (s.own && !a.content[i].empty() && std::memcmp(s.own, a.content[i].data(), a.content[i].size())) return a.f.args[i].name;
+        const auto& before = s.made.empty() ? a.content[i] : s.made;
+        for (size_t k = 0; s.own && k < before.size(); ++k)
+            if (s.own[k] != before[k] && !a.inGap(static_cast<int>(i), k)) return a.f.args[i].name;
     }
     return strayWrite(a);
 }
@@ -146,6 +233,6 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
     return "";
 }
 
-bool generallyCallable(const registry::Function& f) { return std::strcmp(f.fixture, "none") != 0; }
+bool generallyCallable(const registry::Function& f) { return !*f.untested; }
 
 } // namespace support

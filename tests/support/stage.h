@@ -2,6 +2,7 @@
 #pragma once
 #include "arguments.h"
 #include "invoke.h"
+#include "states.h"
 #include "support/arena.h"
 #include "support/library.h"
 #include <memory>
@@ -18,11 +19,20 @@ struct Place {
 
 class Stage {
 public:
-    // Copies the arrays' initial content to their places and sets the pointers. With "shared" the destination of that
-    // pair is its source.
+    ~Stage() { releaseStates(); }
+
+    // Copies the arrays' initial content to their places, makes the states, which lie as the arrays do, and sets the
+    // pointers. With "shared" the destination of that pair is its source.
     void put(registry::Arguments& a, Place place, const registry::InPlace* shared = nullptr);
     // The plain form, or the _Idx form (with indexes 0) where there is no other.
     registry::Answer call(registry::Arguments& a, registry::Entry entry, int stackPhase = 0);
+
+    // The arrays anew, for a further call on the same states.
+    void refresh(const registry::Arguments& a);
+    // Zeros in place of a state.
+    void wipe(int argument);
+    // The variant that makes states from now on; null: the one that is forced.
+    void makeStatesIn(const Variant* v) { maker_ = v; }
 
     // What the argument points to now.
     const uint8_t* now(int argument) const { return spots_[argument].own; }
@@ -36,17 +46,33 @@ private:
         uint8_t* own = nullptr;
         uint8_t *low = nullptr, *high = nullptr; // the whole memory around it
         size_t bytes = 0;
+        std::vector<uint8_t> made; // of a state in this memory: its bytes before the call
     };
+    struct State {
+        int argument;
+        std::unique_ptr<registry::Made> made;
+        const GuardedRegion* home;
+    };
+    void putState(registry::Arguments& a, int argument, Place place);
+    Spot spot(GuardedRegion& region, size_t bytes, Place place);
+    void releaseStates();
+    void settle(const registry::Arguments& a, const registry::Answer& answer);
+    void write(const registry::Arguments& a, int argument);
     GuardedRegion& region(size_t index, size_t bytes);
     std::vector<std::unique_ptr<GuardedRegion>> regions_;
     std::vector<Spot> spots_;
+    std::vector<State> states_;
+    size_t stateRegions_ = 0; // in use, behind those of the arguments
+    const Variant* maker_ = nullptr;
+    const registry::InPlace* shared_ = nullptr;
+    unsigned writes_ = 0;
 };
 
 // How an output differs from the expected one; NaN equals NaN unless the function moves bits.
 std::string difference(const registry::Arguments& a, int argument, const uint8_t* expected, const uint8_t* found);
 bool isOutput(const registry::Arg& arg);
 
-// Functions to which the general tests apply: those whose arguments the description or a fixture can build.
+// Functions to which the general tests apply; the others have a reason in the description.
 bool generallyCallable(const registry::Function& f);
 
 } // namespace support

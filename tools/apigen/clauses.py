@@ -4,16 +4,18 @@ from statements import Mistake, at, match
 
 ONCE = {
     "types", "forms", "kernel", "checks", "fails", "late", "returns", "warns", "idx", "convention", "in_place", "moves",
-    "fixture", "formula", "doc",
+    "makes", "untested", "formula", "doc",
 }
-REPEATED = {"form", "domain", "note"}
+REPEATED = {"form", "domain", "some", "let", "sizes", "state", "values", "note"}
+BUILDING = {"domain", "some", "let", "sizes", "state", "values", "makes"}  # how arguments are built: building.py
 
 
 class Clauses:
     """The clauses of a shape or a family: those that may stand once by word, the others as lists."""
 
     def __init__(self, given):
-        self.once, self.forms, self.domains, self.notes = {}, {}, {}, []
+        self.once, self.forms, self.notes, self.building = {}, {}, [], {}
+        self.concerned = []  # clauses of building that a function has to do with
         for clause in given:
             with at(clause.place):
                 self.add(clause)
@@ -28,21 +30,21 @@ class Clauses:
             self.notes.append(clause)
             return
         table, key = self.once, word
-        if word == "form":
+        if word in BUILDING:
+            table, key = self.building, word if word == "makes" else f"{word} {rest.partition('=')[0].strip()}"
+        elif word == "form":
             table, key = self.forms, match(r"(\w+)\s*\(.*", rest, "no form NAME (arguments)")[1]
             if key not in FORMS.values():
                 raise Mistake(f"unknown form {key}; {' '.join(sorted(set(FORMS.values())))} have argument lists")
-        elif word == "domain":
-            table, key = self.domains, match(r"(\w+)\s*=\s*\S.*", rest, "no domain NAME = values")[1]
         if key in table:
-            raise Mistake(f"{word} {key} a second time" if key != word else f"{word} a second time")
+            raise Mistake(f"{key if table is self.building else f'form {key}' if word == 'form' else word} a second time")
         table[key] = clause
 
     def over(self, inherited):
         """These clauses, and those of the shape that they do not replace."""
         self.once = inherited.once | self.once
         self.forms = inherited.forms | self.forms
-        self.domains = inherited.domains | self.domains
+        self.building = inherited.building | self.building
         self.notes = inherited.notes + self.notes
         return self
 

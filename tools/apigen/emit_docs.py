@@ -23,8 +23,43 @@ def arguments_text(f):
             role = "in" if a.const else "in and out" if a.inout else "scratch" if a.kind == "work" else "out"
             same = " or ".join(f"`{s}`" for d, s in f.in_place if d == a.name)
             null = ", may be null" if a.optional else ""
-            rows.append(f"- `{a.name}`: {role}, `{a.extent}` {unit}{null}" + (f"; may be {same}" if same else ""))
-    return "\n".join(rows)
+            extent = f"`{a.extent}`" + (f", at most `{a.room}`" if a.room else "")
+            rows.append(f"- `{a.name}`: {role}, {extent} {unit}{null}" + (f"; may be {same}" if same else ""))
+    return "\n".join(rows + states_text(f))
+
+
+def states_text(f):
+    """Where states come from, where sizes, and what else extents name."""
+    rows = []
+    for a in f.args:
+        makers = " or ".join(f"`{m.function}`" + given(m) for m in f.makers if m.argument == a.name)
+        if makers:
+            rows.append(f"- `{a.name}`: {'in' if a.const else 'in and out'}, made by {makers}")
+        elif a.kind == "opaque":
+            rows.append(f"- `{a.name}`: out, `{a.extent}` bytes")
+    for q in f.queries:
+        rows.append(f"- `{q.function}({', '.join(q.args)})` gives the sizes")
+    for n in f.named:
+        if n.source == "computed":
+            rows.append(f"- `{n.name}` is `{n.text}`")
+        if n.source == "chosen":
+            rows.append(f"- `{n.name}` is not passed; the caller knows it")
+    for r in f.rules:
+        text = RULES.get(r.kind, "").format(r.argument, *r.operands)
+        rows += [f"- {text}"] if text else []
+    return rows
+
+
+# What callers must keep to, or what a name means; other rules only tell tests what is worth trying.
+RULES = {
+    "below": "`{0}` holds numbers below `{1}`",
+    "apart": "`{0}` holds numbers below `{1}`",
+    "selects": "`{1}` is the number of positive values in `{0}`",
+}
+
+
+def given(maker):
+    return " with " + ", ".join(f"{n} {v}" for n, v in maker.fixed.items()) if maker.fixed else ""
 
 
 def form_text(f):

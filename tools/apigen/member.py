@@ -2,15 +2,10 @@
 import re
 
 import expression
+from building import Building
 from model import FORMS, Function
 from signature import argument, known_names, parse_args, parse_checks, status, with_suffix
 from statements import IDENTIFIER, Mistake, at, match, split_list
-
-# Who builds arguments in tests: tools/registry/fixtures. none: nobody can.
-FIXTURES = {
-    "none", "fir", "bins", "bins_apart", "equal_width", "compare", "compare_and_list", "pack_index", "unpack_index",
-    "pack_mask", "unpack_mask", "division",
-}
 
 
 class Member:
@@ -56,22 +51,24 @@ class Member:
             self.args = self.args + scale
             self.call = self.call + ["scaleFactor"]
             self.plain_call = self.plain_call + ["scaleFactor"]
+        self.building = Building(self.said.building.values(), self.args, self.binding)
         with at(self.place):
             for a in self.args:
-                self.check_extent(a)
-
-    def check_extent(self, a):
-        if not a.extent or self.said.text("fixture"):
-            return  # the fixture knows values that are no arguments
-        expression.check(a.extent, known_names(self.args))
+                for text in list(a.rows[:3]) or [a.extent]:
+                    if text:
+                        expression.check(text, self.building.known)
+                if a.room:
+                    expression.check(a.room, self.building.known)
 
     def failures(self):
         """Found by the entry shell, by the kernel before it writes, by the kernel after it has written."""
         found, before = [], []
         for word in ("checks", "fails", "late"):
+            shell = word == "checks"
+            known = known_names(self.args) if shell else self.building.known  # the shell has nothing but the arguments
             with self.within(word):
                 text = self.said.text(word, "none")
-                found.append(parse_checks(text, self.args, self.api, words=word != "checks", before=before))
+                found.append(parse_checks(text, self.args, self.api, words=not shell, before=before, known=known))
                 before = before + found[-1]
         return found
 
@@ -99,19 +96,6 @@ class Member:
                     if destination.type != source.type:
                         raise Mistake(f"{d} and {s} hold different types")
                     found.append((d, s))
-        return found
-
-    def domains(self):
-        found = {}
-        for name, clause in self.said.domains.items():
-            with at(clause.place):
-                if name not in {a.name for a in self.args}:
-                    continue  # another form's
-                if argument(name, self.args).kind != "scalar":
-                    raise Mistake(f"{name} is no number")
-                found[name] = clause.rest.partition("=")[2].split()
-                for value in found[name]:
-                    expression.check(value, known_names([a for a in self.args if a.name != name]))
         return found
 
     def said_of_statuses(self, returns):
@@ -157,9 +141,14 @@ class Member:
             doc=self.said.text("doc"),
             notes=[n.rest for n in self.said.notes],
             in_place=self.in_place(),
-            domains=self.domains(),
+            domains=self.building.domains,
+            named=self.building.named,
+            queries=self.building.queries,
+            makers=self.building.makers,
+            makes=self.building.made,
+            rules=self.building.rules,
             moves_bits="moves" in self.said.once,
-            fixture=self.one_of("fixture", "", FIXTURES | {""}),
+            untested=self.said.text("untested"),
             types=[self.binding[k] for k in "TUVW" if k in self.binding],
             place=self.place,
         )

@@ -12,11 +12,13 @@ class Type:
     kernel: str  # C++ type in the kernels: "i16"
     size: int  # bytes an element
     unit: int  # bytes that one step of an _Idx index moves
+    code: int = 0  # the type's number where an argument chooses the type; 0: it has none
 
 
 @dataclass
 class Arg:
-    """One argument. kind: array, work, result (pointer to single values), opaque, pointer, scalar, index."""
+    """One argument. kind: array, work, result (pointer to single values), opaque (a record), handle (where the address
+    of a record is stored), pointer, scalar, index."""
 
     name: str
     kind: str
@@ -25,13 +27,15 @@ class Arg:
     type: Type = None  # element type (array, result, scalar); None for int, unsigned and opaque
     base: str = ""  # C type without const and stars
     stars: int = 0
-    extent: str = ""  # elements of an array, bytes of a work buffer, values of a result
+    extent: str = ""  # elements of an array, bytes of a work buffer or record, values of a result
+    room: str = ""  # elements that suffice, where the extent is known after the call only
+    rows: tuple = ()  # (rows, elements of a row, from row to row, whether that counts bytes) of an array with rows
     optional: bool = False  # a null pointer is a valid argument
     applies_to: str = ""  # index: the pointer that it moves
 
     @property
     def pointer(self):
-        return self.kind in ("array", "work", "result", "opaque", "pointer")
+        return self.kind in ("array", "work", "result", "opaque", "handle", "pointer")
 
     def c_type(self):
         return ("const " if self.const else "") + self.base + "*" * self.stars
@@ -68,6 +72,52 @@ class Check:
 
 
 @dataclass
+class Named:
+    """A value that is no argument, but that extents, domains and rules may name."""
+
+    name: str
+    source: str  # chosen (from a domain), computed, size (of a call), ofState (of its maker's call), counted (in contents)
+    text: str = ""  # computed: the expression; chosen: the domain
+    query: int = -1  # size: which call gives it
+    argument: str = ""  # ofState: the state; counted: the array
+
+
+@dataclass
+class Query:
+    """A call that gives sizes: expressions, and names for what it stores."""
+
+    function: str
+    args: list
+
+
+@dataclass
+class Maker:
+    """A function whose call makes a state that an argument takes."""
+
+    argument: str
+    function: str  # its export
+    fixed: dict = field(default_factory=dict)  # argument of the maker -> expression over none
+
+
+@dataclass
+class Makes:
+    """What a call makes for others."""
+
+    name: str  # the argument that is filled or receives the address; "result"
+    home: str = ""  # the argument whose memory holds it; empty: the argument itself, or memory that the call allocated
+    release: str = ""  # the export that releases it
+
+
+@dataclass
+class Rule:
+    """What an argument's values keep to."""
+
+    argument: str
+    kind: str  # other than, below, apart, within, selects, like
+    operands: list
+
+
+@dataclass
 class Function:
     """One function of the interface: its plain form, or an _Idx form that has an argument list of its own."""
 
@@ -96,7 +146,12 @@ class Function:
     in_place: list = field(default_factory=list)  # (destination, source) pairs that may be one array
     domains: dict = field(default_factory=dict)  # argument name -> expressions of values worth trying
     moves_bits: bool = False  # values are moved, never computed
-    fixture: str = ""  # who builds valid arguments for the tests; empty: they follow from the extents
+    named: list = field(default_factory=list)  # in the order in which they become known
+    queries: list = field(default_factory=list)
+    makers: list = field(default_factory=list)
+    makes: Makes = None
+    rules: list = field(default_factory=list)
+    untested: str = ""  # why general tests do not call it
     types: list = field(default_factory=list)
     place: object = None  # where it is described
 

@@ -1,6 +1,7 @@
 """Reads api/*.api. The grammar is told in api/GRAMMAR.md; what it does not tell is a mistake."""
 from pathlib import Path
 
+import building
 import variants
 from clauses import Clauses
 from member import Member
@@ -28,6 +29,7 @@ class Parser:
         for name in order + sorted(p.name for p in self.folder.glob("*.api") if p.name not in order + ["status.api"]):
             self.read_file(self.folder / name)
         self.read_ordinals()
+        building.check(self.api)
         return self.api
 
     def read_statuses(self):
@@ -81,11 +83,11 @@ class Parser:
         handle[statement.word](statement)
 
     def type(self, statement):
-        pattern = r"(\w+)\s+(Ipp\w+)\s+(\w+)\s+(\d+)\s+(\d+)"
-        m = match(pattern, statement.rest, "no type SUFFIX CTYPE KERNELTYPE SIZE UNIT")
+        pattern = r"(\w+)\s+(Ipp\w+)\s+(\w+)\s+(\d+)\s+(\d+)(?:\s+(\d+))?"
+        m = match(pattern, statement.rest, "no type SUFFIX CTYPE KERNELTYPE SIZE UNIT [CODE]")
         if m[1] in self.api.types:
             raise Mistake(f"type {m[1]} a second time")
-        self.api.types[m[1]] = Type(m[1], m[2], m[3], int(m[4]), int(m[5]))
+        self.api.types[m[1]] = Type(m[1], m[2], m[3], int(m[4]), int(m[5]), int(m[6] or 0))
 
     def opaque(self, statement):
         for name in statement.rest.split():
@@ -152,7 +154,9 @@ class Parser:
                         raise Mistake(f"form {form} twice" if form in FORMS else f"unknown form {form}")
                     if FORMS[form] != "plain" and FORMS[form] not in said.forms:
                         raise Mistake(f"form {form} needs a clause `form {FORMS[form]} (arguments) runs (values)`")
-                made.append(Member(self, said, place, name, full, form, args, binding).function())
+                member = Member(self, said, place, name, full, form, args, binding)
+                made.append(member.function())
+                said.concerned += member.building.concerned
         return made
 
     def nothing_in_vain(self, made, own, said):
@@ -161,9 +165,9 @@ class Parser:
         for form, clause in own.forms.items():
             if form not in bases:
                 raise Mistake(f"form {form} is not among the forms", clause.place)
-        for name, clause in said.domains.items():
-            if not any(name in f.domains for f in made):
-                raise Mistake(f"domain {name}: no such argument", clause.place)
+        for clause in said.building.values():
+            if not any(clause is c for c in said.concerned):
+                raise Mistake(f"{clause.word} {clause.rest.split()[0]}: no such argument", clause.place)
         if "in_place" in said.once:
             with at(said.once["in_place"].place):
                 for pair in split_list(said.text("in_place")):

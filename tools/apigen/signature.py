@@ -23,8 +23,8 @@ def scalar_or_pointer(arg, base, stars, extent, binding, api):
     elif base in PLAIN_BASES and stars and not extent:
         arg.kind, arg.base, arg.stars = "pointer", PLAIN_BASES[base], stars
         arg.extent = "1"
-    elif base in api.opaque and stars and not extent:
-        arg.kind, arg.base, arg.stars = "opaque", base, stars
+    elif base in api.opaque and (stars == 1 or stars == 2 and not extent):
+        arg.kind, arg.base, arg.stars = "opaque" if stars == 1 else "handle", base, stars
     else:
         raise Mistake(f"unknown type {base}: {arg.name}")
 
@@ -37,7 +37,7 @@ def parse_arg(text, binding, api):
     access, base, stars, name, extent, optional = m.groups()
     base = with_suffix(base, binding)
     arg = Arg(name, "scalar", const=access == "const", inout=access == "inout", optional=bool(optional))
-    arg.extent = (extent or "").strip()
+    read_extent(arg, (extent or "").strip())
     if base == "work" and extent and not stars:
         arg.kind, arg.type, arg.base, arg.stars = "work", api.types["8u"], "Ipp8u", 1
     elif base == "index" and not stars and not extent:
@@ -47,6 +47,15 @@ def parse_arg(text, binding, api):
     if not arg.pointer and (access or optional):
         raise Mistake(f"{access or '?'} is for pointers: {text}")
     return arg
+
+
+def read_extent(arg, text):
+    """`len`; `*count, at most n`, where the call tells how much it writes; `rows of cols every stride [bytes]`."""
+    arg.extent, _, room = text.partition(", at most ")
+    arg.room = room.strip()
+    rows = re.fullmatch(r"(.+) of (.+) every (.+?)( bytes)?", arg.extent)
+    if rows:
+        arg.rows = (rows[1], rows[2], rows[3], bool(rows[4]))
 
 
 def parse_args(text, binding, api, indices):
@@ -65,14 +74,18 @@ def parse_args(text, binding, api, indices):
 
 
 def with_suffix(text, binding):
-    """{T} is the suffix of T."""
+    """{T} is the suffix of T, {T.code} its number in arguments that choose a type."""
+    code = binding["T"].code if "T" in binding else 0
+    if "{T.code}" in text and not code:
+        raise Mistake(f"{{T.code}} in a function whose type has no number: {text}")
+    text = text.replace("{T.code}", str(code))
     if "{T}" in text and "T" not in binding:
         raise Mistake(f"{{T}} in a function without element types: {text}")
     return text.replace("{T}", binding["T"].suffix if "T" in binding else "")
 
 
 def known_names(args):
-    """What expressions may name (expression.check). Values that are no arguments would be added here."""
+    """What expressions may name (expression.check); building.py adds values that are no arguments."""
     by_name = {a.name: a for a in args}
 
     def kind(name):
@@ -104,7 +117,7 @@ def status(name, api, error):
     return name
 
 
-def parse_check(text, args, api, words, before):
+def parse_check(text, args, api, words, before, known):
     """One item of `checks`, `fails` or `late`. `words`: it may be `Status when ...`, told in words."""
     m = re.fullmatch(r"(\w+)\s+when\s+(.+)", text)
     if m and words:
@@ -120,7 +133,7 @@ def parse_check(text, args, api, words, before):
             if not argument(name, args).pointer:
                 raise Mistake(f"{name} is no pointer: {text}")
         if m[2]:
-            expression.check(m[2], known_names(args))
+            expression.check(m[2], known)
         return Check("NullPtrErr", nulls=names, only_if=m[2] or "")
     m = re.fullmatch(r"size(?:\s*\(\s*(\w+)\s*\))?", text)
     if m:
@@ -131,16 +144,16 @@ def parse_check(text, args, api, words, before):
     condition, colon, name = text.rpartition(":")
     if not colon or not re.fullmatch(r"\s*\w+", name):
         raise Mistake(f"no check: {text}")
-    expression.check(condition, known_names(args))
+    expression.check(condition, known)
     return Check(status(name.strip(), api, error=True), condition=condition.strip())
 
 
-def parse_checks(text, args, api, words, before):
-    """`before`: the checks made earlier; `null` means the pointers that these have left."""
+def parse_checks(text, args, api, words, before, known):
+    """`before`: the checks made earlier; `null` means the pointers that these have left. `known`: for expressions."""
     found = []
     if text != "none":
         for item in split_list(text, ";"):
-            found.append(parse_check(item, args, api, words, before + found))
+            found.append(parse_check(item, args, api, words, before + found, known))
     return found
 
 

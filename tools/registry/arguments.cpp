@@ -1,48 +1,37 @@
 #include "arguments.h"
-#include "fixtures/fixtures.h"
+#include "rules.h"
+#include "states.h"
 #include <cstring>
-#include <map>
 #include <string>
 
 namespace registry {
 namespace {
 
-std::map<std::string, Fixture>& known()
-{
-    static std::map<std::string, Fixture> all;
-    return all;
-}
+constexpr long long largestExtent = 1 << 22; // of what tests build
 
 void* somewhere()
 {
-    static char place;
-    return &place;
+    alignas(64) static char place[64];
+    return place;
 }
 
-const Fixture& fixtureOf(const Function& f)
-{
-    static const Fixture none;
-    static const bool added = (fixtures::addAll(), true);
-    (void)added;
-    const auto found = known().find(f.fixture);
-    return found == known().end() ? none : found->second;
-}
+bool isPointer(const Arg& arg) { return arg.kind != Kind::scalar && arg.kind != Kind::index; }
 
-void measure(Arguments& a)
+Value choose(const Choice* domain, int size, const Value* values, Random& random)
 {
-    for (int i = 0; i < a.f.argCount; ++i) {
-        const Arg& arg = a.f.args[i];
-        if (arg.extent) a.extent[i] = arg.extent(a.values.data());
-    }
-    if (fixtureOf(a.f).extents) fixtureOf(a.f).extents(a);
+    const Choice& c = domain[random.below(size)];
+    Value v;
+    v.re = c.low(values);
+    if (c.high) v.re += static_cast<double>(random.below(static_cast<long long>(c.high(values) - v.re) + 1));
+    v.i = static_cast<long long>(v.re);
+    return v;
 }
 
 Value chooseScalar(const Arg& arg, const Value* values, Random& random, long long length, int lengths, Pattern pattern)
 {
     Value v;
     if (arg.domainSize) {
-        v.re = arg.domain[random.below(arg.domainSize)](values);
-        v.i = static_cast<long long>(v.re);
+        v = choose(arg.domain, arg.domainSize, values, random);
     } else if (arg.inExtent) {
         v.i = lengths == 1 ? length : random.below(length < 24 ? length + 1 : 24);
     } else if (arg.element != Element::none) {
@@ -55,19 +44,158 @@ Value chooseScalar(const Arg& arg, const Value* values, Random& random, long lon
     return v;
 }
 
+int lengthsOf(const Function& f)
+{
+    int lengths = 0;
+    for (int i = 0; i < f.argCount; ++i)
+        lengths += f.args[i].inExtent && f.args[i].kind == Kind::scalar && !f.args[i].domainSize;
+    return lengths;
+}
+
+// The calls that make the states: short ones now and then longer, where this call has a length of its own.
+void chooseStates(Arguments& a, Random& random, long long length)
+{
+    for (int i = 0; i < a.f.argCount; ++i) {
+        const Arg& arg = a.f.args[i];
+        if (!arg.makers) continue;
+        const Maker& maker = arg.makers[random.below(arg.makerCount)];
+        const Pattern pattern = random.oneIn(4) ? Pattern::adversarial : Pattern::tame;
+        if (lengthsOf(a.f)) length = 1 + random.below(random.oneIn(3) ? 150 : 24);
+        a.made[i] = std::make_shared<Arguments>(
+            build(begin()[maker.function], random, length ? length : 1, pattern, random.bits(), &maker));
+    }
+}
+
+// A value of the call that made a state, by its name there.
+Value ofState(const Arguments& maker, const char* name)
+{
+    for (int i = 0; i < maker.f.argCount; ++i)
+        if (!std::strcmp(maker.f.args[i].name, name)) return maker.values[i];
+    for (int i = 0; i < maker.f.namedCount; ++i)
+        if (!std::strcmp(maker.f.named[i].name, name)) return maker.values[maker.f.argCount + i];
+    return {};
+}
+
+bool findNamed(Arguments& a, Random& random)
+{
+    for (int i = 0; i < a.f.namedCount; ++i) {
+        const Named& n = a.f.named[i];
+        Value& v = a.values[a.f.argCount + i];
+        if (n.source == Source::chosen) v = choose(n.domain, n.domainSize, a.values.data(), random);
+        if (n.source == Source::computed) v.i = n.value(a.values.data());
+        if (n.source == Source::ofState) v = ofState(*a.made[n.argument], std::strchr(n.name, '.') + 1);
+        if (n.query && !ask(*n.query, a.values)) return false;
+    }
+    return true;
+}
+
+// Extents; false: too large for a test.
+bool measure(Arguments& a, bool late)
+{
+    for (int i = 0; i < a.f.argCount; ++i) {
+        const Arg& arg = a.f.args[i];
+        if (arg.extent && arg.late == late) a.extent[i] = (arg.room ? arg.room : arg.extent)(a.values.data());
+        if (a.extent[i] > largestExtent) return false;
+    }
+    return true;
+}
+
+bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern, const Maker* maker)
+{
+    const Function& f = a.f;
+    const int lengths = lengthsOf(f);
+    for (int attempt = 0; attempt < 500; ++attempt) {
+        for (int i = 0; i < f.argCount; ++i) {
+            const Arg& arg = f.args[i];
+            if (arg.kind == Kind::scalar) {
+                a.values[i] = chooseScalar(arg, a.values.data(), random, length, lengths, pattern);
+            } else if (arg.kind == Kind::index) {
+                a.values[i].i = 0;
+            } else if (arg.domainSize) { // a number by pointer, which checks look at
+                const int chosen = static_cast<int>(choose(arg.domain, arg.domainSize, a.values.data(), random).i);
+                a.content[i].resize(sizeof chosen);
+                std::memcpy(a.content[i].data(), &chosen, sizeof chosen);
+                a.values[i].p = a.content[i].data();
+            } else {
+                a.values[i].p = somewhere();
+            }
+            for (int k = 0; maker && k < maker->fixedCount; ++k)
+                if (maker->fixed[k].argument == i) a.values[i].i = maker->fixed[k].value;
+        }
+        if (findNamed(a, random) && measure(a, false) && a.valid()) return true;
+    }
+    return false;
+}
+
+void fillElements(Arguments& a, int i, Random& random, Pattern pattern)
+{
+    const Arg& arg = a.f.args[i];
+    if (a.extent[i] <= 0) return;
+    if (!arg.rows) return fill(random, arg.element, pattern, a.content[i].data(), static_cast<size_t>(a.extent[i]));
+    const Value* v = a.values.data();
+    const auto width = static_cast<size_t>(arg.rows->width(v) / arg.elementBytes);
+    for (long long r = 0; r < arg.rows->count(v); ++r)
+        fill(random, arg.element, pattern, a.content[i].data() + r * arg.rows->step(v), width);
+}
+
+// Filled with numbers: arrays, and values by pointer.
+bool isRead(const Arg& arg)
+{
+    return (arg.kind == Kind::array || arg.kind == Kind::result) && !arg.domainSize && (arg.isConst || arg.inout);
+}
+
+void fillArgument(Arguments& a, int i, Random& random, Pattern pattern, uint64_t prefill)
+{
+    const Arg& arg = a.f.args[i];
+    if (arg.optional && random.oneIn(4)) { // but not all that may be null, where one of them must be there
+        a.values[i].p = nullptr;
+        a.null[i] = a.valid();
+        if (!a.null[i]) a.values[i].p = somewhere();
+    }
+    a.content[i].resize(a.bytes(i));
+    if (isRead(arg)) fillElements(a, i, random, pattern);
+    a.prefill(i, prefill);
+    for (size_t k = 0; arg.rows && k < a.content[i].size(); ++k)
+        if (a.inGap(i, k)) a.content[i][k] = 0xA5;
+}
+
+// Where only the call itself tells how much it writes: the extents of a trial with enough room.
+void tryExtents(Arguments& a)
+{
+    bool any = false;
+    for (int i = 0; i < a.f.argCount; ++i) any |= a.f.args[i].room != nullptr;
+    if (!any) return;
+    auto memory = a.content;
+    auto values = a.values;
+    for (int i = 0; i < a.f.argCount; ++i)
+        if (isPointer(a.f.args[i]) && !a.null[i]) values[i].p = memory[i].empty() ? somewhere() : memory[i].data();
+    call(a.f, values.data());
+    for (int i = 0; i < a.f.argCount; ++i)
+        if (a.f.args[i].room) {
+            a.extent[i] = a.f.args[i].extent(values.data());
+            a.content[i].resize(a.bytes(i));
+        }
+}
+
 } // namespace
 
 Arguments::Arguments(const Function& function)
-    : f(function), values(function.argCount), extent(function.argCount), content(function.argCount),
-      null(function.argCount)
+    : f(function), values(static_cast<size_t>(function.argCount + function.namedCount)), extent(function.argCount),
+      content(function.argCount), null(function.argCount), made(function.argCount)
 {
 }
 
 size_t Arguments::bytes(int i) const
 {
     const Arg& arg = f.args[i];
-    const long long unit = arg.kind == Kind::opaque || arg.kind == Kind::work ? 1 : arg.elementBytes;
-    return extent[i] > 0 ? static_cast<size_t>(extent[i] * unit) : 0;
+    if (extent[i] <= 0) return 0;
+    if (arg.rows) {
+        const Value* v = values.data();
+        return static_cast<size_t>((arg.rows->count(v) - 1) * arg.rows->step(v) + arg.rows->width(v));
+    }
+    const bool plain = arg.kind == Kind::opaque || arg.kind == Kind::work;
+    const size_t unit = plain ? 1 : arg.kind == Kind::handle ? sizeof(void*) : static_cast<size_t>(arg.elementBytes);
+    return static_cast<size_t>(extent[i]) * unit;
 }
 
 bool Arguments::valid() const
@@ -77,56 +205,67 @@ bool Arguments::valid() const
     return true;
 }
 
-void addFixture(const char* name, Fixture fixture) { known()[name] = std::move(fixture); }
-
-bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern)
+bool Arguments::inGap(int i, size_t byte) const
 {
-    const Function& f = a.f;
-    int lengths = 0;
-    for (int i = 0; i < f.argCount; ++i)
-        lengths += f.args[i].inExtent && f.args[i].kind == Kind::scalar && !f.args[i].domainSize;
-    for (int attempt = 0; attempt < 500; ++attempt) {
-        for (int i = 0; i < f.argCount; ++i) {
-            const Arg& arg = f.args[i];
-            if (arg.kind == Kind::scalar)
-                a.values[i] = chooseScalar(arg, a.values.data(), random, length, lengths, pattern);
-            else if (arg.kind == Kind::index)
-                a.values[i].i = 0;
-            else
-                a.values[i].p = somewhere();
-        }
-        if (fixtureOf(f).scalars) fixtureOf(f).scalars(a, random, length);
-        if (a.valid()) return true;
-    }
-    return false;
+    const Rows* rows = f.args[i].rows;
+    if (!rows) return false;
+    const auto step = static_cast<size_t>(rows->step(values.data())), width = static_cast<size_t>(rows->width(values.data()));
+    return step > width && byte % step >= width;
 }
 
-Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill)
+void Arguments::prefill(int i, uint64_t pattern)
+{
+    const Arg& arg = f.args[i];
+    if (arg.isConst || arg.inout || arg.makers || arg.domainSize || arg.kind == Kind::handle) return;
+    for (size_t k = 0; k < content[i].size(); ++k)
+        if (!inGap(i, k)) content[i][k] = static_cast<uint8_t>(pattern >> k % 8 * 8);
+}
+
+Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,
+                const Maker* maker)
 {
     Arguments a(f);
-    chooseScalars(a, random, length, pattern);
-    measure(a);
-    for (int i = 0; i < f.argCount; ++i) {
-        const Arg& arg = f.args[i];
-        if (arg.kind == Kind::scalar || arg.kind == Kind::index) continue;
-        if (arg.optional && random.oneIn(4)) { // but not all that may be null, where one of them must be there
-            a.values[i].p = nullptr;
-            a.null[i] = a.valid();
-            if (!a.null[i]) a.values[i].p = somewhere();
-        }
-        a.content[i].resize(a.bytes(i));
-        for (size_t k = 0; k < a.content[i].size(); ++k) a.content[i][k] = static_cast<uint8_t>(prefill >> k % 8 * 8);
-        const bool numbers = arg.kind == Kind::array || (arg.kind == Kind::result && arg.isConst); // a value by pointer
-        if (numbers && (arg.isConst || arg.inout) && a.extent[i] > 0)
-            fill(random, arg.element, pattern, a.content[i].data(), static_cast<size_t>(a.extent[i]));
+    chooseStates(a, random, length);
+    chooseScalars(a, random, length, pattern, maker);
+    for (bool late : {false, true}) {
+        if (late) measure(a, late);
+        for (int i = 0; i < f.argCount; ++i)
+            if (isPointer(f.args[i]) && f.args[i].late == late) fillArgument(a, i, random, pattern, prefill);
+        if (!late) keepToRules(a, random);
     }
-    if (fixtureOf(f).contents) fixtureOf(f).contents(a, random);
+    tryExtents(a);
     return a;
 }
 
-void release(const Arguments& a)
+void further(Arguments& a, Random& random, Pattern pattern)
 {
-    if (fixtureOf(a.f).release) fixtureOf(a.f).release(a);
+    for (int i = 0; i < a.f.argCount; ++i) {
+        bool ruled = false;
+        for (int k = 0; k < a.f.ruleCount; ++k) ruled |= a.f.rules[k].argument == i;
+        if (isRead(a.f.args[i]) && !ruled) fillElements(a, i, random, pattern);
+    }
+}
+
+bool takesState(const Function& f)
+{
+    for (int i = 0; i < f.argCount; ++i)
+        if (f.args[i].makers) return true;
+    return false;
+}
+
+bool updatesState(const Function& f)
+{
+    for (int i = 0; i < f.argCount; ++i)
+        if (f.args[i].makers && !f.args[i].isConst) return !releasesState(f);
+    return false;
+}
+
+bool releasesState(const Function& f)
+{
+    for (int i = 0; i < f.argCount; ++i)
+        for (int k = 0; k < f.args[i].makerCount; ++k)
+            if (begin()[f.args[i].makers[k].function].makes.release == &f - begin()) return true;
+    return false;
 }
 
 } // namespace registry

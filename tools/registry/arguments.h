@@ -1,9 +1,9 @@
 // A complete, valid set of arguments for a function, as data that can be placed anywhere in memory: scalars, the extents
-// that follow from them, and the initial bytes of every array.
+// that follow from them, the initial bytes of every array, and the same for the calls that make its states.
 #pragma once
 #include "registry.h"
 #include "values.h"
-#include <functional>
+#include <memory>
 #include <vector>
 
 namespace registry {
@@ -12,33 +12,32 @@ struct Arguments {
     explicit Arguments(const Function& function);
 
     const Function& f;
-    std::vector<Value> values;
+    std::vector<Value> values; // of the arguments, then of the names
     std::vector<long long> extent; // of each pointer argument: elements (bytes for buffers and opaque records)
     std::vector<std::vector<uint8_t>> content; // initial bytes of each pointer argument
     std::vector<bool> null; // pointer arguments that are null
+    std::vector<std::shared_ptr<const Arguments>> made; // of each state: the arguments of the call that makes it
 
     size_t bytes(int argument) const;
     bool valid() const; // no check fails
-};
 
-// Builds what does not follow from the description: filter specifications, states, index lists. Each step is optional
-// and runs after the general one: scalars chosen, extents computed, arrays filled.
-struct Fixture {
-    std::function<void(Arguments&, Random&, long long length)> scalars;
-    std::function<void(Arguments&)> extents;
-    std::function<void(Arguments&, Random&)> contents;
-    std::function<void(const Arguments&)> release; // after a call: what it allocated
+    // Whether the byte lies between two rows of the argument: no call may change it, nor do its results depend on it.
+    bool inGap(int argument, size_t byte) const;
+    // Fills what is only written with "pattern" again and again: results do not depend on it either.
+    void prefill(int argument, uint64_t pattern);
 };
-void addFixture(const char* name, Fixture fixture);
 
 // Scalars that pass all checks, arrays as long as "length" asks for (lengths in extents: that value or, where there are
-// several, values up to it), filled with the pattern. What is only written holds "prefill" again and again.
-Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill);
+// several, values up to it), filled with the pattern. What is only written holds "prefill". A function all of whose
+// lengths are those of its state gets a state of that length. With "maker" some scalars are given.
+Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,
+                const Maker* maker = nullptr);
 
-// Gives back what a call with these arguments allocated.
-void release(const Arguments& a);
+// The same call on the data that follow: new contents for what is read, the same states.
+void further(Arguments& a, Random& random, Pattern pattern);
 
-// Scalars only; false when no valid ones were found.
-bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern);
+bool takesState(const Function& f);    // made by another call
+bool updatesState(const Function& f);  // ... and changed by this one
+bool releasesState(const Function& f); // ... or given back
 
 } // namespace registry
