@@ -42,6 +42,11 @@ def family(head="family F unary", **clauses):
 
 OWN = "family F (const T pSrc[len], T val, T pDst[len], work pBuf[4*len], int len, int mode)"
 
+SIZED = "family F (int len, int* pSize)"
+SIZER = {"checks": "none", "types": None}
+USER = "family F (const Spec_{T}* pSpec, const T pSrc[4])"
+MAKER = "family F (Spec_64f* pSpec[8], int n)\n    checks none\n    kernel k\n    doc x\n    makes pSpec\n"
+
 # (what is wrong, the file a.api or a dictionary of files, the message)
 MISTAKES = [
     # statements and clauses
@@ -95,7 +100,6 @@ MISTAKES = [
     ("convention", family(convention="fastcall"), "a.api:5: unknown convention fastcall"),
     ("result", family(returns="Ipp46f"), "a.api:5: unknown type Ipp46f"),
     ("result's record", family(returns="const Version*"), "a.api:5: unknown type const Version*"),
-    ("fixture", family(fixture="fri"), "a.api:5: unknown fixture fri"),
     ("undocumented", family(formula=None), "a.api:4: neither formula nor doc"),
     # checks
     ("no checks", family(OWN), "a.api:4: no checks: a function that returns a status"),
@@ -129,6 +133,28 @@ MISTAKES = [
     ("domain", family(domain="lne = 1 2"), "a.api:5: domain lne: no such argument"),
     ("domain's value", family(domain="len = 1 lne+1"), "a.api:5: lne is no argument: lne+1"),
     ("domain of a pointer", family(domain="pSrc = 1"), "a.api:5: pSrc is no number"),
+    # how arguments are built
+    ("domain of nothing", family(domain="len = 1..lne"), "a.api:5: lne is no argument: lne"),
+    ("let", family(let="n = lne+1"), "a.api:5: lne is no argument: lne+1"),
+    ("let of an argument", family(let="len = 3"), "a.api:5: len is there already"),
+    ("let in vain", family(let="n = len+1"), "a.api:4: n is named in vain"),
+    ("some in vain", family(some="size = 1 2"), "a.api:4: size is named in vain"),
+    ("sizes of nothing", family(sizes="G(len, n)"), "a.api:4: sizes: there is no G of 2 arguments"),
+    ("sizes misunderstood", family(SIZED, sizes="F(len, len)", **SIZER), "a.api:4: sizes: len for pSize of F"),
+    ("state of nothing", family(state="pSpec by G"), "a.api:5: state pSpec: no such argument"),
+    ("state that is none", family(state="pSrc by G"), "a.api:5: pSrc is no record"),
+    ("state without maker", family(USER, state="pSpec by F", checks="none"), "a.api:4: pSpec: F makes nothing"),
+    ("value of a state", family(USER.replace("[4]", "[pSpec.n]"), checks="none"), "a.api:4: pSpec.n is no argument"),
+    ("a state's value", family(USER.replace("[4]", "[pSpec.m]"), state="pSpec by F", checks="none") + MAKER,
+     "a.api:4: pSpec: F has no m"),
+    ("number for a maker", family(USER, state="pSpec by F with m=1", checks="none") + MAKER, "a.api:4: pSpec: F has no m"),
+    ("what is made", family(makes="pDst"), "a.api:5: pDst is no record"),
+    ("home", family("family F (Spec_{T}** pp, int len)", makes="pp in len", checks="none"), "a.api:5: len is no work buffer"),
+    ("rule", family(values="pSrc positive"), "a.api:5: no rule: pSrc positive"),
+    ("rule for nothing", family(values="pScr not 0"), "a.api:5: values pScr: no such argument"),
+    ("limit of a rule", family(values="pSrc below lne"), "a.api:5: lne is no argument: lne"),
+    ("model of a rule", family(values="pSrc like pScr"), "a.api:5: pScr is no argument"),
+    ("number of a type", family(types="16s", let="n = {T.code}"), "a.api:6: {T.code} in a function whose type has no number"),
     # names
     ("function twice", family() + family().partition("cpp\n")[2], "a.api:8: F_64f is described a second time, first at a.api:4"),
     ("no ordinal", family(types="32s"), "a.api:4: F_32s has no line in ordinals.txt"),

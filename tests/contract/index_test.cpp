@@ -40,7 +40,7 @@ void compareForms(const Function& f, support::Stage& stage, registry::Random& ra
             else if (f.args[i].kind == registry::Kind::array)
                 indexes.back() = 0; // null with index 0 reaches the function as null
         }
-    const auto viaIndex = outcome(a, stage, registry::invokeIndexed(indexed, f, moved.values.data(), indexes.data()));
+    const auto viaIndex = outcome(a, stage, stage.callIndexed(a, indexed, moved.values.data(), indexes.data()));
     EXPECT_EQ(viaIndex.answer.intrusion, "") << f.name;
     if (!f.hasPlain()) return; // compared with literal oracles elsewhere
 

@@ -178,13 +178,17 @@ registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int 
         std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
         context += piece;
     }
-    registry::Answer answer;
-    if (a.f.index == registry::IndexForm::only) {
-        const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
-        answer = registry::invokeIndexed(entry, a.f, a.values.data(), zeros.data(), stackPhase);
-    } else {
-        answer = registry::invoke(entry, a.f, a.values.data(), stackPhase);
-    }
+    const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
+    if (a.f.index == registry::IndexForm::only) return callIndexed(a, entry, a.values.data(), zeros.data(), stackPhase);
+    const auto answer = registry::invoke(entry, a.f, a.values.data(), stackPhase);
+    settle(a, answer);
+    return answer;
+}
+
+registry::Answer Stage::callIndexed(const registry::Arguments& a, registry::Entry entry, const registry::Value* values,
+                                    const int* indexes, int stackPhase)
+{
+    const auto answer = registry::invokeIndexed(entry, a.f, values, indexes, stackPhase);
     settle(a, answer);
     return answer;
 }

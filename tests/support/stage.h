@@ -26,6 +26,9 @@ public:
     void put(registry::Arguments& a, Place place, const registry::InPlace* shared = nullptr);
     // The plain form, or the _Idx form (with indexes 0) where there is no other.
     registry::Answer call(registry::Arguments& a, registry::Entry entry, int stackPhase = 0);
+    // The _Idx form by rule.
+    registry::Answer callIndexed(const registry::Arguments& a, registry::Entry entry, const registry::Value* values,
+                                 const int* indexes, int stackPhase = 0);
 
     // The arrays anew, for a further call on the same states.
     void refresh(const registry::Arguments& a);

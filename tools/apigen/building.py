@@ -8,14 +8,15 @@ from signature import known_names, with_suffix
 from statements import IDENTIFIER, Mistake, at, match, split_list
 
 RULES = [
-    (r"(\w+) not (.+)", "other"),
-    (r"(\w+) below (\S+) apart", "apart"),
-    (r"(\w+) below (\S+)", "below"),
-    (r"(\w+) within (\S+) (\S+)", "within"),
-    (r"(\w+) often within (\S+) (\S+)", "often_within"),
-    (r"(\w+) selects (\w+)", "selects"),
-    (r"(\w+) like (\w+)", "like"),
+    (r"not (\S+)", "other"),
+    (r"below (\S+) apart", "apart"),
+    (r"below (\S+)", "below"),
+    (r"within (\S+) (\S+)", "within"),
+    (r"often within (\S+) (\S+)", "often_within"),
+    (r"selects (\w+)", "selects"),
+    (r"like (\w+)", "like"),
 ]
+PLACES = r"(\w+)(?: at (\S+)(?: every (\S+))?)? "  # of which elements a rule speaks
 RULED_TYPES = ("u8", "i8", "u16", "i16", "u32", "i32", "f32", "f64", "c64f")
 
 
@@ -113,12 +114,12 @@ class Building:
 
     def values(self, text):
         for pattern, kind in RULES:
-            m = re.fullmatch(pattern, text)
+            m = re.fullmatch(PLACES + pattern, text)
             if m:
-                return self.rule(m[1], kind, list(m.groups()[1:]))
+                return self.rule(m[1], [m[2], m[3]], kind, list(m.groups()[3:]))
         raise Mistake(f"no rule: {text}")
 
-    def rule(self, name, kind, operands):
+    def rule(self, name, places, kind, operands):
         if name not in self.args:
             return False
         a = self.args[name]
@@ -132,7 +133,10 @@ class Building:
         else:
             for operand in operands:
                 self.expression(operand)
-        self.rules.append(Rule(name, kind, operands))
+        places = [self.expression(p) for p in places if p]
+        if places and (a.kind != "array" or kind not in ("other", "within", "often_within")):
+            raise Mistake(f"no rule for some elements of {name}")
+        self.rules.append(Rule(name, kind, operands, places))
         return True
 
 
@@ -143,7 +147,8 @@ def occurs(name, text):
 def texts_of(f):
     """All expressions of a function."""
     found = [t for a in f.args for t in (a.extent, a.room)] + [c.condition + c.only_if for c in f.failures()]
-    found += [n.text for n in f.named] + [t for q in f.queries for t in q.args] + [t for r in f.rules for t in r.operands]
+    found += [n.text for n in f.named] + [t for q in f.queries for t in q.args] 
+    found += [t for r in f.rules for t in r.operands + r.places]
     return found + [v for values in f.domains.values() for v in values]
 
 

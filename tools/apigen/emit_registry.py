@@ -105,9 +105,11 @@ class Writer:
         return self.listed("Choice", f"domain_{label}", rows)
 
     def scales(self, name):
-        """Whether the scalar decides how long arrays are, by itself or through a computed name."""
+        """Whether the scalar decides how long arrays are, by itself or through other names."""
         texts = [a.extent for a in self.f.args]
-        texts += [n.text for n in self.f.named if n.source == "computed" and any(occurs(n.name, t) for t in texts)]
+        for n in reversed(self.f.named):
+            if any(occurs(n.name, t) for t in texts):
+                texts += self.f.queries[n.query].args if n.source == "size" else [n.text]
         return any(occurs(name, t) for t in texts)
 
     def argument(self, a, number):
@@ -161,7 +163,8 @@ class Writer:
             other = position(r.operands[0], self.f)
         else:
             numbers[: len(r.operands)] = [self.number(x) for x in r.operands]
-        return f"{{{position(r.argument, self.f)}, Rule::{r.kind}, {', '.join(numbers)}, {other}}}"
+        places = [self.integer(p) for p in r.places] + ["nullptr"] * (2 - len(r.places))
+        return f"{{{position(r.argument, self.f)}, Rule::{r.kind}, {', '.join(numbers)}, {other}, {', '.join(places)}}}"
 
     def makes(self):
         m = self.f.makes

@@ -113,8 +113,9 @@ class Rule:
     """What an argument's values keep to."""
 
     argument: str
-    kind: str  # other than, below, apart, within, selects, like
+    kind: str  # other (not x), below, apart, within, often_within, selects, like
     operands: list
+    places: list = field(default_factory=list)  # the first element that it is about, and how many further to the next
 
 
 @dataclass

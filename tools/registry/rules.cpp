@@ -43,13 +43,32 @@ bool isScalar(const Arguments& a, int i) { return a.f.args[i].kind == Kind::scal
 // 7 for 0: a divisor that tells more than 1.
 double otherThan(double x) { return x == 0 ? 7 : x + 1; }
 
-void avoid(Arguments& a, int i, double bad)
+// Which elements a rule is about.
+class Places
+{
+public:
+    Places(const Arguments& a, const ValueRule& r)
+        : parts_(a.f.args[r.argument].element == Element::c64f ? 2 : 1), first_(r.place ? r.place(a.values.data()) : 0),
+          step_(r.step ? r.step(a.values.data()) : r.place ? 1LL << 40 : 1)
+    {
+    }
+    bool have(size_t number) const
+    {
+        const long long k = static_cast<long long>(number) / parts_;
+        return k >= first_ && (k - first_) % step_ == 0;
+    }
+
+private:
+    long long parts_, first_, step_;
+};
+
+void avoid(Arguments& a, int i, const Places& places, double bad)
 {
     const double good = otherThan(bad);
     Value& v = a.values[i];
     if (!isScalar(a, i))
-        changeNumbers(a, i, [&](size_t, auto& x) {
-            if (static_cast<double>(x) == bad) x = static_cast<std::remove_reference_t<decltype(x)>>(good);
+        changeNumbers(a, i, [&](size_t k, auto& x) {
+            if (places.have(k) && static_cast<double>(x) == bad) x = static_cast<std::remove_reference_t<decltype(x)>>(good);
         });
     else if (isFloating(a.f.args[i].element) ? v.re == bad : v.i == static_cast<long long>(bad))
         v.re = good, v.i = static_cast<long long>(good);
@@ -68,13 +87,13 @@ void countBelow(Arguments& a, int i, long long size, bool apart, Random& random)
     });
 }
 
-void spread(Arguments& a, int i, double low, double high, bool often, Random& random)
+void spread(Arguments& a, int i, const Places& places, double low, double high, bool often, Random& random)
 {
     if (often && (!std::isfinite(low) || !std::isfinite(high) || random.oneIn(2))) return;
     const bool runs = often && random.oneIn(3);
     double last = low;
     changeNumbers(a, i, [&](size_t k, auto& x) {
-        if (often && random.oneIn(20)) return;
+        if (!places.have(k) || (often && random.oneIn(20))) return;
         if (!runs || !k || random.oneIn(10)) last = low + (high - low) * (double(random.bits() >> 11) * 0x1p-53);
         x = static_cast<std::remove_reference_t<decltype(x)>>(last);
     });
@@ -128,11 +147,13 @@ void keepToRules(Arguments& a, Random& random)
         const ValueRule& r = a.f.rules[k];
         const double first = r.first ? r.first(a.values.data()) : 0, second = r.second ? r.second(a.values.data()) : 0;
         switch (r.rule) {
-        case Rule::other: avoid(a, r.argument, first); break;
+        case Rule::other: avoid(a, r.argument, Places(a, r), first); break;
         case Rule::below:
         case Rule::apart: countBelow(a, r.argument, static_cast<long long>(first), r.rule == Rule::apart, random); break;
         case Rule::within:
-        case Rule::often_within: spread(a, r.argument, first, second, r.rule == Rule::often_within, random); break;
+        case Rule::often_within:
+            spread(a, r.argument, Places(a, r), first, second, r.rule == Rule::often_within, random);
+            break;
         case Rule::selects: a.values[r.other].i = select(a, r.argument, random); break;
         case Rule::like: imitate(a, r.argument, r.other, random); break;
         }
