@@ -9,6 +9,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools/apigen"))
 import emit_cpp
+import emit_registry
 from parse import Parser
 from statements import Mistake
 
@@ -205,6 +206,32 @@ class Mistakes(unittest.TestCase):
                 with self.assertRaises(Mistake) as caught:
                     read(files)
                 self.assertIn(message, str(caught.exception))
+
+    def test_states_of_the_decision_are_understood(self):
+        """The lines in docs/decisions/states-as-arguments.md, with the types and statuses of the interface."""
+        record = (ROOT / "docs/decisions/states-as-arguments.md").read_text().splitlines()
+        lines = ["half ipp"] + [line[4:] for line in record if line.startswith("    ")]
+        names = [line.split("\t")[0] for line in (ROOT / "tests/contract/expected_exports.tsv").read_text().splitlines()[1:]]
+        kernels = [line.split()[1] for line in lines if line.startswith("source ")]
+        files = {name: (ROOT / "api" / name).read_text() for name in ("status.api", "types.api", "shapes.api")}
+        files |= {"ordinals.txt": "\n".join(names) + "\n", "families.api": "\n".join(lines) + "\n"}
+        files["variants.txt"] = "variant px 0x3\n" + "".join(f"bodies {k} px\n" for k in kernels)
+        api = read(files)
+        f = {f.name: f for f in api.functions}
+
+        def named(name):
+            return [(n.name, n.source) for n in f[name].named]
+
+        self.assertEqual([m.function for m in f["ippsIIR_64fc_I"].makers], ["ippsIIRInit_64fc", "ippsIIRInit_BiQuad_64fc"])
+        self.assertEqual(f["ippsIIRInit_BiQuad_64f"].makes.home, "pBuf")
+        self.assertEqual(f["ippsIIRInit_BiQuad_64f"].rules[1].places, ["3", "6"])
+        self.assertEqual(named("ippsIIRInit_64f"), [("bufSize", "size")])
+        self.assertEqual(named("ippsDCTFwd_64f"), [("pDCTSpec.len", "ofState"), ("pDCTSpec.bufSize", "ofState")])
+        self.assertEqual(f["ippsFilterMedian_16s"].queries[0].args, ["maskSize", "7", "bufSize"])
+        self.assertEqual(named("ippsFilterMedian_8u"), [("bufSize", "size"), ("delay", "computed")])
+        self.assertEqual(f["ippsSampleUp_64f"].domains["pPhase"], ["0..factor-1"])
+        written = emit_registry.files(api)["registry.cpp"]
+        self.assertEqual(written.count("{0, 4, -1}"), 4)  # ppState, in pBuf, released by nobody
 
     def test_a_mistake_stops_the_generator(self):
         with tempfile.TemporaryDirectory() as folder:

@@ -183,6 +183,7 @@ def check_query(q, callee, f):
 def check_maker(m, maker, f):
     if not maker or not maker.makes:
         raise Mistake(f"{m.argument}: {m.function} makes nothing")
+    m.released = maker.makes.release in [name for name, _ in f.exports()]
     scalars = {a.name for a in maker.args if a.kind == "scalar"}
     known = scalars | {n.name for n in maker.named}
     wanted = {n.name.partition(".")[2] for n in f.named if n.source == "ofState" and n.argument == m.argument}

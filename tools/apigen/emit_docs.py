@@ -23,22 +23,32 @@ def arguments_text(f):
             role = "in" if a.const else "in and out" if a.inout else "scratch" if a.kind == "work" else "out"
             same = " or ".join(f"`{s}`" for d, s in f.in_place if d == a.name)
             null = ", may be null" if a.optional else ""
-            extent = f"`{a.extent}`" + (f", at most `{a.room}`" if a.room else "")
-            rows.append(f"- `{a.name}`: {role}, {extent} {unit}{null}" + (f"; may be {same}" if same else ""))
+            rows.append(f"- `{a.name}`: {role}, {extent_text(a)} {unit}{null}" + (f"; may be {same}" if same else ""))
     return "\n".join(rows + states_text(f))
+
+
+def extent_text(a):
+    if a.rows:
+        count, width, step, in_bytes = a.rows
+        return f"`{count}` rows of `{width}`, one every `{step}` {'bytes, of' if in_bytes else ''}".rstrip()
+    return f"`{a.extent}`" + (f", at most `{a.room}`," if a.room else "")
 
 
 def states_text(f):
     """Where states come from, where sizes, and what else extents name."""
     rows = []
     for a in f.args:
-        makers = " or ".join(f"`{m.function}`" + given(m) for m in f.makers if m.argument == a.name)
-        if makers:
-            rows.append(f"- `{a.name}`: {'in' if a.const else 'in and out'}, made by {makers}")
+        mine = [m for m in f.makers if m.argument == a.name]
+        if mine:
+            role = "released" if mine[0].released else "in" if a.const else "in and out"
+            makers = [f"`{of_any_type(m.function, f)}`" + ("" if m.released else given(m)) for m in mine]
+            rows.append(f"- `{a.name}`: {role}, made by {' or '.join(makers)}")
         elif a.kind == "opaque":
             rows.append(f"- `{a.name}`: out, `{a.extent}` bytes")
     for q in f.queries:
-        rows.append(f"- `{q.function}({', '.join(q.args)})` gives the sizes")
+        code = str(f.types[0].code) if f.types else ""
+        listed = ", ".join("type" if a == code else a for a in q.args)
+        rows.append(f"- `{of_any_type(q.function, f)}({listed})` gives the sizes")
     for n in f.named:
         if n.source == "computed":
             rows.append(f"- `{n.name}` is `{n.text}`")
@@ -56,6 +66,11 @@ RULES = {
     "apart": "`{0}` holds numbers below `{1}`",
     "selects": "`{1}` is the number of positive values in `{0}`",
 }
+
+
+def of_any_type(name, f):
+    """Functions of other types take others of theirs: they are told of together."""
+    return name.replace("_" + f.types[0].suffix, "") if f.types else name
 
 
 def given(maker):

@@ -96,7 +96,8 @@ class Maker:
 
     argument: str
     function: str  # its export
-    fixed: dict = field(default_factory=dict)  # argument of the maker -> expression over none
+    fixed: dict = field(default_factory=dict)  # argument of the maker -> its number
+    released: bool = False  # the function gives the state back
 
 
 @dataclass
