@@ -107,7 +107,12 @@ class Pages(unittest.TestCase):
                     for n in whose or functions:
                         f = functions[n]
                         self.assertEqual(statuses, [c.status for c in f.failures()], n)
-                        self.assertEqual(listed, [a.name for a in f.args if a.kind in ("array", "work")], n)
+                        states = [m.argument for m in f.makers]
+                        told = [a.name for a in f.args if a.kind in ("array", "work", "opaque") or a.name in states]
+                        self.assertEqual(listed, told, n)
+                        for named in f.named:
+                            if named.source != "ofState":
+                                self.assertRegex(part, rf"where .*`{named.name}`|sizes by .*\b{named.name}\b", n)
                         for c in f.failures():
                             self.assertIn(c.text(), part)
             self.assertEqual(sorted(covered), sorted(functions), where)

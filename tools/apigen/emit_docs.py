@@ -18,13 +18,20 @@ def checks_text(f):
 def arguments_text(f):
     rows = []
     for a in f.args:
+        makers = [m for m in f.makers if m.argument == a.name]
         if a.kind in ("array", "work"):
             unit = "bytes" if a.kind == "work" or a.type.suffix == "1u" else "elements"
             role = "in" if a.const else "in and out" if a.inout else "scratch" if a.kind == "work" else "out"
             same = " or ".join(f"`{s}`" for d, s in f.in_place if d == a.name)
             null = ", may be null" if a.optional else ""
             rows.append(f"- `{a.name}`: {role}, {extent_text(a)} {unit}{null}" + (f"; may be {same}" if same else ""))
-    return "\n".join(rows + states_text(f))
+        elif makers:
+            role = "released" if makers[0].released else "in" if a.const else "in and out"
+            listed = [f"`{of_any_type(m.function, f)}`" + ("" if m.released else given(m)) for m in makers]
+            rows.append(f"- `{a.name}`: {role}, made by {' or '.join(listed)}")
+        elif a.kind == "opaque":
+            rows.append(f"- `{a.name}`: out, `{a.extent}` bytes")
+    return "\n".join(rows + names_text(f))
 
 
 def extent_text(a):
@@ -34,29 +41,21 @@ def extent_text(a):
     return f"`{a.extent}`" + (f", at most `{a.room}`," if a.room else "")
 
 
-def states_text(f):
-    """Where states come from, where sizes, and what else extents name."""
+def names_text(f):
+    """What extents name beside the arguments."""
     rows = []
-    for a in f.args:
-        mine = [m for m in f.makers if m.argument == a.name]
-        if mine:
-            role = "released" if mine[0].released else "in" if a.const else "in and out"
-            makers = [f"`{of_any_type(m.function, f)}`" + ("" if m.released else given(m)) for m in mine]
-            rows.append(f"- `{a.name}`: {role}, made by {' or '.join(makers)}")
-        elif a.kind == "opaque":
-            rows.append(f"- `{a.name}`: out, `{a.extent}` bytes")
+    code = str(f.types[0].code) if f.types else ""
     for q in f.queries:
-        code = str(f.types[0].code) if f.types else ""
         listed = ", ".join("type" if a == code else a for a in q.args)
-        rows.append(f"- `{of_any_type(q.function, f)}({listed})` gives the sizes")
+        rows.append(f"- sizes by `{of_any_type(q.function, f)}({listed})`")
     for n in f.named:
         if n.source == "computed":
-            rows.append(f"- `{n.name}` is `{n.text}`")
+            rows.append(f"- where `{n.name}` is `{n.text}`")
         if n.source == "chosen":
-            rows.append(f"- `{n.name}` is not passed; the caller knows it")
+            rows.append(f"- where `{n.name}` is not passed; the caller knows it")
     for r in f.rules:
-        text = RULES.get(r.kind, "").format(r.argument, *r.operands)
-        rows += [f"- {text}"] if text else []
+        if r.kind in RULES:
+            rows.append(f"- where {RULES[r.kind].format(r.argument, *r.operands)}")
     return rows
 
 
