@@ -135,11 +135,12 @@ class Writer:
         flags = [a.const, a.inout, a.optional, a.base == "unsigned int", not a.pointer and self.scales(a.name), late]
         size, unit = (a.type.size, a.type.unit) if a.type else (0, 0)
         domain = f.domains.get(a.name, [])
+        later = any(occurs(b.name, value) for b in f.args[number + 1 :] for value in domain)
         return (
             f"{{{quoted(a.name)}, Kind::{a.kind}, Element::{element}, {size}, {unit}, "
             f"{', '.join(str(x).lower() for x in flags)}, {self.integer(extent) if extent else 'nullptr'}, "
             f"{self.integer(a.room) if a.room else 'nullptr'}, {rows}, {a.bytes32()}, "
-            f"{self.domain(str(number), domain)}, {self.listed('Maker', f'makers_{number}', makers)}}}"
+            f"{self.domain(str(number), domain)}, {str(later).lower()}, {self.listed('Maker', f'makers_{number}', makers)}}}"
         )
 
     def named(self, n, number):

@@ -100,28 +100,35 @@ bool measure(Arguments& a, bool late)
     return true;
 }
 
+void chooseArgument(Arguments& a, int i, Random& random, long long length, int lengths, Pattern pattern)
+{
+    const Arg& arg = a.f.args[i];
+    Value& v = a.values[i];
+    if (arg.kind == Kind::scalar) {
+        v = chooseScalar(arg, a.values.data(), random, length, lengths, pattern);
+    } else if (arg.kind == Kind::index) {
+        v.i = 0;
+    } else if (arg.domainSize) { // a number by pointer, which checks look at
+        const int chosen = static_cast<int>(choose(arg.domain, arg.domainSize, a.values.data(), random).i);
+        a.content[i].resize(sizeof chosen);
+        std::memcpy(a.content[i].data(), &chosen, sizeof chosen);
+        v.p = a.content[i].data();
+    } else {
+        v.p = somewhere();
+    }
+}
+
 bool chooseScalars(Arguments& a, Random& random, long long length, Pattern pattern, const Maker* maker)
 {
-    const Function& f = a.f;
-    const int lengths = lengthsOf(f);
+    const int lengths = lengthsOf(a.f);
     for (int attempt = 0; attempt < 500; ++attempt) {
-        for (int i = 0; i < f.argCount; ++i) {
-            const Arg& arg = f.args[i];
-            if (arg.kind == Kind::scalar) {
-                a.values[i] = chooseScalar(arg, a.values.data(), random, length, lengths, pattern);
-            } else if (arg.kind == Kind::index) {
-                a.values[i].i = 0;
-            } else if (arg.domainSize) { // a number by pointer, which checks look at
-                const int chosen = static_cast<int>(choose(arg.domain, arg.domainSize, a.values.data(), random).i);
-                a.content[i].resize(sizeof chosen);
-                std::memcpy(a.content[i].data(), &chosen, sizeof chosen);
-                a.values[i].p = a.content[i].data();
-            } else {
-                a.values[i].p = somewhere();
+        for (bool later : {false, true})
+            for (int i = 0; i < a.f.argCount; ++i) {
+                if (a.f.args[i].followsLater != later) continue;
+                chooseArgument(a, i, random, length, lengths, pattern);
+                for (int k = 0; maker && k < maker->fixedCount; ++k)
+                    if (maker->fixed[k].argument == i) a.values[i].i = maker->fixed[k].value;
             }
-            for (int k = 0; maker && k < maker->fixedCount; ++k)
-                if (maker->fixed[k].argument == i) a.values[i].i = maker->fixed[k].value;
-        }
         if (findNamed(a, random) && measure(a, false) && a.valid()) return true;
     }
     return false;

@@ -26,7 +26,7 @@ using Number = double (*)(const Value*);
 
 // A value worth trying, or all integers between two.
 struct Choice {
-    Number low, high; // over the arguments before it; high may be null
+    Number low, high; // over other arguments; high may be null
 };
 
 // An array whose rows have gaps between them, all in bytes.
@@ -63,6 +63,7 @@ struct Arg {
     int stackBytes; // on the 32-bit argument stack
     const Choice* domain; // may be null
     int domainSize;
+    bool followsLater; // the domain is over arguments behind this one
     const Maker* makers; // of a state: any of these; null: no state
     int makerCount;
 };

@@ -5,6 +5,8 @@
 namespace registry {
 namespace {
 
+unsigned overwritten = 0; // each time with something else, so that results that depend on it differ
+
 // What the call made: the block itself, or the address that it stored or returned.
 void* product(const Function& f, const Value* values, const Answer& answer)
 {
@@ -73,7 +75,7 @@ Made::Made(const Arguments& maker, const Room& room) : maker_(maker.f)
         homeBytes_ = maker.bytes(maker_.makes.home);
     }
     for (int i = 0; i < maker_.argCount; ++i)
-        if (memory[i] && memory[i] != home_) std::memset(memory[i], 0xEE, maker.bytes(i));
+        if (memory[i] && memory[i] != home_) std::memset(memory[i], ++overwritten & 0xFF, maker.bytes(i));
 }
 
 Made::~Made() { release(maker_, pointer_); }
