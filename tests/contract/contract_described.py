@@ -66,19 +66,41 @@ class CExpression:
 
 
 def described_arg(a):
-    if a.kind in ("opaque", "pointer"):
+    if a.kind in ("opaque", "handle", "pointer"):
         return Arg("record", role="in" if a.const else "out", stars=a.stars, optional=a.optional)
     kind = {"result": "array" if a.extent != "1" else "value"}.get(a.kind, a.kind)
     plain = {"int": "32s", "unsigned int": "32u"}.get(a.base, "")
-    role = "" if kind in ("scalar", "index", "work") else "in" if a.const else "io" if a.inout else "out"
+    role = "" if kind in ("scalar", "index", "work") else "in" if a.const else "io" if a.inout or a.rows else "out"
     return Arg(kind, "" if kind == "index" else a.type.suffix if a.type else plain, role, a.stars, a.optional)
+
+
+NAME = r"[A-Za-z_]\w*(?:\.\w+)*"
+
+
+def elements(a, f, exports):
+    """The extent of an array over arguments and properties of a filter; its largest one where the data decide."""
+    if a.rows:
+        count, width, step, _ = a.rows
+        return f"({count}) && ({width}) ? (({count})-1)*({step})+({width}) : 0"
+    stands_for = {}
+    for n in f.named:
+        if n.source == "computed":
+            stands_for[n.name] = n.text
+        elif n.source == "counted":
+            stands_for[n.name] = next(b.extent for b in f.args if b.name == n.argument)
+        elif n.source == "ofState":
+            maker = exports[next(m.function for m in f.makers if m.argument == n.argument)]
+            there = {m.name: m.text for m in maker.named if m.source == "computed"}
+            text = n.name.partition(".")[2]
+            stands_for[n.name] = re.sub(NAME, lambda m: "spec." + m[0], there.get(text, text))
+    return re.sub(NAME, lambda m: f"({stands_for[m[0]]})" if m[0] in stands_for else m[0], a.room or a.extent)
 
 
 def described():
     """(export -> form, type suffix -> (bytes, index unit), status name -> code), as api/ has them."""
     api = Parser(PROJECT / "api", PROJECT / "src/variants.txt").read()
     statuses = {name.removeprefix("ippSts"): code for code, name, _ in api.statuses if name}
-    forms = {}
+    exports, forms = {name: f for name, f, _ in api.exports()}, {}
     for export, f, which in api.exports():
         args = index_args(f) if which == "index" else f.args
         names = [a.name for a in args]
@@ -88,7 +110,8 @@ def described():
 
         form = forms[export] = Form([described_arg(a) for a in args])
         form.checks = [(statuses[c.status], condition(c.cpp())) for c in f.failures() if not c.when]
-        form.extents = {i: condition(a.extent) for i, a in enumerate(args) if form.args[i].kind == "array"}
+        form.extents = {
+            i: condition(elements(a, f, exports)) for i, a in enumerate(args) if form.args[i].kind == "array"}
         form.warnings = {statuses[w] for w in f.warnings}
         form.same = {(names.index(d), names.index(s)) for d, s in f.in_place}
     return forms, {t.suffix: (t.size, t.unit) for t in api.types.values()}, statuses

@@ -65,7 +65,14 @@ def words_of(bits):
     return (bits + 31) // 32
 
 
-CALLS = {f.__name__: f for f in (block, lower, upper, reach, bytes_of, words_of, max, min)}
+def delay(spec):
+    """The samples that a filter of several rates remembers; with two factors of 1 it is one of a single rate."""
+    if spec.upFactor == spec.downFactor == 1:
+        return spec.tapsLen - 1
+    return (spec.tapsLen + spec.upFactor - 1) // spec.upFactor
+
+
+CALLS = {f.__name__: f for f in (block, lower, upper, reach, bytes_of, words_of, delay, max, min)}
 # Properties of filters. The lengths are apart by one, so that a rounding that is off by one shows.
 SPECS = [
     SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down)
