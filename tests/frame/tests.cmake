@@ -10,3 +10,21 @@ if(NOT SIG5D_STATIC)
     endforeach()
 endif()
 target_include_directories(detection_test PRIVATE ${SIG5D_GENERATED})
+
+# The frame's own sources on processors that the tests choose, with calls that come in between each other.
+set(machine_sources selection detected features cache_size core_count cpuid frequency system)
+list(TRANSFORM machine_sources PREPEND ${CMAKE_SOURCE_DIR}/src/frame/)
+list(TRANSFORM machine_sources APPEND .cpp)
+add_executable(
+    machine_test
+    frame/machine/machine.cpp frame/machine/queries_test.cpp frame/machine/interleaving_test.cpp
+    frame/recorded_processors.cpp ${machine_sources})
+target_include_directories(machine_test PRIVATE frame/machine . ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR}/src
+                                                ${SIG5D_GENERATED})
+target_compile_options(machine_test PRIVATE ${optimise} -Wall -Wextra -msse2 -mfpmath=sse)
+target_link_libraries(machine_test PRIVATE GTest::gtest GTest::gtest_main)
+if(WIN32)
+    target_link_options(machine_test PRIVATE -static)
+endif()
+set_target_properties(machine_test PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+add_test(NAME ${build}/machine COMMAND machine_test)
