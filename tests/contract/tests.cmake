@@ -8,6 +8,7 @@ if(NOT SIG5D_SANITIZE)
                                   --objdump ${CMAKE_OBJDUMP})
     add_test(NAME ${build}/committed COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/committed_test.py)
     add_test(NAME ${build}/witness COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/contract_witness_test.py)
+    add_test(NAME ${build}/generator COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/apigen/generator_test.py)
 endif()
 
 # The library as a file. A sanitizer's build has other imports.

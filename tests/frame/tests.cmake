@@ -1,5 +1,20 @@
-sig5d_test(frame frame/features_test.cpp frame/status_test.cpp frame/memory_test.cpp frame/system_test.cpp)
+sig5d_test(frame frame/features_test.cpp frame/status_test.cpp frame/memory_test.cpp frame/system_test.cpp
+           support/heap.cpp)
 sig5d_test(first_call frame/first_call_test.cpp)
+
+# The library is loaded and unloaded again and again by a program that is not linked with it.
+if(NOT SIG5D_STATIC AND NOT SIG5D_SANITIZE)
+    add_executable(reload_test frame/reload_test.cpp)
+    target_include_directories(reload_test PRIVATE ${CMAKE_SOURCE_DIR}/include)
+    target_compile_definitions(reload_test PRIVATE SIG5D_LIBRARY="$<TARGET_FILE_NAME:sig5d>")
+    target_link_libraries(reload_test PRIVATE GTest::gtest GTest::gtest_main ${CMAKE_DL_LIBS})
+    add_dependencies(reload_test sig5d)
+    if(WIN32)
+        target_link_options(reload_test PRIVATE -static)
+    endif()
+    set_target_properties(reload_test PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR} BUILD_RPATH ${CMAKE_BINARY_DIR})
+    add_test(NAME ${build}/reload COMMAND reload_test)
+endif()
 
 # Detection is tested on recorded processors, with the library's own sources.
 sig5d_test(detection frame/detection_test.cpp frame/recorded_processors.cpp)
