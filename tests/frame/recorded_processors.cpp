@@ -288,6 +288,18 @@ const Recorded recordedProcessors[] = {
      .cacheBytes = 1 << 20,
      .cores = 1},
 
+    {.name = "guest with one cache for data and no leaf above 4",
+     .leaves = {{{0, 0}, intel(4)},
+                {{1, 0}, {0x10676, 0x00020800, 0x0008E3BD, 0xBFEBFBFF}},
+                {{4, 0}, {0x04000121, 0x01C0003F, 0x3F, 0}},
+                {{4, 1}, {0x04000122, 0x01C0003F, 0x7F, 0}},
+                {{0x80000000, 0}, {0x80000000, 0, 0, 0}}},
+     .word = 0x5F,
+     .variant = 2,
+     .enabled = 0x5F,
+     .cacheBytes = 32 << 10,
+     .cores = 2},
+
     // Firmware hides the leaves above 3; the descriptor that points at leaf 4 is left.
     {.name = "leaf 4 hidden, second level in the extended leaves",
      .leaves = {{{0, 0}, intel(3)},

@@ -1,5 +1,4 @@
 """Writes what linkers read: export definitions, import library definitions, the ELF version script."""
-from model import index_args
 
 
 def export_lines(api):
@@ -25,7 +24,3 @@ def definition_files(api):
         "exports_import.def": head + importing,  # for import libraries: decorated symbols of undecorated names
         "exports.map": "{\n    global:\n" + names + "    local: *;\n};\n",
     }
-
-
-def argument_bytes(f, form):
-    return sum(a.bytes32() for a in (index_args(f) if form == "index" else f.args))

@@ -87,11 +87,6 @@ class Function:
     def bytes32(self):
         return sum(a.bytes32() for a in self.args)
 
-    def symbol_suffix(self, bytes_of_arguments=None):
-        if self.convention != "stdcall":
-            return ""
-        return "@%d" % (self.bytes32() if bytes_of_arguments is None else bytes_of_arguments)
-
 
 @dataclass
 class Api:

@@ -2,6 +2,8 @@
 #include "frame/cache.h"
 #include "frame/selection.h"
 #include "sig5d.h"
+#include <semaphore>
+#include <thread>
 
 using namespace sig5d;
 
@@ -10,13 +12,52 @@ namespace {
 
 Recorded processor;
 std::vector<Interruption> coming;
-int passed;
+int passed, leaves;
 size_t rounds; // of leaf 2
+
+// A thread that stops at an access.
+class Runner
+{
+public:
+    Runner(const std::function<void()>& call, int stop) : stop_(stop)
+    {
+        thread_ = std::thread([this, &call] {
+            self = this;
+            call();
+            ended_ = true;
+            resting_.release();
+        });
+        resting_.acquire();
+    }
+    bool atStop() const { return !ended_; }
+    void toTheEnd()
+    {
+        if (!ended_) {
+            go_.release();
+            resting_.acquire();
+        }
+        thread_.join();
+    }
+    void pass()
+    {
+        if (++passed_ != stop_) return;
+        resting_.release();
+        go_.acquire();
+    }
+    static inline thread_local Runner* self = nullptr;
+
+private:
+    int stop_, passed_ = 0;
+    bool ended_ = false;
+    std::binary_semaphore resting_{0}, go_{0};
+    std::thread thread_;
+};
 
 } // namespace
 
 void comeInBetween()
 {
+    if (Runner::self) return Runner::self->pass();
     ++passed;
     if (coming.empty() || coming.front().place != passed) return;
     const auto call = coming.front().call;
@@ -29,12 +70,14 @@ void start(const Recorded& r)
     processor = r;
     coming.clear();
     rounds = 0;
+    leaves = 0;
     for (SharedWord* word : SharedWord::all()) word->reset();
     sig5d_stream_bytes = ~size_t(0);
 }
 
 int variant() { return static_cast<i32>(sig5d_variant.now()); }
 u64 enabled() { return ippGetEnabledCpuFeatures(); }
+int leavesAsked() { return leaves; }
 size_t streamingStart() { return sig5d_stream_bytes; }
 void firstCall()
 {
@@ -50,6 +93,16 @@ int run(const std::function<void()>& call, std::vector<Interruption> interruptio
     return passed;
 }
 
+bool cross(const std::function<void()>& first, int firstStop, const std::function<void()>& second, int secondStop)
+{
+    Runner a(first, firstStop);
+    Runner b(second, secondStop);
+    const bool stopped = a.atStop() && b.atStop();
+    a.toTheEnd();
+    b.toTheEnd();
+    return stopped;
+}
+
 namespace {
 
 bool identifiable()
@@ -61,6 +114,7 @@ bool identifiable()
 CpuidRegs cpuid(u32 leaf, u32 subleaf)
 {
     comeInBetween();
+    ++leaves;
     const size_t round = leaf == 2 ? rounds++ % (processor.rounds.size() + 1) : 0;
     return processor.answer(leaf, subleaf, round);
 }

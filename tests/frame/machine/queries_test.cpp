@@ -73,6 +73,23 @@ TEST(Machine, TheFirstCallSelectsItsBestVariant)
     });
 }
 
+// Each leaf takes some microseconds in a virtual machine.
+TEST(Machine, ItIsAskedOnce)
+{
+    onEveryMachine([](const Recorded&) {
+        u64 word = 0;
+        int bytes = 0;
+        ippGetCpuFeatures(&word, nullptr);
+        const int asked = machine::leavesAsked();
+        ippGetCpuFeatures(&word, nullptr);
+        ippGetMaxCacheSizeB(&bytes);
+        machine::firstCall();
+        ippSetCpuFeatures(7);
+        ippSetCpuFeatures(7 | doNotCompare);
+        EXPECT_EQ(machine::leavesAsked(), asked);
+    });
+}
+
 TEST(Machine, RegistersAreThoseOfTheLeafAskedFor)
 {
     machine::start(recorded("Core i7-4770"));
