@@ -442,6 +442,10 @@ CpuidRegs answer(u32 leaf, u32 subleaf)
     EXPECT_TRUE(now->identifiable);
     const size_t before = asked[{leaf, subleaf}]++;
     EXPECT_LE(before, leaf == 2 ? now->rounds.size() : 0) << std::hex << leaf << "." << subleaf << " asked too often";
+    if ((leaf == 4 || leaf == 0x8000001D) && subleaf > 0) {
+        EXPECT_TRUE(now->answer(leaf, subleaf - 1).eax & 31)
+            << std::hex << leaf << "." << subleaf << ": no list goes on";
+    }
     const u32 base = leaf & 0x80000000;
     EXPECT_LE(leaf, leaf == base ? base : highest(base)) << std::hex << leaf;
     return now->answer(leaf, subleaf, before);
