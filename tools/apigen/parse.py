@@ -4,7 +4,6 @@ from pathlib import Path
 
 from model import Api, Arg, Check, Function, Type
 
-VARIANTS = ["px", "w7", "s8", "p8", "g9", "h9"]
 PLAIN_BASES = {"int": "int", "uint": "unsigned int", "void": "void", "char": "char"}
 
 
