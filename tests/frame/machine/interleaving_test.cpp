@@ -154,6 +154,7 @@ TEST_P(Interruption, ByTwoOthers)
 TEST(Interleaving, OfTwoThatBothStop)
 {
     processor = &recorded("Core i7-2600, operating system");
-    for (int a : {0, 1, 3})
-        for (int b : {0, 1, 3}) cross(calls[a], calls[b]);
+    cross(calls[0], calls[1]);
+    cross(calls[1], calls[0]);
+    cross(calls[1], calls[3]);
 }

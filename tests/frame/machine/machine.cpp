@@ -2,7 +2,8 @@
 #include "frame/cache.h"
 #include "frame/selection.h"
 #include "sig5d.h"
-#include <semaphore>
+#include <condition_variable>
+#include <mutex>
 #include <thread>
 
 using namespace sig5d;
@@ -15,6 +16,29 @@ std::vector<Interruption> coming;
 int passed, leaves;
 size_t rounds; // of leaf 2
 
+// Set by one thread, awaited and taken by another. (With std::binary_semaphore the threads hung under Wine.)
+class Signal
+{
+public:
+    void set()
+    {
+        const std::lock_guard lock(mutex_);
+        isSet_ = true;
+        changed_.notify_one();
+    }
+    void take()
+    {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return isSet_; });
+        isSet_ = false;
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    bool isSet_ = false;
+};
+
 // A thread that stops at an access.
 class Runner
 {
@@ -25,31 +49,31 @@ public:
             self = this;
             call();
             ended_ = true;
-            resting_.release();
+            resting_.set();
         });
-        resting_.acquire();
+        resting_.take();
     }
     bool atStop() const { return !ended_; }
     void toTheEnd()
     {
         if (!ended_) {
-            go_.release();
-            resting_.acquire();
+            go_.set();
+            resting_.take();
         }
         thread_.join();
     }
     void pass()
     {
         if (++passed_ != stop_) return;
-        resting_.release();
-        go_.acquire();
+        resting_.set();
+        go_.take();
     }
     static inline thread_local Runner* self = nullptr;
 
 private:
     int stop_, passed_ = 0;
     bool ended_ = false;
-    std::binary_semaphore resting_{0}, go_{0};
+    Signal resting_, go_;
     std::thread thread_;
 };
 
