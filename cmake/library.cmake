@@ -18,6 +18,7 @@ set(frame_sources "")
 foreach(
     source
     ${SIG5D_PLAIN_SOURCES}
+    frame/this_processor.cpp
     frame/cpuid.cpp
     frame/features.cpp
     frame/cache_size.cpp

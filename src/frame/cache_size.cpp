@@ -67,16 +67,16 @@ Bytes largestDescribed(const Identity& id)
     return largest;
 }
 
-// The extended leaves: 0x8000001D where topology extensions are reported, otherwise the sizes of 0x80000005 and
-// 0x80000006, where an associativity of 0 says that the cache is off.
+// The extended leaves: 0x8000001D where topology extensions are reported, otherwise, or where its list is empty, the
+// sizes of 0x80000005 and 0x80000006, where an associativity of 0 says that the cache is off.
 Bytes largestExtended(const Identity& id)
 {
     constexpr Bytes kilobyte = 1024;
     Bytes largest = 0;
-    const bool listed = id.maxExtended >= 0x8000001D && id.topologyExtensions();
-    if (listed) largest = largestListed(id, 0x8000001D);
-    if (largest == 0 && id.maxExtended >= 0x80000005) largest = (id.leaf(0x80000005).ecx >> 24) * kilobyte;
-    if (!listed && id.maxExtended >= 0x80000006) {
+    if (id.maxExtended >= 0x8000001D && id.topologyExtensions()) largest = largestListed(id, 0x8000001D);
+    if (largest != 0) return largest;
+    if (id.maxExtended >= 0x80000005) largest = (id.leaf(0x80000005).ecx >> 24) * kilobyte;
+    if (id.maxExtended >= 0x80000006) {
         const CpuidRegs r = id.leaf(0x80000006);
         if (r.ecx >> 12 & 15) largest = larger(largest, (r.ecx >> 16) * kilobyte);
         if (r.edx >> 12 & 15) largest = larger(largest, (r.edx >> 18) * 512 * kilobyte);
@@ -99,8 +99,8 @@ CacheSize readCacheSize(const Identity& id)
     return {static_cast<i32>(largest < 0x7FFFFFFF ? largest : 0x7FFFFFFF), StsNoErr};
 }
 
-// Beyond the largest cache, but between 1 and 32 MB: virtual machines report the whole of a cache of which a core gets a
-// share (docs/dispatch.md has figures), or hardly any.
+// Beyond the largest cache, but between 1 and 32 MB: virtual machines report the whole of a cache of which a core gets
+// a share (docs/dispatch.md has figures), or hardly any.
 size_t streamBytes(CacheSize largest)
 {
     constexpr size_t low = size_t(1) << 20, high = size_t(32) << 20;

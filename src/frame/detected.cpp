@@ -1,17 +1,15 @@
-// Relaxed atomics: concurrent first calls each detect, the first to finish stores, and all store the same values.
+// Concurrent first calls each detect, the first to finish stores, and all find the same values.
 #include "frame/detected.h"
 #include "frame/features.h"
-#include <atomic>
+#include "frame/shared_word.h"
 
 namespace sig5d {
 namespace {
 
-constexpr auto relaxed = std::memory_order_relaxed;
 constexpr u64 nothing = u64(1) << 63; // neither a feature word nor a cache word has this bit
 
-std::atomic<u64> features = nothing;
-std::atomic<u64> cache = nothing; // the status above the size
-static_assert(std::atomic<u64>::is_always_lock_free);
+SharedWord features = nothing;
+SharedWord cache = nothing; // the status above the size
 
 u64 packed(CacheSize c) { return static_cast<u64>(c.status) << 32 | static_cast<u32>(c.bytes); }
 
@@ -20,15 +18,15 @@ void detect()
     const Identity id = identify(thisProcessor);
     // Only where nothing stands: a caller's override made meanwhile must stay.
     u64 expected = nothing;
-    features.compare_exchange_strong(expected, readFeatures(id), relaxed);
+    features.replace(expected, readFeatures(id));
     expected = nothing;
-    cache.compare_exchange_strong(expected, packed(readCacheSize(id)), relaxed);
+    cache.replace(expected, packed(readCacheSize(id)));
 }
 
-u64 known(const std::atomic<u64>& word)
+u64 known(const SharedWord& word)
 {
-    if (word.load(relaxed) == nothing) detect();
-    return word.load(relaxed);
+    if (word.load() == nothing) detect();
+    return word.load();
 }
 
 } // namespace
@@ -41,6 +39,6 @@ CacheSize detectedCache()
     return {static_cast<i32>(word), static_cast<Status>(word >> 32)};
 }
 
-void overrideDetectedFeatures(u64 word) { features.store(word, relaxed); }
+void overrideDetectedFeatures(u64 word) { features.store(word); }
 
 } // namespace sig5d

@@ -1,41 +1,47 @@
-// The variant in use and the functions that expose it. The process-wide words are relaxed atomics without a lock:
-// concurrent first calls store the same values.
+// The variant in use and the functions that expose it. The process-wide words have no lock.
 #include "frame/selection.h"
 #include "frame/cache.h"
 #include "frame/detected.h"
 #include "frame/features.h"
-#include <atomic>
 
-int sig5d_variant = -1;
+sig5d::SharedWord sig5d_variant = 0xFFFFFFFF;
 size_t sig5d_stream_bytes = ~size_t(0);
 
 namespace sig5d {
 namespace {
 
-constexpr auto relaxed = std::memory_order_relaxed;
 constexpr u64 unselected = u64(1) << 63; // a mark beside the first value, which a caller may also select
+constexpr u64 enabledBefore = unselected | FeatureMmx | FeatureSse;
 
-std::atomic<u64> enabled = unselected | FeatureMmx | FeatureSse;
+SharedWord enabled = enabledBefore;
 
-u64 enabledFeatures() { return enabled.load(relaxed) & ~unselected; }
+u64 enabledFeatures() { return enabled.load() & ~unselected; }
 
-void setStreamBytes() { __atomic_store_n(&sig5d_stream_bytes, streamBytes(detectedCache()), __ATOMIC_RELAXED); }
-
-void use(const Selection& s)
+// After a change of the enabled word: the variant is made from whatever word stands now, so that calls at the same time
+// never leave the variant of one with the word of another. The count refuses a variant that was made from a word before
+// another call replaced it and was done.
+void useEnabled()
 {
-    setStreamBytes();
-    enabled.store(s.enabled, relaxed);
-    __atomic_store_n(&sig5d_variant, s.variant, __ATOMIC_RELAXED);
+    __atomic_store_n(&sig5d_stream_bytes, streamBytes(detectedCache()), __ATOMIC_RELAXED);
+    u64 before = sig5d_variant.load(), after;
+    do {
+        const u64 count = (before >> 32) + 1;
+        after = count << 32 | static_cast<u32>(select(enabledFeatures()).variant);
+    } while (!sig5d_variant.replace(before, after));
+}
+
+void use(u64 word)
+{
+    enabled.store(word);
+    useEnabled();
 }
 
 // The initialiser's choice never replaces one that a caller makes at the same time.
-void useFirst(const Selection& s)
+void useFirst(u64 word)
 {
-    setStreamBytes();
-    u64 word = unselected | FeatureMmx | FeatureSse;
-    enabled.compare_exchange_strong(word, s.enabled, relaxed);
-    int variant = -1;
-    __atomic_compare_exchange_n(&sig5d_variant, &variant, s.variant, false, __ATOMIC_RELAXED, __ATOMIC_RELAXED);
+    u64 expected = enabledBefore;
+    enabled.replace(expected, word);
+    useEnabled();
 }
 
 Status getFeatures(u64* features, u32* registers)
@@ -64,7 +70,7 @@ Status setFeatures(u64 requested)
     } else {
         chosen = selectAgainst(requested, detectedFeatures());
     }
-    use(chosen);
+    use(chosen.enabled);
     return chosen.status;
 }
 
@@ -77,6 +83,5 @@ extern "C" void sig5d_initialise()
 {
     using namespace sig5d;
     const u64 word = detectedFeatures();
-    useFirst(thisProcessor.identifiable() ? selectAgainst(word, word)
-                                          : Selection{0, FeatureMmx | FeatureSse, StsNoErr});
+    useFirst(thisProcessor.identifiable() ? selectAgainst(word, word).enabled : FeatureMmx | FeatureSse);
 }

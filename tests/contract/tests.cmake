@@ -9,6 +9,7 @@ if(NOT SIG5D_SANITIZE)
     foreach(test committed description documentation contract_witness)
         add_test(NAME ${build}/${test} COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/${test}_test.py)
     endforeach()
+    add_test(NAME ${build}/generator COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/apigen/generator_test.py)
 endif()
 
 # The library as a file. A sanitizer's build has other imports.

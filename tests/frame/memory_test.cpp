@@ -1,4 +1,5 @@
 #include "sig5d.h"
+#include "support/heap.h"
 #include <climits>
 #include <cstring>
 #include <gtest/gtest.h>
@@ -77,4 +78,21 @@ TEST(Memory, TheLargestBlockIsThereOrNot)
         p[len * a.size - 1] = 2;
         ippsFree(p);
     }
+}
+
+TEST(Memory, BlocksAreOneAllocationEachAndGivenBack)
+{
+    if (!support::heapIsCounted) GTEST_SKIP() << "the sanitizer has a heap of its own";
+    for (const Allocator& a : allocators)
+        for (int len : {1, 3, 1000}) {
+            void* block = nullptr;
+            auto use = support::onCountedHeap([&] { block = a.allocate(len); });
+            EXPECT_TRUE(block && use.allocations == 1 && use.held == 1) << a.name << " " << len;
+            use = support::onCountedHeap([&] { len % 2 ? ippsFree(block) : ippsFree_Idx(block); });
+            EXPECT_TRUE(use.allocations == 0 && use.held == 0 && use.strange == 0) << a.name << " " << len;
+            use = support::onCountedHeap([&] { block = a.allocate(len); }, 1);
+            EXPECT_TRUE(!block && use.allocations == 1 && use.held == 0) << a.name << " " << len;
+            use = support::onCountedHeap([&] { block = a.allocate(-len); });
+            EXPECT_TRUE(!block && use.allocations == 0) << a.name << " " << len;
+        }
 }

@@ -1,6 +1,5 @@
 #include "frame/recorded_processors.h"
 #include <gtest/gtest.h>
-#include <set>
 
 using namespace sig5d;
 
@@ -275,8 +274,149 @@ const Recorded recordedProcessors[] = {
      .enabled = 0xFEFFF,
      .cacheBytes = 32 << 20,
      .cores = 192},
+
+    // Three rounds of descriptors; the largest cache comes in the last one.
+    {.name = "descriptors in three rounds",
+     .leaves = {{{0, 0}, intel(3)},
+                {{1, 0}, {0x673, 2, 0, 0x0387F9FF}},
+                {{2, 0}, {0x02010103, 0, 0, 0x0C040841}},
+                {{0x80000000, 0}, {0x00000003, 0, 0, 0}}},
+     .rounds = {{0x0C0A0803, 0, 0, 0x80000049}, {0x00000003, 0, 0x00440000, 0}},
+     .word = 0x3,
+     .variant = 0,
+     .enabled = 0x3,
+     .cacheBytes = 1 << 20,
+     .cores = 1},
+
+    {.name = "guest with one cache for data and no leaf above 4",
+     .leaves = {{{0, 0}, intel(4)},
+                {{1, 0}, {0x10676, 0x00020800, 0x0008E3BD, 0xBFEBFBFF}},
+                {{4, 0}, {0x04000121, 0x01C0003F, 0x3F, 0}},
+                {{4, 1}, {0x04000122, 0x01C0003F, 0x7F, 0}},
+                {{0x80000000, 0}, {0x80000000, 0, 0, 0}}},
+     .word = 0x5F,
+     .variant = 2,
+     .enabled = 0x5F,
+     .cacheBytes = 32 << 10,
+     .cores = 2},
+
+    // Firmware hides the leaves above 3; the descriptor that points at leaf 4 is left.
+    {.name = "leaf 4 hidden, second level in the extended leaves",
+     .leaves = {{{0, 0}, intel(3)},
+                {{1, 0}, {0x106A5, 0x00100800, 0x0098E3BD, 0xBFEBFBFF}},
+                {{2, 0}, {0x55035A01, 0x00F0B2FF, 0, 0x00CA0000}},
+                {{0x80000000, 0}, {0x80000008, 0, 0, 0}},
+                {{0x80000001, 0}, {0, 0, 1, 0x28100800}},
+                {{0x80000006, 0}, {0, 0, 0x01006040, 0}}},
+     .word = 0xDF,
+     .variant = 3,
+     .enabled = 0xDF,
+     .cacheBytes = 256 << 10,
+     .cores = 1},
+
+    {.name = "guest whose leaf 4 is empty, second level in the extended leaves",
+     .leaves = {{{0, 0}, intel(13)},
+                {{1, 0}, {0x306C3, 0x00100800, 0xF7FAFBBF, 0x0F8BFBFF}},
+                {{7, 0}, {0, 0x27AB, 0, 0}},
+                {{0x80000000, 0}, {0x80000008, 0, 0, 0}},
+                {{0x80000001, 0}, {0, 0, 0x21, 0x2C100800}},
+                {{0x80000006, 0}, {0, 0, 0x01006040, 0}}},
+     .word = 0xEDDF | 0x20, // MOVBE; the system saves no registers for AVX
+     .variant = 3,
+     .enabled = 0x6CFF,
+     .cacheBytes = 256 << 10,
+     .cores = 1},
+
+    {.name = "guest of another maker that tells nothing but its features",
+     .leaves = {{{0, 0}, {1, 0x746E6543, 0x736C7561, 0x48727561}}, {{1, 0}, {0x6A9, 0, 0x80002000, 0x0789F9FF}}},
+     .word = 0x7,
+     .variant = 1,
+     .enabled = 0x7,
+     .cacheBytes = 0,
+     .cores = 1},
+
+    {.name = "another maker, extended leaves only",
+     .leaves = {{{0, 0}, {1, 0x746E6543, 0x736C7561, 0x48727561}},
+                {{1, 0}, {0x6A9, 0x00010800, 0x00000181, 0xA7C9BBFF}},
+                {{0x80000000, 0}, {0x80000006, 0, 0, 0}},
+                {{0x80000005, 0}, {0, 0, 0x40040140, 0x40040140}},
+                {{0x80000006, 0}, {0, 0, 0x0080A140, 0}}},
+     .word = 0xF,
+     .variant = 1,
+     .enabled = 0xF,
+     .cacheBytes = 128 << 10,
+     .cores = 1},
+
+    // The list is announced and empty; the older leaves have the sizes. Nothing tells the threads of a core.
+    {.name = "guest with an empty list in the extended leaves",
+     .leaves = {{{0, 0}, amd(13)},
+                {{1, 0}, {0x00870F10, 0x00100800, 0xFED8320B, 0x178BFBFF}},
+                {{7, 0}, {0, 0x219C91A9, 0, 0}},
+                {{0x80000000, 0}, {0x8000001E, 0x68747541, 0x444D4163, 0x69746E65}},
+                {{0x80000001, 0}, {0x00870F10, 0, 0x75C237FF, 0x2FD3FBFF}},
+                {{0x80000005, 0}, {0, 0, 0x20080140, 0x20080140}},
+                {{0x80000006, 0}, {0, 0, 0x02006140, 0x00409140}},
+                {{0x80000008, 0}, {0x3030, 0, 0x0003, 0}}},
+     .xcr0 = 7,
+     .word = 0xFEFFF,
+     .variant = 5,
+     .enabled = 0xFEFFF,
+     .cacheBytes = 8 << 20,
+     .cores = 4},
+
+    {.name = "no leaf but the first",
+     .leaves = {{{0, 0}, intel(0)}},
+     .mxcsrMask = 0,
+     .word = 0,
+     .variant = 0,
+     .enabled = 1,
+     .cacheBytes = 0,
+     .cores = 1},
+
+    {.name = "AVX2 without AVX: a guest whose host hides AVX",
+     .leaves = {{{0, 0}, intel(13)},
+                {{1, 0}, {0x306C3, 0x00100800, 0x6FFAFBBF, 0x0F8BFBFF}},
+                {{4, 0}, {0x1C03C163, 0x03C0003F, 0x1FFF, 6}},
+                {{7, 0}, {0, 0x27AB, 0, 0}}},
+     .xcr0 = 7,
+     .word = 0xECFF,
+     .variant = 3,
+     .enabled = 0x6CFF,
+     .cacheBytes = 8 << 20,
+     .cores = 8},
+
+    {.name = "AVX-512, operating system saves AVX registers only",
+     .leaves = {{{0, 0}, intel(13)},
+                {{1, 0}, {0x50654, 0x00100800, 0x7FFEFBFF, 0xBFEBFBFF}},
+                {{4, 0}, {0x3C03C163, 0x0280003F, 0x7FFF, 4}},
+                {{7, 0}, {0, 0xD19FFFFB, 0, 0}}},
+     .xcr0 = 7,
+     .word = 0x733EFFF,
+     .variant = 5,
+     .enabled = 0x733EFFF,
+     .cacheBytes = 22 << 20,
+     .cores = 16},
+
+    {.name = "AVX-512, operating system saves SSE registers only",
+     .leaves = {{{0, 0}, intel(13)},
+                {{1, 0}, {0x50654, 0x00100800, 0x7FFEFBFF, 0xBFEBFBFF}},
+                {{4, 0}, {0x3C03C163, 0x0280003F, 0x7FFF, 4}},
+                {{7, 0}, {0, 0xD19FFFFB, 0, 0}}},
+     .xcr0 = 3,
+     .word = 0x733EDFF,
+     .variant = 3,
+     .enabled = 0x36CFF,
+     .cacheBytes = 22 << 20,
+     .cores = 16},
 };
 const int recordedProcessorCount = sizeof recordedProcessors / sizeof *recordedProcessors;
+
+CpuidRegs Recorded::answer(u32 leaf, u32 subleaf, size_t round) const
+{
+    if (leaf == 2 && round > 0 && round <= rounds.size()) return rounds[round - 1];
+    const auto found = leaves.find({leaf, subleaf});
+    return found == leaves.end() ? CpuidRegs{} : found->second;
+}
 
 const Recorded& recorded(const char* start)
 {
@@ -289,7 +429,7 @@ const Recorded& recorded(const char* start)
 namespace {
 
 const Recorded* now;
-std::set<std::pair<u32, u32>> asked;
+std::map<std::pair<u32, u32>, size_t> asked;
 
 u32 highest(u32 base)
 {
@@ -300,11 +440,15 @@ u32 highest(u32 base)
 CpuidRegs answer(u32 leaf, u32 subleaf)
 {
     EXPECT_TRUE(now->identifiable);
-    EXPECT_TRUE(asked.insert({leaf, subleaf}).second) << std::hex << leaf << "." << subleaf << " asked twice";
+    const size_t before = asked[{leaf, subleaf}]++;
+    EXPECT_LE(before, leaf == 2 ? now->rounds.size() : 0) << std::hex << leaf << "." << subleaf << " asked too often";
+    if ((leaf == 4 || leaf == 0x8000001D) && subleaf > 0) {
+        EXPECT_TRUE(now->answer(leaf, subleaf - 1).eax & 31)
+            << std::hex << leaf << "." << subleaf << ": no list goes on";
+    }
     const u32 base = leaf & 0x80000000;
     EXPECT_LE(leaf, leaf == base ? base : highest(base)) << std::hex << leaf;
-    const auto found = now->leaves.find({leaf, subleaf});
-    return found == now->leaves.end() ? CpuidRegs{} : found->second;
+    return now->answer(leaf, subleaf, before);
 }
 
 u64 extendedControl()

@@ -1,8 +1,12 @@
 #include "sig5d.h"
+#include "support/sha256.h"
 #include <cctype>
 #include <cstring>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <set>
+#include <sstream>
 #include <string>
 
 TEST(StatusText, NamesTheStatusAndFallsBackToUnknown)
@@ -19,6 +23,49 @@ TEST(StatusText, NamesTheStatusAndFallsBackToUnknown)
     EXPECT_STREQ(ippGetStatusString(-216), "ippStsUnknownStatusCodeErr: Unknown status code.");
     for (int unknown : {-217, 53, -165, -68, -10000, 2147483647, -2147483647 - 1})
         EXPECT_EQ(ippGetStatusString(unknown), ippGetStatusString(-216)) << unknown;
+}
+
+// Every code with its name, and its text where that is settled; a list that is not made from the description.
+TEST(StatusText, AgreesWithTheWitness)
+{
+    std::ifstream header(SIG5D_SOURCE_DIR "/include/sig5d.h");
+    const std::string published((std::istreambuf_iterator<char>(header)), {});
+    std::ifstream file(SIG5D_SOURCE_DIR "/tests/frame/status_texts.tsv");
+    std::set<int> codes;
+    for (std::string line; std::getline(file, line);) {
+        if (line.empty() || line[0] == '#') continue;
+        std::istringstream cells(line);
+        std::string code, name, text;
+        ASSERT_TRUE(std::getline(cells, code, '\t') && std::getline(cells, name, '\t') && std::getline(cells, text));
+        ASSERT_TRUE(codes.insert(std::stoi(code)).second) << line;
+        const std::string found = ippGetStatusString(std::stoi(code));
+        if (name == "-") {
+            EXPECT_EQ(found, text);
+        } else if (text == "-") {
+            EXPECT_EQ(found.rfind(name + ": ", 0), 0u) << found << ", not " << name;
+        } else {
+            EXPECT_EQ(found, name + ": " + text);
+        }
+        if (name != "-") {
+            EXPECT_NE(published.find(" " + name + " = " + code + ","), std::string::npos) << line;
+        }
+    }
+    EXPECT_EQ(codes.size(), 281u);
+    for (int code = -10100; code <= 200; ++code)
+        if (!codes.count(code)) {
+            EXPECT_EQ(ippGetStatusString(code), ippGetStatusString(-216)) << code;
+        }
+}
+
+// Any change of a text is made on purpose and here as well.
+TEST(StatusText, HasNotChanged)
+{
+    support::Sha256 sum;
+    for (int code = -10000; code <= 100; ++code) {
+        const char* text = ippGetStatusString(code);
+        sum.add(text, std::strlen(text) + 1);
+    }
+    EXPECT_EQ(sum.hex(), "c44456ab5696fe0e6c659d6d22ea2f301d04dd2f814c8bfac6b41fcc5eb17c25");
 }
 
 // Lookup finds 281 codes; each has a name and a sentence of its own.

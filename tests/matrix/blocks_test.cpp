@@ -99,6 +99,27 @@ TEST(Exchange, RowsAndColumns)
     });
 }
 
+// A stride below the width: the order of the exchanges shows, and which of the rows is named first must not.
+TEST(Exchange, RowsThatShareElements)
+{
+    inEveryVariant([] {
+        for (const Type& t : types)
+            for (unsigned n : {1u, 2u, 5u, 16u, 33u, 70u, 129u})
+                for (unsigned stride : {0u, 1u, 2u, 3u, 7u, n / 2, n - 1})
+                    for (unsigned x = 0; x < 5; ++x)
+                        for (unsigned y = 0; y < 5; ++y) {
+                            const size_t at = place(x + y, t.bytes);
+                            Bytes memory = filled(40 + (size_t(5) * stride + n) * t.bytes), expected = memory;
+                            for (size_t k = 0; k < n; ++k)
+                                swapElements(expected, at + (x * stride + k) * t.bytes, at + (y * stride + k) * t.bytes,
+                                             t.bytes);
+                            callOwn(named("RowExchange", t), (void*)&memory[at], x, y, n, stride);
+                            ASSERT_TRUE(memory == expected)
+                                << t.suffix << " rows " << x << ", " << y << " of " << n << ", stride " << stride;
+                        }
+    });
+}
+
 namespace {
 
 // Which elements belong to a triangle, in the words of the definition.

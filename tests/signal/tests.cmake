@@ -33,7 +33,8 @@ target_compile_definitions(stream_test PRIVATE $<$<BOOL:${SIG5D_STATIC}>:SIG5D_S
 sig5d_test(fft signal/processing/fft_test.cpp)
 target_link_libraries(fft_test PRIVATE sig5d_test_internal)
 
-sig5d_test(fir signal/fir_single_test.cpp signal/fir_multi_test.cpp frame/fir_handles_test.cpp)
+sig5d_test(fir signal/fir_single_test.cpp signal/fir_multi_test.cpp frame/fir_handles_test.cpp
+           support/heap.cpp)
 
 # Conversions and complex thresholds in the same way; the narrow body is that of SSSE3, which packs bytes.
 foreach(width 16 32)

@@ -1,5 +1,6 @@
 // Thresholds against their definitions, written out element by element; complex ones in extended precision.
 #include "support/bytes.h"
+#include "support/stage.h"
 #include <cmath>
 #include <complex>
 #include <cstring>
@@ -312,4 +313,34 @@ TEST(Threshold, StatusesInOrder)
         EXPECT_EQ(y[0], 5);
         EXPECT_TRUE(equal(e[0], {5, 5}));
     });
+}
+
+// Of every type and in both forms.
+TEST(Threshold, AMagnitudeIsNotNegativeAndARealLevelMayBe)
+{
+    support::Stage stage;
+    registry::Random random(3);
+    int seen = 0;
+    for (const registry::Function& f : registry::functions()) {
+        const std::string name = f.name;
+        if (name.rfind("ippsThreshold", 0)) continue;
+        const bool magnitude = name.find("Abs") + 1 || name.find("LTInv") + 1 || name.find("64fc") + 1;
+        for (int i = 0; i < f.argCount; ++i) {
+            if (std::strcmp(f.args[i].name, "level")) continue;
+            ++seen;
+            for (int level : {-1, 0}) {
+                registry::Arguments a = registry::build(f, random, 9, registry::Pattern::tame, 0);
+                stage.put(a, {});
+                a.values[static_cast<size_t>(i)].i = level;
+                a.values[static_cast<size_t>(i)].re = level;
+                const auto status = stage.call(a, support::entryOf(f)).status;
+                if (magnitude && level < 0) {
+                    EXPECT_EQ(status, ippStsThreshNegLevelErr) << name;
+                } else {
+                    EXPECT_GE(status, 0) << name;
+                }
+            }
+        }
+    }
+    EXPECT_GT(seen, 40);
 }
