@@ -5,9 +5,10 @@ set_source_files_properties(variants/equality_test.cpp PROPERTIES COMPILE_OPTION
 # What no program of the library's own can see: the built objects, the committed generated files.
 if(NOT SIG5D_SANITIZE)
     add_test(NAME ${build}/objects COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/tools/objcheck.py --build ${CMAKE_BINARY_DIR}
-                                  --objdump ${CMAKE_OBJDUMP})
-    add_test(NAME ${build}/committed COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/committed_test.py)
-    add_test(NAME ${build}/witness COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/contract_witness_test.py)
+                                  --objdump ${CMAKE_OBJDUMP} --nm ${CMAKE_NM})
+    foreach(name committed contract_witness arrows objects_checker)
+        add_test(NAME ${build}/${name} COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/${name}_test.py)
+    endforeach()
 endif()
 
 # The library as a file. A sanitizer's build has other imports.

@@ -14,6 +14,8 @@ const Variant variants[6] = {{"px", 0, 0x3},  {"w7", 1, 0x7},   {"s8", 2, 0x1F},
 Entry exported(const char* name)
 {
 #ifdef _WIN32
+    // A program that links the library's objects exports them itself.
+    if (const FARPROC own = GetProcAddress(GetModuleHandleA(nullptr), name)) return reinterpret_cast<Entry>(own);
     static const HMODULE library = LoadLibraryA("Numlab.Sig5d.dll");
     return reinterpret_cast<Entry>(GetProcAddress(library, name));
 #else
