@@ -3,7 +3,6 @@
 Each function takes the project's folder and returns what is against its rule, a sentence each; none: all is well.
 """
 import re
-from pathlib import Path
 
 # For all kernel code: layouts of memory, compile-time traits, intrinsics. Nothing that has code of its own.
 PLAIN = {"stddef.h", "stdint.h", "cstddef", "cstdint", "type_traits", "utility"}

@@ -47,20 +47,15 @@ TEST_P(ConvertStream, IsTheSameAsOrdinary)
         doubles.push_back((bytes[i] - 60) * 1e7);
         complex.push_back({bytes[i] - 100.0, bytes[i + 1] - 100.0});
     }
-    expectSame(3, 1, [&](void* d, int n) {
-        return ippsConvert_32s24s_Sfs(integers.data(), static_cast<Ipp8u*>(d), n, 1);
-    });
-    expectSame(3, 1, [&](void* d, int n) {
-        return ippsConvert_32f24u_Sfs(singles.data(), static_cast<Ipp8u*>(d), n, 2, -3);
-    });
-    expectSame(4, 4,
-               [&](void* d, int n) { return ippsConvert_24s32f(bytes.data(), static_cast<Ipp32f*>(d), n); });
-    expectSame(1, 1, [&](void* d, int n) {
-        return ippsConvert_32f8u_Sfs(singles.data(), static_cast<Ipp8u*>(d), n, 1, 0);
-    });
-    expectSame(4, 4, [&](void* d, int n) {
-        return ippsConvert_64f32s_Sfs(doubles.data(), static_cast<Ipp32s*>(d), n, 1, 0);
-    });
+    expectSame(3, 1,
+               [&](void* d, int n) { return ippsConvert_32s24s_Sfs(integers.data(), static_cast<Ipp8u*>(d), n, 1); });
+    expectSame(
+        3, 1, [&](void* d, int n) { return ippsConvert_32f24u_Sfs(singles.data(), static_cast<Ipp8u*>(d), n, 2, -3); });
+    expectSame(4, 4, [&](void* d, int n) { return ippsConvert_24s32f(bytes.data(), static_cast<Ipp32f*>(d), n); });
+    expectSame(1, 1,
+               [&](void* d, int n) { return ippsConvert_32f8u_Sfs(singles.data(), static_cast<Ipp8u*>(d), n, 1, 0); });
+    expectSame(
+        4, 4, [&](void* d, int n) { return ippsConvert_64f32s_Sfs(doubles.data(), static_cast<Ipp32s*>(d), n, 1, 0); });
     expectSame(3, 1, [&](void* d, int n) { return ippsSwapBytes_24u(&bytes[1], static_cast<Ipp8u*>(d), n); });
     expectSame(16, 8, [&](void* d, int n) {
         return ippsThreshold_LTVal_64fc(complex.data(), static_cast<Ipp64fc*>(d), n, 90, Ipp64fc{1, 2});

@@ -55,8 +55,8 @@ TEST_P(Stream, FillsAndFlips)
             ippsSet_64fc(value, reinterpret_cast<Ipp64fc*>(&d[to]), static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
             for (size_t i = 0; i < n; ++i) std::memcpy(&expected[to + 2 * i], &a[2 * (n - 1 - i)], 2);
-            ippsFlip_16u
-            (reinterpret_cast<const Ipp16u*>(a.data()), reinterpret_cast<Ipp16u*>(&d[to]), static_cast<int>(n));
+            ippsFlip_16u(reinterpret_cast<const Ipp16u*>(a.data()), reinterpret_cast<Ipp16u*>(&d[to]),
+                         static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
         }
 }
