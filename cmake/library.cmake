@@ -13,6 +13,11 @@ if(SIG5D_SANITIZE)
                         -fno-omit-frame-pointer -g)
     add_link_options(-fsanitize=${SIG5D_SANITIZE})
 endif()
+option(SIG5D_COVERAGE "Count which lines and branches run" OFF)
+if(SIG5D_COVERAGE) # hardly optimised, so that a branch of the source is one of the code
+    target_compile_options(sig5d_product INTERFACE --coverage -O1)
+    add_link_options(--coverage)
+endif()
 
 set(frame_sources "")
 foreach(
