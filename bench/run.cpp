@@ -93,7 +93,7 @@ public:
     }
 
 private:
-    void add(const std::string& name, Batch batch, Work before)
+    void add(const std::string& name, Batch batch, const Work& before)
     {
         all_.push_back({name,
                         std::move(batch),

@@ -13,6 +13,11 @@ if(SIG5D_SANITIZE)
                         -fno-omit-frame-pointer -g)
     add_link_options(-fsanitize=${SIG5D_SANITIZE})
 endif()
+option(SIG5D_COVERAGE "Count which lines and branches run" OFF)
+if(SIG5D_COVERAGE) # hardly optimised, so that a branch of the source is one of the code
+    target_compile_options(sig5d_product INTERFACE --coverage -O1)
+    add_link_options(--coverage)
+endif()
 
 set(frame_sources "")
 foreach(
@@ -32,16 +37,26 @@ foreach(
 endforeach()
 list(REMOVE_DUPLICATES frame_sources)
 
-if(SIG5D_STATIC)
-    add_library(sig5d STATIC)
-else()
-    add_library(sig5d SHARED)
-endif()
-target_sources(sig5d PRIVATE ${frame_sources} ${SIG5D_GENERATED}/adapters.cpp ${SIG5D_GENERATED}/dispatch.S)
+# What is compiled once; the kernels are compiled once per body.
+add_library(sig5d_frame OBJECT ${frame_sources} ${SIG5D_GENERATED}/adapters.cpp ${SIG5D_GENERATED}/dispatch.S)
 set_source_files_properties(${SIG5D_GENERATED}/dispatch.S PROPERTIES OBJECT_DEPENDS ${CMAKE_SOURCE_DIR}/src/frame/stub.inc)
+target_link_libraries(sig5d_frame PRIVATE sig5d_product)
+set(SIG5D_OBJECTS $<TARGET_OBJECTS:sig5d_frame>)
+sig5d_add_variants(SIG5D_OBJECTS)
+
+if(SIG5D_STATIC)
+    add_library(sig5d STATIC ${SIG5D_OBJECTS})
+    add_library(sig5d_objects ALIAS sig5d)
+else()
+    add_library(sig5d SHARED ${SIG5D_OBJECTS})
+    # The same objects as an archive, for tests of what no export shows.
+    add_library(sig5d_objects STATIC EXCLUDE_FROM_ALL ${SIG5D_OBJECTS})
+    set_target_properties(
+        sig5d_objects PROPERTIES LINKER_LANGUAGE CXX ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_include_directories(sig5d_objects INTERFACE include)
+endif()
+set_target_properties(sig5d PROPERTIES LINKER_LANGUAGE CXX)
 target_include_directories(sig5d INTERFACE include)
-target_link_libraries(sig5d PRIVATE sig5d_product)
-sig5d_add_variants(sig5d)
 
 if(WIN32)
     include(${CMAKE_CURRENT_LIST_DIR}/library_windows.cmake)
@@ -49,9 +64,9 @@ elseif(NOT SIG5D_STATIC)
     set_target_properties(
         sig5d PROPERTIES OUTPUT_NAME Numlab.Sig5d POSITION_INDEPENDENT_CODE ON LIBRARY_OUTPUT_DIRECTORY
                                                                                ${CMAKE_BINARY_DIR})
-    foreach(variant ${SIG5D_VARIANTS})
-        if(TARGET sig5d_${variant})
-            set_target_properties(sig5d_${variant} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    foreach(part frame ${SIG5D_VARIANTS})
+        if(TARGET sig5d_${part})
+            set_target_properties(sig5d_${part} PROPERTIES POSITION_INDEPENDENT_CODE ON)
         endif()
     endforeach()
     target_link_options(

@@ -1,7 +1,7 @@
 # What makes the DLL lean and reproducible: its own entry point instead of the start-up objects (no static
 # constructors, no thread callbacks), a fixed image base and no timestamp, imports of kernel32 and the C runtime only.
 enable_language(RC)
-target_sources(sig5d PRIVATE ${CMAKE_SOURCE_DIR}/src/frame/windows/entry_point.cpp)
+target_sources(sig5d_frame PRIVATE ${CMAKE_SOURCE_DIR}/src/frame/windows/entry_point.cpp)
 configure_file(${CMAKE_SOURCE_DIR}/src/frame/windows/version.rc.in ${SIG5D_GENERATED}/version.rc @ONLY)
 target_sources(sig5d PRIVATE ${SIG5D_GENERATED}/version.rc)
 

@@ -8,8 +8,9 @@
 set(SIG5D_COMMON_FLAGS -O3 -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign
     -fno-tree-loop-distribute-patterns -falign-loops=64)
 
-# sig5d_add_variants(<target>): an object library per variant, each file of SIG5D_KERNEL_SOURCES in each of its bodies.
-function(sig5d_add_variants target)
+# sig5d_add_variants(<list>): an object library per variant, each file of SIG5D_KERNEL_SOURCES in each of its bodies;
+# their objects are added to the list.
+function(sig5d_add_variants list)
     set(level 0)
     foreach(variant ${SIG5D_VARIANTS})
         set(sources "")
@@ -24,8 +25,9 @@ function(sig5d_add_variants target)
             target_link_libraries(sig5d_${variant} PRIVATE sig5d_product)
             target_compile_definitions(sig5d_${variant} PRIVATE SIG5D_VARIANT=${variant} SIG5D_LEVEL=${level})
             target_compile_options(sig5d_${variant} PRIVATE ${SIG5D_FLAGS_${variant}})
-            target_sources(${target} PRIVATE $<TARGET_OBJECTS:sig5d_${variant}>)
+            list(APPEND ${list} $<TARGET_OBJECTS:sig5d_${variant}>)
         endif()
         math(EXPR level "${level} + 1")
     endforeach()
+    set(${list} ${${list}} PARENT_SCOPE)
 endfunction()

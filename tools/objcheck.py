@@ -1,9 +1,10 @@
 """Looks into built objects: what a compiler or linker could get wrong without any test of results noticing.
 
-    python3 tools/objcheck.py --build build/win32 --objdump i686-w64-mingw32-objdump
+    python3 tools/objcheck.py --build build/win32 --objdump i686-w64-mingw32-objdump --nm i686-w64-mingw32-nm
 
 - No instruction above its variant's level, no fused multiply-add, nothing that a processor of the level lacks.
-- No symbol of a variant's objects that the linker could merge with another variant's.
+- No symbol of a variant's objects that the linker could merge with another variant's; no call of anything but kernels
+  and the library's shared functions; no state but what is listed.
 - On 32-bit x86: no aligned vector access to the stack in a function that does not align its frame, because hosts keep
   the stack aligned to 4 bytes only.
 - Every dispatched entry is one load of the index and one indirect jump.
@@ -14,11 +15,8 @@ import subprocess
 import sys
 from pathlib import Path
 
-ROOT = Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(ROOT / "tools/apigen"))
-import variants
-
-VARIANTS = variants.read(ROOT / "src/variants.txt").names()
+import objsymbols
+from objsymbols import VARIANTS
 
 SSE3 = "addsubp[ds] h(add|sub)p[ds] lddqu movddup movs[hl]dup"
 SSSE3 = "pabs[bwd] palignr ph(add|sub)(w|d|sw) pmaddubsw pmulhrsw pshufb psign[bwd]"
@@ -120,18 +118,13 @@ def check_object(path, level, objdump, bits32, report):
             report.add(path, f"{name}: aligned access to a stack that is not aligned")
 
 
-def check_symbols(path, variant, objdump, report):
-    """Weak and link-once symbols are merged across objects: only those in the variant's own namespace are safe."""
-    own = f"sig5d{len(variant)}{variant}"
-    for line in run(objdump, "-t", str(path)).splitlines():
-        elf = re.match(r"[0-9a-f]+ (.{7}) (\S+)\s+[0-9a-f]+ (?:\.hidden )?(.+)$", line)
-        if elf and ("w" in elf[1] or "u" in elf[1][:2]) and elf[2] != "*UND*" and own not in elf[3]:
-            report.add(path, f"shared symbol {elf[3]}")
-    for line in run(objdump, "-h", str(path)).splitlines():
-        if "LINK_ONCE" in line and "COMDAT" in line:
-            symbol = re.search(r"COMDAT (\S+)", line)
-            if symbol and own not in symbol[1]:
-                report.add(path, f"shared symbol {symbol[1]}")
+def check_symbols(path, variant, nm, underscore, report):
+    symbols = list(objsymbols.parse(run(nm, "-f", "sysv", str(path)), underscore))
+    for fault in objsymbols.state(symbols):
+        report.add(path, fault)
+    if variant in VARIANTS:
+        for fault in objsymbols.foreign(symbols, variant):
+            report.add(path, fault)
 
 
 def check_stubs(path, objdump, bits32, report):
@@ -153,10 +146,13 @@ def main():
     options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     options.add_argument("--build", required=True, type=Path)
     options.add_argument("--objdump", default="objdump")
+    options.add_argument("--nm", default="nm")
     given = options.parse_args()
     folder = given.build / "CMakeFiles"
     objects = sorted(p for p in folder.glob("sig5d*.dir/**/*") if p.suffix in (".o", ".obj"))
-    bits32 = "elf32" in (head := run(given.objdump, "-f", str(objects[0]))) or "pe-i386" in head
+    head = run(given.objdump, "-f", str(objects[0]))
+    underscore = "pe-i386" in head
+    bits32 = "elf32" in head or underscore
     report, checked, stubs = Report(), 0, 0
     for path in objects:
         target = path.relative_to(folder).parts[0]
@@ -168,8 +164,7 @@ def main():
         variant = target[len("sig5d_") : -len(".dir")]
         level = VARIANTS.index(variant) if variant in VARIANTS else 0
         check_object(path, level, given.objdump, bits32, report)
-        if variant in VARIANTS:
-            check_symbols(path, variant, given.objdump, report)
+        check_symbols(path, variant, given.nm, underscore, report)
         checked += 1
     print(f"{checked} objects, {stubs} stubs, {len(report.faults)} faults")
     for fault in report.faults[:50]:
@@ -177,4 +172,5 @@ def main():
     sys.exit(bool(report.faults) or not checked or not stubs)
 
 
-main()
+if __name__ == "__main__":
+    main()

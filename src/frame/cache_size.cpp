@@ -79,7 +79,7 @@ Bytes largestExtended(const Identity& id)
     if (id.maxExtended >= 0x80000006) {
         const CpuidRegs r = id.leaf(0x80000006);
         if (r.ecx >> 12 & 15) largest = larger(largest, (r.ecx >> 16) * kilobyte);
-        if (r.edx >> 12 & 15) largest = larger(largest, (r.edx >> 18) * 512 * kilobyte);
+        if (r.edx >> 12 & 15) largest = larger(largest, (r.edx >> 18) * (512 * kilobyte));
     }
     return largest;
 }

@@ -68,9 +68,11 @@ template <class V> struct ByteAndBit { // in bytes, which r may exceed by a bit
 template <class V> struct Words { // of bytes: in unsigned 16-bit lanes, for the even and the odd elements
     V even, odd;
 };
+template <class V> Words(V, V) -> Words<V>;
 template <class V> struct Doubled { // of 16 bits: in 32-bit lanes, in the order of unpacking and packing
     V low, high;
 };
+template <class V> Doubled(V, V) -> Doubled<V>;
 template <class V> struct Split { // of 32 bits: in two 32-bit lanes
     V low, high;
 };

@@ -64,7 +64,9 @@ template <int L, class T, class Y, class Test> inline Vec<i32, L> lanes_of(const
     } else if constexpr (sizeof(T) == 4) {
         return test(loadn<L>(m.x), vector_of<L>(m.y));
     } else {
-        return widened(test(load_part<L * sizeof(T)>(m.x), part_of<L * sizeof(T)>(m.y)));
+        // Compilers differ in the type of a comparison's lanes.
+        using Mask = Vec<std::make_signed_t<T>, 16 / static_cast<int>(sizeof(T))>;
+        return widened(reinterpret_cast<Mask>(test(load_part<L * sizeof(T)>(m.x), part_of<L * sizeof(T)>(m.y))));
     }
 }
 struct IsNegativeInfinity {

@@ -79,7 +79,7 @@ class PeFile:
         """The fixed part of the version record as 13 words, and its strings."""
         root = self.offset(self.directories[2][0])
         at = root
-        for wanted in (16, None, None):  # type: version; name; language
+        for wanted in (16, None, None):  # the type (a version), the name, the language
             named, numbered = struct.unpack_from("<HH", self.data, at + 12)
             for i in range(named + numbered):
                 identity, where = struct.unpack_from("<II", self.data, at + 16 + 8 * i)

@@ -2,18 +2,23 @@ sig5d_test(contract contract/exports_test.cpp contract/calls_test.cpp contract/c
 sig5d_test(variants variants/equality_test.cpp variants/streams_test.cpp variants/streams.cpp variants/digest_test.cpp)
 set_source_files_properties(variants/equality_test.cpp PROPERTIES COMPILE_OPTIONS -O2) # millions of calls
 
-# What no program of the library's own can see: the built objects, the committed generated files, their description.
-if(NOT SIG5D_SANITIZE)
+# What no program of the library's own can see: the built objects.
+if(NOT SIG5D_SANITIZE AND NOT SIG5D_COVERAGE)
     add_test(NAME ${build}/objects COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/tools/objcheck.py --build ${CMAKE_BINARY_DIR}
-                                  --objdump ${CMAKE_OBJDUMP})
-    foreach(test committed description documentation contract_witness)
-        add_test(NAME ${build}/${test} COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/${test}_test.py)
+                                  --objdump ${CMAKE_OBJDUMP} --nm ${CMAKE_NM})
+endif()
+
+# What is the same in all builds: the committed files, the rules for sources, the formatting.
+if(build STREQUAL linux)
+    foreach(name committed contract_witness description documentation arrows objects_checker)
+        add_test(NAME ${build}/${name} COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/${name}_test.py)
     endforeach()
     add_test(NAME ${build}/generator COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/apigen/generator_test.py)
+    add_test(NAME ${build}/lint COMMAND ${CMAKE_SOURCE_DIR}/tools/lint --quick)
 endif()
 
 # The library as a file. A sanitizer's build has other imports.
-if(NOT SIG5D_STATIC AND NOT SIG5D_SANITIZE)
+if(NOT SIG5D_STATIC AND NOT SIG5D_SANITIZE AND NOT SIG5D_COVERAGE)
     add_test(NAME ${build}/image
              COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/contract/image_test.py --image $<TARGET_FILE:sig5d>
                      --map ${CMAKE_BINARY_DIR}/Numlab.Sig5d.map --commands ${CMAKE_BINARY_DIR}/compile_commands.json

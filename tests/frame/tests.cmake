@@ -16,15 +16,8 @@ if(NOT SIG5D_STATIC AND NOT SIG5D_SANITIZE)
     add_test(NAME ${build}/reload COMMAND reload_test)
 endif()
 
-# Detection is tested on recorded processors, with the library's own sources.
-sig5d_test(detection frame/detection_test.cpp frame/recorded_processors.cpp)
-target_include_directories(detection_test PRIVATE ${CMAKE_SOURCE_DIR}/src)
-if(NOT SIG5D_STATIC)
-    foreach(source cpuid features cache_size core_count frequency)
-        target_sources(detection_test PRIVATE ${CMAKE_SOURCE_DIR}/src/frame/${source}.cpp)
-    endforeach()
-endif()
-target_include_directories(detection_test PRIVATE ${SIG5D_GENERATED})
+# Detection is tested on recorded processors.
+sig5d_internal_test(detection frame/detection_test.cpp frame/recorded_processors.cpp)
 
 # The frame's own sources on processors that the tests choose, with calls that come in between each other.
 set(machine_sources selection detected features cache_size core_count cpuid frequency system)

@@ -1,60 +1,16 @@
-// Streaming stores on short arrays: the kernels are compiled again for two widths and told to stream from the first
-// byte on, which in the library only arrays beyond the caches do.
-#include "frame/cache.h"
-#include "sig5d_types.h"
+// Copies, logic, fills, blocks, transposes, complex numbers and scaled sums with streaming stores, wherever the
+// destination stands.
+#include "kernel/streaming.h"
+#include "sig5d.h"
 #include "support/bytes.h"
 #include <algorithm>
 #include <cstring>
 #include <vector>
 
-#ifndef SIG5D_STATIC // a static library brings its own
-size_t sig5d_stream_bytes;
-#endif
-
-#define BODIES(name, arguments)                                         \
-    extern "C" IppStatus SIG5D_STDCALL sig5d_stream16_##name arguments; \
-    extern "C" IppStatus SIG5D_STDCALL sig5d_stream32_##name arguments;
-BODIES(ippsCopy_8u, (const Ipp8u*, Ipp8u*, int))
-BODIES(ippsMove_8u, (const Ipp8u*, Ipp8u*, int))
-BODIES(ippsSet_64fc, (Ipp64fc, Ipp64fc*, int))
-BODIES(ippsXor_8u, (const Ipp8u*, const Ipp8u*, Ipp8u*, int))
-BODIES(ippsNot_8u_I, (Ipp8u*, int))
-BODIES(ippsFlip_16u, (const Ipp16u*, Ipp16u*, int))
-#define OWN_BODIES(name, arguments)                              \
-    extern "C" void SIG5D_CDECL sig5d_stream16_##name arguments; \
-    extern "C" void SIG5D_CDECL sig5d_stream32_##name arguments;
-using Size = unsigned;
-OWN_BODIES(ResizeMatrix_8u, (const Ipp8u*, Ipp8u*, Size, Size, Size, Size))
-OWN_BODIES(TransposeMatrix_8u, (const Ipp8u*, Ipp8u*, Size, Size, Size, Size))
-OWN_BODIES(TransposeMatrix_16s, (const Ipp16s*, Ipp16s*, Size, Size, Size, Size))
-OWN_BODIES(TransposeMatrix, (const Ipp64f*, Ipp64f*, Size, Size, Size, Size))
-OWN_BODIES(AdjungateMatrixc, (const Ipp64fc*, Ipp64fc*, Size, Size, Size, Size))
-BODIES(ippsMulC_64fc, (const Ipp64fc*, Ipp64fc, Ipp64fc*, int))
-BODIES(ippsDiv_64fc, (const Ipp64fc*, const Ipp64fc*, Ipp64fc*, int))
-BODIES(ippsCplxToReal_64fc, (const Ipp64fc*, Ipp64f*, Ipp64f*, int))
-BODIES(ippsRealToCplx_64f, (const Ipp64f*, const Ipp64f*, Ipp64fc*, int))
-BODIES(ippsAdd_8u_Sfs, (const Ipp8u*, const Ipp8u*, Ipp8u*, int, int))
-BODIES(ippsSubC_32sc_Sfs, (const Ipp32sc*, Ipp32sc, Ipp32sc*, int, int))
-BODIES(ippsSubC_32sc_ISfs, (Ipp32sc, Ipp32sc*, int, int))
-
 using support::Bytes;
 using support::noise;
-
-namespace {
-
-class Stream : public testing::TestWithParam<int>
-{
-protected:
-    void SetUp() override
-    {
-        sig5d_stream_bytes = 0;
-        if (GetParam() == 32 && !__builtin_cpu_supports("avx2")) GTEST_SKIP() << "no AVX2";
-    }
-    template <class F> F pick(F narrow, F wide) { return GetParam() == 16 ? narrow : wide; }
-};
-#define PICK(name) pick(sig5d_stream16_##name, sig5d_stream32_##name)
-
-} // namespace
+using Stream = support::Streaming;
+using Size = unsigned;
 
 TEST_P(Stream, OneAndTwoSourcesAnywhere)
 {
@@ -63,10 +19,10 @@ TEST_P(Stream, OneAndTwoSourcesAnywhere)
         for (size_t to = 0; to < 40; to += 3) {
             Bytes d = before, expected = before;
             std::copy_n(&a[7], n, &expected[to]);
-            PICK(ippsCopy_8u)(&a[7], &d[to], static_cast<int>(n));
+            ippsCopy_8u(&a[7], &d[to], static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
             for (size_t i = 0; i < n; ++i) expected[to + i] = a[i] ^ b[5 + i];
-            PICK(ippsXor_8u)(&a[0], &b[5], &d[to], static_cast<int>(n));
+            ippsXor_8u(&a[0], &b[5], &d[to], static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
         }
 }
@@ -78,12 +34,12 @@ TEST_P(Stream, OverlapAndInPlace)
             Bytes d = noise(4500), expected = d;
             const Bytes source = d;
             std::copy_n(&source[64], n, &expected[to]);
-            PICK(ippsMove_8u)(&d[64], &d[to], static_cast<int>(n));
+            ippsMove_8u(&d[64], &d[to], static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
         }
         Bytes d = noise(4500), expected = d;
         for (size_t i = 0; i < n; ++i) expected[3 + i] = static_cast<unsigned char>(~d[3 + i]);
-        PICK(ippsNot_8u_I)(&d[3], static_cast<int>(n));
+        ippsNot_8u_I(&d[3], static_cast<int>(n));
         ASSERT_EQ(d, expected) << n;
     }
 }
@@ -96,11 +52,11 @@ TEST_P(Stream, FillsAndFlips)
         for (size_t to = 0; to < 40; to += 2) { // where elements reach no aligned address, ordinary stores
             Bytes d = noise(16 * 700), expected = d;
             for (size_t i = 0; i < n; ++i) std::memcpy(&expected[to + 16 * i], &value, 16);
-            PICK(ippsSet_64fc)(value, reinterpret_cast<Ipp64fc*>(&d[to]), static_cast<int>(n));
+            ippsSet_64fc(value, reinterpret_cast<Ipp64fc*>(&d[to]), static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
             for (size_t i = 0; i < n; ++i) std::memcpy(&expected[to + 2 * i], &a[2 * (n - 1 - i)], 2);
-            PICK(ippsFlip_16u)
-            (reinterpret_cast<const Ipp16u*>(a.data()), reinterpret_cast<Ipp16u*>(&d[to]), static_cast<int>(n));
+            ippsFlip_16u(reinterpret_cast<const Ipp16u*>(a.data()), reinterpret_cast<Ipp16u*>(&d[to]),
+                         static_cast<int>(n));
             ASSERT_EQ(d, expected) << n << ' ' << to;
         }
 }
@@ -112,7 +68,7 @@ TEST_P(Stream, BlocksOfLongRows)
         for (size_t to : {0u, 1u, 17u, 40u}) {
             Bytes d = before, expected = before;
             for (size_t i = 0; i < 4; ++i) std::copy_n(&a[3 + i * 4400], cols, &expected[to + i * 4501]);
-            PICK(ResizeMatrix_8u)(&a[3], &d[to], 4, cols, 4400, 4501);
+            ResizeMatrix_8u(&a[3], &d[to], 4, cols, 4400, 4501);
             ASSERT_EQ(d, expected) << cols << ' ' << to;
         }
 }
@@ -147,10 +103,10 @@ template <class T, class F> void streamsTransposed(F transpose, bool conjugate)
 
 TEST_P(Stream, Transposes)
 {
-    streamsTransposed<Ipp8u>(PICK(TransposeMatrix_8u), false);
-    streamsTransposed<Ipp16s>(PICK(TransposeMatrix_16s), false);
-    streamsTransposed<Ipp64f>(PICK(TransposeMatrix), false);
-    streamsTransposed<Ipp64fc>(PICK(AdjungateMatrixc), true);
+    streamsTransposed<Ipp8u>(TransposeMatrix_8u, false);
+    streamsTransposed<Ipp16s>(TransposeMatrix_16s, false);
+    streamsTransposed<Ipp64f>(TransposeMatrix, false);
+    streamsTransposed<Ipp64fc>(AdjungateMatrixc, true);
 }
 
 // Values that small integers make are exact, whatever the order of operations.
@@ -163,21 +119,21 @@ TEST_P(Stream, ComplexNumbers)
             const int count = static_cast<int>(n);
             const auto complex = [&](std::vector<Ipp64f>& v) { return reinterpret_cast<Ipp64fc*>(&v[to]); };
 
-            PICK(ippsCplxToReal_64fc)(complex(z), &re[to], &im[4 - to], count);
-            PICK(ippsRealToCplx_64f)(&re[to], &im[4 - to], complex(d), count);
+            ippsCplxToReal_64fc(complex(z), &re[to], &im[4 - to], count);
+            ippsRealToCplx_64f(&re[to], &im[4 - to], complex(d), count);
             for (size_t i = 0; i < n; ++i)
                 ASSERT_TRUE(re[to + i] == z[to + 2 * i] && im[4 - to + i] == z[to + 2 * i + 1]) << n << ' ' << i;
             ASSERT_TRUE(std::equal(&d[to], &d[to + 2 * n], &z[to])) << n << ' ' << to;
             ASSERT_TRUE(re[to + n] == 0 && im[4 - to + n] == 0 && d[to + 2 * n] == 0);
-            PICK(ippsRealToCplx_64f)(nullptr, &im[4 - to], complex(d), count);
+            ippsRealToCplx_64f(nullptr, &im[4 - to], complex(d), count);
             for (size_t i = 0; i < n; ++i) ASSERT_TRUE(d[to + 2 * i] == 0 && d[to + 2 * i + 1] == z[to + 2 * i + 1]);
 
-            PICK(ippsMulC_64fc)(complex(z), Ipp64fc{0, 2}, complex(d), count);
+            ippsMulC_64fc(complex(z), Ipp64fc{0, 2}, complex(d), count);
             for (size_t i = to; i < to + 2 * n; i += 2) ASSERT_TRUE(d[i] == -2 * z[i + 1] && d[i + 1] == 2 * z[i]);
-            PICK(ippsMulC_64fc)(complex(w), Ipp64fc{0, 2}, complex(w), count);
+            ippsMulC_64fc(complex(w), Ipp64fc{0, 2}, complex(w), count);
             ASSERT_TRUE(std::equal(&d[to], &d[to + 2 * n], &w[to])) << n << ' ' << to;
             for (size_t i = to; i < to + 2 * n; i += 2) w[i] = 0, w[i + 1] = 0.5;
-            PICK(ippsDiv_64fc)(complex(w), complex(d), complex(d), count);
+            ippsDiv_64fc(complex(w), complex(d), complex(d), count);
             for (size_t i = to; i < to + 2 * n; ++i) ASSERT_EQ(d[i], 4 * z[i]) << n << ' ' << to;
         }
 }
@@ -191,7 +147,7 @@ TEST_P(Stream, ScaledSums)
             Bytes d = before, expected = before;
             for (size_t i = 0; i < n; ++i)
                 expected[to + i] = static_cast<unsigned char>(std::min(2 * (a[i] + b[5 + i]), 255));
-            PICK(ippsAdd_8u_Sfs)(&a[0], &b[5], &d[to], static_cast<int>(n), -1);
+            ippsAdd_8u_Sfs(&a[0], &b[5], &d[to], static_cast<int>(n), -1);
             ASSERT_EQ(d, expected) << n << ' ' << to;
 
             std::vector<Ipp32sc> source(n), difference(n), place(n + 6);
@@ -201,12 +157,12 @@ TEST_P(Stream, ScaledSums)
                 difference[i] = {x - value.re, y - value.im};
             }
             auto* const p = reinterpret_cast<Ipp32sc*>(reinterpret_cast<unsigned char*>(place.data()) + to);
-            PICK(ippsSubC_32sc_Sfs)(source.data(), value, p, static_cast<int>(n), 0);
+            ippsSubC_32sc_Sfs(source.data(), value, p, static_cast<int>(n), 0);
             ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
             std::memcpy(p, source.data(), 8 * n);
-            PICK(ippsSubC_32sc_ISfs)(value, p, static_cast<int>(n), 0);
+            ippsSubC_32sc_ISfs(value, p, static_cast<int>(n), 0);
             ASSERT_EQ(std::memcmp(p, difference.data(), 8 * n), 0) << n << ' ' << to;
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(Widths, Stream, testing::Values(16, 32), testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Variants, Stream, support::streamingVariants(), testing::PrintToStringParamName());

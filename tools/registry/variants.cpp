@@ -15,6 +15,8 @@ const Variant variants[6] = {
 Entry exported(const char* name)
 {
 #ifdef _WIN32
+    // A program that links the library's objects exports them itself.
+    if (const FARPROC own = GetProcAddress(GetModuleHandleA(nullptr), name)) return reinterpret_cast<Entry>(own);
     static const HMODULE library = LoadLibraryA("Numlab.Sig5d.dll");
     return reinterpret_cast<Entry>(GetProcAddress(library, name));
 #else

@@ -32,6 +32,11 @@ inline Vec<i64, 4> all_64(__m128i x) { return reinterpret_cast<Vec<i64, 4>>(_mm2
 // instead of a conversion and a product.
 struct ScaledShort {
     f64 offset;
+    template <class V> auto value(V x) const
+    {
+        using F = Vec<f64, sizeof(V) / 8>;
+        return reinterpret_cast<F>(x + reinterpret_cast<V>(splatn<sizeof(V) / 8>(offset))) - offset;
+    }
     template <int n> auto to(const i16* p) const
     {
         const __m128i x = bits128(load_part<static_cast<int>(n * sizeof(i16))>(p));
@@ -41,11 +46,6 @@ struct ScaledShort {
         else
 #endif
             return value(low_64(x));
-    }
-    template <class V> auto value(V x) const
-    {
-        using F = Vec<f64, sizeof(V) / 8>;
-        return reinterpret_cast<F>(x + reinterpret_cast<V>(splatn<sizeof(V) / 8>(offset))) - offset;
     }
 };
 

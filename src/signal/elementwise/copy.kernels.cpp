@@ -68,7 +68,7 @@ template <class T> T repeated(T v) { return v; }
 
 #else
 
-template <class T> Vec<T> repeated(T v) { return splat(v); }
+template <class T> auto repeated(T v) { return splat(v); }
 Vec<u64> repeated(c32s v) { return splat(static_cast<u64>(static_cast<u32>(v.im)) << 32 | static_cast<u32>(v.re)); }
 Vec<f64> repeated(c64f v)
 {

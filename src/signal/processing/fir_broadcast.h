@@ -2,7 +2,7 @@
 #pragma once
 #include "kernel/vec.h"
 #if defined(__SSE3__) && SIG5D_LEVEL > 0
-#include <pmmintrin.h>
+#include <immintrin.h>
 #endif
 
 namespace sig5d::SIG5D_VARIANT {
@@ -11,7 +11,7 @@ namespace {
 template <int w> [[gnu::always_inline]] inline Vec<f64, w> broadcast(const f64& x)
 {
 #ifdef __AVX__
-    if constexpr (w == 4) return __builtin_ia32_vbroadcastsd256(&x);
+    if constexpr (w == 4) return _mm256_broadcast_sd(&x);
 #endif
 #ifdef __SSE3__
     if constexpr (w == 2) return _mm_loaddup_pd(&x);

@@ -1,0 +1,17 @@
+# One program, a topic as its argument. With SIG5D_FUZZING_ENGINE, a build by Clang, its inputs come from libFuzzer, which
+# watches the library's branches; else from a driver. Runs of a second or two here, as long as wanted by tools/fuzz.
+if(WIN32)
+    return()
+endif()
+option(SIG5D_FUZZING_ENGINE "Link libFuzzer to the fuzz targets" OFF)
+add_executable(fuzz EXCLUDE_FROM_ALL fuzz/main.cpp fuzz/calls.cpp fuzz/features.cpp fuzz/sizes.cpp fuzz/status_text.cpp)
+target_link_libraries(fuzz PRIVATE sig5d_stage)
+sig5d_link_library(fuzz)
+set_target_properties(fuzz PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+if(SIG5D_FUZZING_ENGINE)
+    target_compile_definitions(fuzz PRIVATE SIG5D_FUZZING_ENGINE)
+    target_link_options(fuzz PRIVATE -fsanitize=fuzzer)
+elseif(SIG5D_SANITIZE STREQUAL "address,undefined")
+    set_target_properties(fuzz PROPERTIES EXCLUDE_FROM_ALL OFF)
+    add_test(NAME ${build}/fuzz COMMAND ${CMAKE_SOURCE_DIR}/tools/fuzz --seconds 2 --program $<TARGET_FILE:fuzz>)
+endif()
