@@ -13,8 +13,34 @@ using registry::Kind;
 constexpr size_t canaryBytes = 64;
 constexpr uint8_t canary = 0xA5;
 
-std::string context;
-const char* describeCall() { return context.c_str(); }
+// The call under way, for what is said of a fault.
+thread_local const registry::Arguments* running = nullptr;
+class Running {
+public:
+    explicit Running(const registry::Arguments& a);
+    ~Running() { running = nullptr; }
+};
+
+const char* describeCall()
+{
+    if (!running) return "no call";
+    static std::string text;
+    text = nameOf(running->f) + " variant " + current().code;
+    for (int i = 0; i < running->f.argCount; ++i) {
+        const registry::Value& v = running->values[i];
+        char piece[96];
+        std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", running->f.args[i].name, v.i, v.p, running->extent[i]);
+        text += piece;
+    }
+    return text.c_str();
+}
+
+Running::Running(const registry::Arguments& a)
+{
+    static const bool installed = (onFault(describeCall), true);
+    (void)installed;
+    running = &a;
+}
 
 template <class F>
 bool sameNumber(const uint8_t* a, const uint8_t* b)
@@ -56,7 +82,28 @@ std::string text(Element e, const uint8_t* p)
 
 } // namespace
 
-bool isOutput(const Arg& arg) { return !arg.isConst && (arg.kind == Kind::array || arg.kind == Kind::result); }
+bool isOutput(const Arg& arg)
+{
+    return !arg.isConst && (arg.kind == Kind::array || arg.kind == Kind::result || arg.kind == Kind::opaque);
+}
+
+std::vector<Shared> sharings(const registry::Function& f)
+{
+    std::vector<Shared> all;
+    for (int k = 0; k < f.inPlaceCount; ++k) all.push_back({f.inPlace[k]});
+    for (int first = 0; first < f.inPlaceCount; ++first) {
+        Shared together = {f.inPlace[first]};
+        for (int k = first + 1; k < f.inPlaceCount; ++k) {
+            const registry::InPlace pair = f.inPlace[k];
+            if (std::none_of(together.begin(), together.end(), [&](const registry::InPlace& other) {
+                    return other.destination == pair.destination || other.source == pair.source;
+                }))
+                together.push_back(pair);
+        }
+        if (together.size() > 1) all.push_back(together);
+    }
+    return all;
+}
 
 GuardedRegion& Stage::region(size_t index, size_t bytes)
 {
@@ -67,6 +114,11 @@ GuardedRegion& Stage::region(size_t index, size_t bytes)
 
 void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* shared)
 {
+    putEach(a, Places(static_cast<size_t>(a.f.argCount), place), shared ? Shared{*shared} : Shared{});
+}
+
+void Stage::putEach(registry::Arguments& a, const Places& places, const Shared& shared)
+{
     const registry::Function& f = a.f;
     spots_.assign(static_cast<size_t>(f.argCount), {});
     for (int i = 0; i < f.argCount; ++i) {
@@ -75,41 +127,48 @@ void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* sh
         a.values[i].p = nullptr;
         if (a.null[i]) continue;
         size_t bytes = a.content[i].size();
-        if (shared && shared->source == i) bytes = std::max(bytes, a.content[shared->destination].size());
+        bool writable = !arg.isConst;
+        for (const registry::InPlace& pair : shared)
+            if (pair.source == i) {
+                bytes = std::max(bytes, a.content[pair.destination].size());
+                writable = true;
+            }
         GuardedRegion& r = region(static_cast<size_t>(i), bytes + 2 * canaryBytes + 4096);
-        size_t start = place.atEnd ? r.size() - bytes - static_cast<size_t>(place.offset) : static_cast<size_t>(place.offset);
+        const auto offset = static_cast<size_t>(places[i].offset);
+        size_t start = places[i].atEnd ? r.size() - bytes - offset : offset;
         if (arg.kind == Kind::opaque) start = start / 64 * 64; // records keep their alignment when they move
         Spot& spot = spots_[i];
         spot.bytes = bytes;
         spot.own = r.own() + start;
         spot.low = r.own() + (start > canaryBytes ? start - canaryBytes : 0);
         spot.high = r.own() + std::min(r.size(), start + bytes + canaryBytes);
-        const bool writable = !arg.isConst || (shared && shared->source == i);
         a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + start;
         std::memset(spot.low, canary, static_cast<size_t>(spot.high - spot.low));
         if (!a.content[i].empty()) std::memcpy(spot.own, a.content[i].data(), a.content[i].size());
     }
-    if (shared) {
-        spots_[shared->destination] = spots_[shared->source];
-        a.values[shared->destination].p = a.values[shared->source].p;
+    for (const registry::InPlace& pair : shared) {
+        Spot& spot = spots_[pair.destination];
+        spot = spots_[pair.source];
+        spot.bytes = a.content[pair.destination].size();
+        spot.longer = &a.content[pair.source];
+        a.values[pair.destination].p = a.values[pair.source].p;
     }
 }
 
 registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int stackPhase)
 {
-    static const bool installed = (onFault(describeCall), true);
-    (void)installed;
-    context = nameOf(a.f) + " variant " + current().code;
-    for (int i = 0; i < a.f.argCount; ++i) {
-        char piece[96];
-        std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
-        context += piece;
-    }
-    if (a.f.index == registry::IndexForm::only) {
-        const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
-        return registry::invokeIndexed(entry, a.f, a.values.data(), zeros.data(), stackPhase);
-    }
+    const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
+    if (a.f.index == registry::IndexForm::only)
+        return callIndexed(a, entry, a.values.data(), zeros.data(), stackPhase);
+    const Running described(a);
     return registry::invoke(entry, a.f, a.values.data(), stackPhase);
+}
+
+registry::Answer Stage::callIndexed(const registry::Arguments& a, registry::Entry entry, const registry::Value* values,
+                                    const int* indexes, int stackPhase)
+{
+    const Running described(a);
+    return registry::invokeIndexed(entry, a.f, values, indexes, stackPhase);
 }
 
 std::string Stage::strayWrite(const registry::Arguments& a) const
@@ -117,8 +176,12 @@ std::string Stage::strayWrite(const registry::Arguments& a) const
     for (size_t i = 0; i < spots_.size(); ++i) {
         const Spot& s = spots_[i];
         if (!s.own || a.f.args[i].isConst) continue;
-        for (const uint8_t* p = s.low; p < s.high; ++p)
-            if ((p < s.own || p >= s.own + s.bytes) && *p != canary) return a.f.args[i].name;
+        for (const uint8_t* p = s.low; p < s.high; ++p) {
+            const auto k = static_cast<size_t>(p - s.own);
+            if (p >= s.own && k < s.bytes) continue;
+            const bool source = s.longer && p >= s.own && k < s.longer->size();
+            if (*p != (source ? (*s.longer)[k] : canary)) return a.f.args[i].name;
+        }
     }
     return "";
 }
@@ -134,18 +197,50 @@ std::string Stage::changed(const registry::Arguments& a) const
 
 std::string difference(const registry::Arguments& a, int i, const uint8_t* expected, const uint8_t* found)
 {
-    const Arg& arg = a.f.args[i];
-    const long long n = arg.elementBytes ? static_cast<long long>(a.bytes(i)) / arg.elementBytes : 0;
     if (std::memcmp(expected, found, a.bytes(i)) == 0) return "";
-    for (long long k = 0; k < n; ++k) {
-        const uint8_t *x = expected + k * arg.elementBytes, *y = found + k * arg.elementBytes;
-        if (!sameElement(arg.element, x, y, a.f.movesBits))
-            return std::string(arg.name) + "[" + std::to_string(k) + "]: expected " + text(arg.element, x) + ", found " +
-                   text(arg.element, y);
+    const Arg& arg = a.f.args[i];
+    const bool record = arg.kind == Kind::opaque; // of bytes
+    const size_t step = record ? 1 : static_cast<size_t>(arg.elementBytes);
+    const Element element = record ? Element::u8 : arg.element;
+    for (size_t k = 0; (k + 1) * step <= a.bytes(i); ++k) {
+        const uint8_t *x = expected + k * step, *y = found + k * step;
+        if (!sameElement(element, x, y, a.f.movesBits))
+            return std::string(arg.name) + "[" + std::to_string(k) + "]: expected " + text(element, x) + ", found " +
+                   text(element, y);
+    }
+    return "";
+}
+
+Outcome outcomeOf(const registry::Arguments& a, const Stage& stage, const registry::Answer& answer)
+{
+    Outcome o = {answer, std::vector<std::vector<uint8_t>>(static_cast<size_t>(a.f.argCount))};
+    for (int i = 0; i < a.f.argCount; ++i)
+        if (isOutput(a.f.args[i]) && !a.null[i])
+            o.outputs[static_cast<size_t>(i)].assign(stage.now(i), stage.now(i) + a.bytes(i));
+    return o;
+}
+
+std::string unlike(const Outcome& expected, const registry::Arguments& a, const Stage& stage,
+                   const registry::Answer& answer)
+{
+    if (answer.status != expected.answer.status)
+        return "result " + std::to_string(expected.answer.status) + " expected, found " + std::to_string(answer.status);
+    const auto number = [](const registry::Answer& x) { return reinterpret_cast<const uint8_t*>(&x.number); };
+    if (a.f.result == registry::Result::f64 &&
+        !sameElement(Element::f64, number(expected.answer), number(answer), a.f.movesBits))
+        return "result " + text(Element::f64, number(expected.answer)) + " expected, found " +
+               text(Element::f64, number(answer));
+    for (int i = 0; i < a.f.argCount; ++i) {
+        const auto& output = expected.outputs[static_cast<size_t>(i)];
+        if (output.empty()) continue;
+        const std::string said = difference(a, i, output.data(), stage.now(i));
+        if (!said.empty()) return said;
     }
     return "";
 }
 
 bool generallyCallable(const registry::Function& f) { return std::strcmp(f.fixture, "none") != 0; }
+
+bool mayRefuse(const registry::Function& f) { return std::strstr(f.name, "GetSize") != nullptr; }
 
 } // namespace support

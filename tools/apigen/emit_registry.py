@@ -3,6 +3,11 @@ import re
 
 ELEMENTS = {"24u": "u24", "24s": "i24", "1u": "bits"}
 RESULTS = {"status": "status", "void": "none", "int": "i32", "unsigned int": "u32", "Ipp64u": "u64", "Ipp64f": "f64"}
+# Worth trying for every scale factor: the widths of the types, and where doubles and shortcuts for them end.
+SCALE_FACTORS = (
+    "0 1 2 3 5 7 8 15 16 17 31 32 33 63 64 100 -1 -2 -5 -8 -16 -31 -32 -33 "
+    "898 901 1000 1022 1024 1040 1074 1100 -898 -901 -970 -1000 -1023 -1040 2147483647 -2147483647 -2147483647-1"
+).split()
 INDEX = {"auto": "automatic", "none": "none", "only": "only", "same": "same", "written": "written"}
 
 
@@ -63,8 +68,9 @@ def argument(a, args, pool, f, number, out):
     given = a.extent and a.pointer and known(a.extent, f)
     extent = pool.add("long long", f"(long long)({over_values(a.extent, args)})") if given else "nullptr"
     domain, count = "nullptr", 0
-    if a.name in f.domains:
-        values = [pool.add("double", f"double({over_values(v, args)})") for v in f.domains[a.name]]
+    worth_trying = f.domains.get(a.name, SCALE_FACTORS if a.name == "scaleFactor" else [])
+    if worth_trying:
+        values = [pool.add("double", f"double({over_values(v, args)})") for v in worth_trying]
         domain, count = f"domain_{f.name}_{f.index}_{number}", len(values)
         out.append(f"double (*const {domain}[])(const Value*) = {{{', '.join(values)}}};\n")
     in_extent = not a.pointer and any(re.search(rf"\b{a.name}\b", b.extent) for b in args)

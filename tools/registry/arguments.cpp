@@ -101,9 +101,11 @@ bool chooseScalars(Arguments& a, Random& random, long long length, Pattern patte
     return false;
 }
 
-Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill)
+Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,
+                const Outlier& outlier)
 {
     Arguments a(f);
+    int arraysRead = 0;
     chooseScalars(a, random, length, pattern);
     measure(a);
     for (int i = 0; i < f.argCount; ++i) {
@@ -117,8 +119,12 @@ Arguments build(const Function& f, Random& random, long long length, Pattern pat
         a.content[i].resize(a.bytes(i));
         for (size_t k = 0; k < a.content[i].size(); ++k) a.content[i][k] = static_cast<uint8_t>(prefill >> k % 8 * 8);
         const bool numbers = arg.kind == Kind::array || (arg.kind == Kind::result && arg.isConst); // a value by pointer
-        if (numbers && (arg.isConst || arg.inout) && a.extent[i] > 0)
-            fill(random, arg.element, pattern, a.content[i].data(), static_cast<size_t>(a.extent[i]));
+        if (!numbers || !(arg.isConst || arg.inout) || a.extent[i] <= 0) continue;
+        fill(random, arg.element, pattern, a.content[i].data(), static_cast<size_t>(a.extent[i]));
+        const int number = arraysRead++;
+        if (outlier.position >= 0 && (outlier.array < 0 || outlier.array == number))
+            plant(random, arg.element, outlier.value,
+                  a.content[i].data() + outlier.position % a.extent[i] * elementBytes(arg.element));
     }
     if (fixtureOf(f).contents) fixtureOf(f).contents(a, random);
     return a;

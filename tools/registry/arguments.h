@@ -31,9 +31,17 @@ struct Fixture {
 };
 void addFixture(const char* name, Fixture fixture);
 
+// One element of what is read that differs from the rest: in each array, or in one of them alone.
+struct Outlier {
+    long long position = -1; // counted round and round in shorter arrays; -1: there is none
+    Special value = Special::nan;
+    int array = -1; // among those that are read; -1: each
+};
+
 // Scalars that pass all checks, arrays as long as "length" asks for (lengths in extents: that value or, where there are
 // several, values up to it), filled with the pattern. What is only written holds "prefill" again and again.
-Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill);
+Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,
+                const Outlier& outlier = {});
 
 // Gives back what a call with these arguments allocated.
 void release(const Arguments& a);
