@@ -54,7 +54,8 @@ private:
     {
         const bool refused = f_.result == registry::Result::status && answer.status < 0;
         EXPECT_EQ(answer.intrusion, "") << support::nameOf(f_) << " phase " << phase;
-        EXPECT_TRUE(refused == !a.valid() || (refused && support::mayRefuse(f_))) << support::nameOf(f_) << " answers " << answer.status;
+        EXPECT_TRUE(refused == !a.valid() || (refused && support::mayRefuse(f_)))
+            << support::nameOf(f_) << " answers " << answer.status;
         ++(refused ? tally_.refused : tally_.answered);
     }
 

@@ -199,10 +199,11 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
 {
     if (std::memcmp(expected, found, a.bytes(i)) == 0) return "";
     const Arg& arg = a.f.args[i];
-    const bool record = arg.kind == Kind::opaque; // of bytes
-    const size_t step = record ? 1 : static_cast<size_t>(arg.elementBytes);
-    const Element element = record ? Element::u8 : arg.element;
-    for (size_t k = 0; (k + 1) * step <= a.bytes(i); ++k) {
+    const bool record = arg.kind == Kind::opaque; // as words, which may be doubles, and what is left of a word
+    const size_t step = record ? 8 : static_cast<size_t>(arg.elementBytes), n = a.bytes(i) / step;
+    const Element element = record ? Element::f64 : arg.element;
+    if (std::memcmp(expected + n * step, found + n * step, a.bytes(i) % step)) return std::string(arg.name) + " at its end";
+    for (size_t k = 0; k < n; ++k) {
         const uint8_t *x = expected + k * step, *y = found + k * step;
         if (!sameElement(element, x, y, a.f.movesBits))
             return std::string(arg.name) + "[" + std::to_string(k) + "]: expected " + text(element, x) + ", found " +

@@ -112,7 +112,9 @@ private:
     {
         for (int i = 0; i < f_.argCount; ++i) {
             const registry::Arg& arg = f_.args[i];
-            if (a.null[i] || arg.inout || !(support::isOutput(arg) || arg.kind == registry::Kind::work)) continue;
+            // A record keeps what lay where it has nothing to say.
+            const bool written = support::isOutput(arg) && arg.kind != registry::Kind::opaque;
+            if (a.null[i] || arg.inout || !(written || arg.kind == registry::Kind::work)) continue;
             for (size_t k = 0; k < a.content[i].size(); ++k) a.content[i][k] = static_cast<uint8_t>(prefill >> k % 8 * 8);
         }
     }
@@ -150,7 +152,9 @@ private:
             said += "refuses valid arguments with " + std::to_string(answer.status);
         const std::string stray = stage_.strayWrite(a);
         if (!stray.empty()) said += "writes outside of " + stray;
-        if (said.empty()) said = support::unlike(expected, a, stage_, answer);
+        if (said.empty() && answer.status != expected.answer.status)
+            said = "answers " + std::to_string(answer.status) + " instead of " + std::to_string(expected.answer.status);
+        if (said.empty()) said = refused(answer) ? stage_.changed(a) : support::unlike(expected, a, stage_, answer);
         if (said.empty() || !fault_.empty()) return;
 
         fault_ = support::nameOf(f_) + " in " + bodies_[body].code + ": " + said + ";";
@@ -192,12 +196,13 @@ private:
 support::Places placesOf(int arguments, long long length, int round, int side)
 {
     support::Places places(static_cast<size_t>(arguments));
+    const int others = round - round / 8; // counts the rounds in which not all lie flush
     for (int i = 0; i < arguments; ++i) {
         // Mixed bits of all that identifies the place.
         uint64_t x = static_cast<uint64_t>(((length * 4096 + round) * 2 + side) * 32 + i + 1) * 0x9E3779B97F4A7C15u;
         x = (x ^ x >> 32) * 0xD6E8FEB86659FD93u;
         x ^= x >> 32;
-        const bool flush = round % 8 == 0 || (length + round) % (arguments + 1) == i;
+        const bool flush = round % 8 == 0 || (length + others) % (arguments + 1) == i;
         places[static_cast<size_t>(i)] = flush ? support::Place{side == 0, 0}
                                                : support::Place{(x >> 8 & 1) == 0, static_cast<int>(x % 64)};
     }

@@ -58,5 +58,5 @@ TEST(Variants, EverySlotHoldsItsOwnBodyOrTheNearestLowerOne)
     }
     std::printf("%d functions, %d bodies\n", functions, bodies);
     EXPECT_GE(functions, 500);
-    EXPECT_GE(bodies, 2000);
+    EXPECT_GE(bodies, 1500);
 }
