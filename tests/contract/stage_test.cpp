@@ -85,8 +85,8 @@ TEST(Stage, SharesPairsAloneAndTogether)
 // More than a 32-bit process could hold at a time.
 TEST(GuardedRegion, GivesItsAddressesBack)
 {
-    for (int i = 0; i < 3000; ++i) {
-        support::GuardedRegion region(300000);
+    for (int i = 0; i < 300; ++i) {
+        support::GuardedRegion region(4 << 20);
         region.own()[region.size() - 1] = static_cast<uint8_t>(i);
         ASSERT_EQ(region.readOnly()[region.size() - 1], static_cast<uint8_t>(i));
     }
