@@ -83,7 +83,8 @@ TEST(Calls, LeaveRegistersStackAndModesAsTheyFoundThem)
             support::force(v);
             probe.run();
         }
-        EXPECT_GE(tally.answered - before, static_cast<long long>(variants.size()) * 2) << f.name << " is hardly tested";
+        EXPECT_GE(tally.answered - before, static_cast<long long>(variants.size()) * 2)
+            << f.name << " is hardly tested";
         ++tally.functions;
         tally.forms += probe.forms();
     }

@@ -12,7 +12,9 @@ using registry::Function;
 using registry::Value;
 
 // An int function of one int, as the registry would describe it.
-const Arg number = {"n", registry::Kind::scalar, registry::Element::none, 0, 0, false, false, false, false, false, nullptr, 4, nullptr, 0};
+const Arg number = {
+    "n", registry::Kind::scalar, registry::Element::none, 0, 0, false, false, false, false, false, nullptr, 4, nullptr,
+    0};
 Function described()
 {
     Function f = {};

@@ -1,4 +1,5 @@
-// The _Idx rule: the same call with pointers moved by index times unit, work buffers by bytes and only when there are any.
+// The _Idx rule: the same call with pointers moved by index times unit, work buffers by bytes and only when there are
+// any.
 #include "support/stage.h"
 #include <cstring>
 #include <gtest/gtest.h>
@@ -19,22 +20,35 @@ int unitOf(Element e)
     case Element::i8:
     case Element::bits:
     case Element::u24:
-    case Element::i24: return sizeof(Ipp8u);
+    case Element::i24:
+        return sizeof(Ipp8u);
     case Element::u16:
-    case Element::i16: return sizeof(Ipp16s);
-    case Element::f16: return sizeof(Ipp16f);
-    case Element::c16s: return sizeof(Ipp16sc);
+    case Element::i16:
+        return sizeof(Ipp16s);
+    case Element::f16:
+        return sizeof(Ipp16f);
+    case Element::c16s:
+        return sizeof(Ipp16sc);
     case Element::u32:
-    case Element::i32: return sizeof(Ipp32s);
-    case Element::f32: return sizeof(Ipp32f);
-    case Element::c32s: return sizeof(Ipp32sc);
-    case Element::c32f: return sizeof(Ipp32fc);
+    case Element::i32:
+        return sizeof(Ipp32s);
+    case Element::f32:
+        return sizeof(Ipp32f);
+    case Element::c32s:
+        return sizeof(Ipp32sc);
+    case Element::c32f:
+        return sizeof(Ipp32fc);
     case Element::u64:
-    case Element::i64: return sizeof(Ipp64s);
-    case Element::f64: return sizeof(Ipp64f);
-    case Element::c64s: return sizeof(Ipp64sc);
-    case Element::c64f: return sizeof(Ipp64fc);
-    case Element::none: break;
+    case Element::i64:
+        return sizeof(Ipp64s);
+    case Element::f64:
+        return sizeof(Ipp64f);
+    case Element::c64s:
+        return sizeof(Ipp64sc);
+    case Element::c64f:
+        return sizeof(Ipp64fc);
+    case Element::none:
+        break;
     }
     return 0;
 }

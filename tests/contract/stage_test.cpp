@@ -29,7 +29,10 @@ struct Scene {
     }
 };
 
-uint8_t* bytes(const registry::Arguments& a, int i) { return static_cast<uint8_t*>(a.values[static_cast<size_t>(i)].p); }
+uint8_t* bytes(const registry::Arguments& a, int i)
+{
+    return static_cast<uint8_t*>(a.values[static_cast<size_t>(i)].p);
+}
 
 } // namespace
 
@@ -38,7 +41,8 @@ TEST(Stage, SeesEveryByteAroundAnArray)
     const Scene scene;
     registry::Arguments a = scene.arguments();
     support::Stage stage;
-    for (support::Place place : {support::Place{true, 0}, support::Place{true, 9}, support::Place{false, 0}, support::Place{false, 9}})
+    for (support::Place place :
+         {support::Place{true, 0}, support::Place{true, 9}, support::Place{false, 0}, support::Place{false, 9}})
         for (int at = -9; at < 12 + 9; ++at) {
             const bool inside = at >= 0 && at < 12, guarded = place.offset == 0 && !inside && place.atEnd == (at > 0);
             if (guarded) continue; // the process would end here

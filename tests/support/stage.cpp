@@ -202,7 +202,8 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
     const bool record = arg.kind == Kind::opaque; // as words, which may be doubles, and what is left of a word
     const size_t step = record ? 8 : static_cast<size_t>(arg.elementBytes), n = a.bytes(i) / step;
     const Element element = record ? Element::f64 : arg.element;
-    if (std::memcmp(expected + n * step, found + n * step, a.bytes(i) % step)) return std::string(arg.name) + " at its end";
+    if (std::memcmp(expected + n * step, found + n * step, a.bytes(i) % step))
+        return std::string(arg.name) + " at its end";
     for (size_t k = 0; k < n; ++k) {
         const uint8_t *x = expected + k * step, *y = found + k * step;
         if (!sameElement(element, x, y, a.f.movesBits))

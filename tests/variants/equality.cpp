@@ -122,7 +122,8 @@ private:
             // A record keeps what lay where it has nothing to say.
             const bool written = support::isOutput(arg) && arg.kind != registry::Kind::opaque;
             if (a.null[i] || arg.inout || !(written || arg.kind == registry::Kind::work)) continue;
-            for (size_t k = 0; k < a.content[i].size(); ++k) a.content[i][k] = static_cast<uint8_t>(prefill >> k % 8 * 8);
+            for (size_t k = 0; k < a.content[i].size(); ++k)
+                a.content[i][k] = static_cast<uint8_t>(prefill >> k % 8 * 8);
         }
     }
 
@@ -210,8 +211,8 @@ support::Places placesOf(int arguments, long long length, int round, int side)
         x = (x ^ x >> 32) * 0xD6E8FEB86659FD93u;
         x ^= x >> 32;
         const bool flush = round % 8 == 0 || (length + others) % (arguments + 1) == i;
-        places[static_cast<size_t>(i)] = flush ? support::Place{side == 0, 0}
-                                               : support::Place{(x >> 8 & 1) == 0, static_cast<int>(x % 64)};
+        places[static_cast<size_t>(i)] =
+            flush ? support::Place{side == 0, 0} : support::Place{(x >> 8 & 1) == 0, static_cast<int>(x % 64)};
     }
     return places;
 }

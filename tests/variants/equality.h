@@ -8,16 +8,16 @@ namespace variants {
 
 struct Pass {
     std::vector<long long> lengths; // empty: 0 to 67, and around powers of two up to 4096
-    double share = 1; // of the usual number of rounds for a length
-    bool specialValues = false; // arrays of ordinary numbers with one special value, once at every position
-    long long leastCalls = 100; // that a body must answer; a body that refuses its calls is not tested
+    double share = 1;               // of the usual number of rounds for a length
+    bool specialValues = false;     // arrays of ordinary numbers with one special value, once at every position
+    long long leastCalls = 100;     // that a body must answer; a body that refuses its calls is not tested
     std::function<bool(const registry::Function&)> includes; // empty: every function
     std::function<void()> afterSelecting; // follows every selection of a variant, which resets what belongs to it
 };
 
 struct Tally {
     int functions = 0, bodies = 0;
-    long long calls = 0; // answered, each compared
+    long long calls = 0;   // answered, each compared
     long long inPlace = 0; // of them
     long long skipped = 0; // sets of arguments that the function's checks refuse
     long long fewest = -1; // calls that any one body answered

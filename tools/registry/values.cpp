@@ -93,7 +93,9 @@ T special(Random& r, Special s)
     using L = std::numeric_limits<T>;
     switch (s) {
     case Special::nan: return L::has_quiet_NaN ? L::quiet_NaN() : L::lowest();
-    case Special::infinite: return !L::has_infinity ? L::max() : r.oneIn(2) ? L::infinity() : static_cast<T>(-L::infinity());
+    case Special::infinite:
+        if (!L::has_infinity) return L::max();
+        return r.oneIn(2) ? L::infinity() : static_cast<T>(-L::infinity());
     case Special::zero: return L::has_infinity && r.oneIn(2) ? static_cast<T>(-T(0)) : T(0);
     default: return static_cast<T>(-3);
     }
