@@ -1,6 +1,8 @@
-sig5d_test(contract contract/exports_test.cpp contract/calls_test.cpp contract/checks_test.cpp contract/index_test.cpp)
-sig5d_test(variants variants/equality_test.cpp variants/streams_test.cpp variants/streams.cpp variants/digest_test.cpp)
-set_source_files_properties(variants/equality_test.cpp PROPERTIES COMPILE_OPTIONS -O2) # millions of calls
+sig5d_test(contract contract/exports_test.cpp contract/calls_test.cpp contract/checks_test.cpp contract/index_test.cpp
+           contract/checked_call_test.cpp contract/stage_test.cpp)
+sig5d_test(variants variants/equality.cpp variants/equality_test.cpp variants/streams.cpp variants/streams_test.cpp
+           variants/slots_test.cpp variants/digest_test.cpp)
+set_source_files_properties(variants/equality.cpp PROPERTIES COMPILE_OPTIONS -O2) # millions of calls
 
 # What no program of the library's own can see: the built objects.
 if(NOT SIG5D_SANITIZE AND NOT SIG5D_COVERAGE)

@@ -58,7 +58,7 @@ template <class D> long double expectedInteger(long double x, int mode, int s)
     return rounded < D::low() ? D::low() : rounded > D::high() ? D::high() : rounded;
 }
 
-constexpr int extremeScales[] = {127, 149, 253, 1023, 1075, 2045, 5000, 2147483647};
+constexpr int extremeScales[] = {127, 149, 253, 500, 899, 900, 901, 970, 1000, 1023, 1075, 2045, 5000, 2147483647};
 
 std::vector<int> scales()
 {
@@ -297,7 +297,7 @@ TEST(Convert, IntegersToScaledDoubles)
     inEveryVariant([] {
         int turn = 0;
         std::vector<int> all = scales();
-        for (int s = 1040; s < 1110; ++s) all.push_back(s); // where results leave the normal numbers
+        for (int s = -1110; s < 1110; ++s) all.push_back(s); // until results leave the normal numbers
         for (int s : all) {
             const int n = lengths[turn++ % 17];
             const Bytes a = integers<I16>(n), b = integers<I32>(n);

@@ -1,11 +1,11 @@
 #include "support/arena.h"
 #include <cstdio>
 #include <cstdlib>
+#include <initializer_list>
 #ifdef _WIN32
 #include <windows.h>
 #else
 #include <csignal>
-#include <initializer_list>
 #include <sys/mman.h>
 #include <unistd.h>
 #endif
@@ -36,6 +36,11 @@ uint8_t* view(HANDLE mapping, size_t bytes, bool writable)
     return base + granule;
 }
 
+void unmap(uint8_t* middle, size_t)
+{
+    if (!UnmapViewOfFile(middle - granule)) fail("not unmapped");
+}
+
 LONG CALLBACK handler(EXCEPTION_POINTERS* info)
 {
     const EXCEPTION_RECORD* r = info->ExceptionRecord;
@@ -57,6 +62,11 @@ uint8_t* view(int file, size_t bytes, bool writable)
     const int access = writable ? PROT_READ | PROT_WRITE : PROT_READ;
     if (mmap(middle, bytes, access, MAP_SHARED | MAP_FIXED, file, 0) == MAP_FAILED) fail("no mapping");
     return middle;
+}
+
+void unmap(uint8_t* middle, size_t bytes)
+{
+    if (munmap(middle - granule, bytes + 2 * granule)) fail("not unmapped");
 }
 
 void handler(int signal, siginfo_t* info, void*)
@@ -87,6 +97,11 @@ GuardedRegion::GuardedRegion(size_t bytes) : size_((bytes + granule - 1) / granu
 #else
     close(file);
 #endif
+}
+
+GuardedRegion::~GuardedRegion()
+{
+    for (uint8_t* view : {own_, readWrite_, readOnly_}) unmap(view, size_);
 }
 
 void GuardedRegion::lock(bool locked) const

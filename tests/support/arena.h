@@ -9,6 +9,7 @@ namespace support {
 class GuardedRegion {
 public:
     explicit GuardedRegion(size_t bytes);
+    ~GuardedRegion(); // a 32-bit process has no addresses for the regions of a thousand functions
     GuardedRegion(const GuardedRegion&) = delete;
     GuardedRegion& operator=(const GuardedRegion&) = delete;
 

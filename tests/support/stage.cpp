@@ -14,8 +14,34 @@ using registry::Kind;
 constexpr size_t canaryBytes = 64;
 constexpr uint8_t canary = 0xA5;
 
-std::string context;
-const char* describeCall() { return context.c_str(); }
+// The call under way, for what is said of a fault.
+thread_local const registry::Arguments* running = nullptr;
+class Running {
+public:
+    explicit Running(const registry::Arguments& a);
+    ~Running() { running = nullptr; }
+};
+
+const char* describeCall()
+{
+    if (!running) return "no call";
+    static std::string text;
+    text = nameOf(running->f) + " variant " + current().code;
+    for (int i = 0; i < running->f.argCount; ++i) {
+        const registry::Value& v = running->values[i];
+        char piece[96];
+        std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", running->f.args[i].name, v.i, v.p, running->extent[i]);
+        text += piece;
+    }
+    return text.c_str();
+}
+
+Running::Running(const registry::Arguments& a)
+{
+    static const bool installed = (onFault(describeCall), true);
+    (void)installed;
+    running = &a;
+}
 
 template <class F>
 bool sameNumber(const uint8_t* a, const uint8_t* b)
@@ -57,7 +83,28 @@ std::string text(Element e, const uint8_t* p)
 
 } // namespace
 
-bool isOutput(const Arg& arg) { return !arg.isConst && (arg.kind == Kind::array || arg.kind == Kind::result); }
+bool isOutput(const Arg& arg)
+{
+    return !arg.isConst && (arg.kind == Kind::array || arg.kind == Kind::result);
+}
+
+std::vector<Shared> sharings(const registry::Function& f)
+{
+    std::vector<Shared> all;
+    for (int k = 0; k < f.inPlaceCount; ++k) all.push_back({f.inPlace[k]});
+    for (int first = 0; first < f.inPlaceCount; ++first) {
+        Shared together = {f.inPlace[first]};
+        for (int k = first + 1; k < f.inPlaceCount; ++k) {
+            const registry::InPlace pair = f.inPlace[k];
+            if (std::none_of(together.begin(), together.end(), [&](const registry::InPlace& other) {
+                    return other.destination == pair.destination || other.source == pair.source;
+                }))
+                together.push_back(pair);
+        }
+        if (together.size() > 1) all.push_back(together);
+    }
+    return all;
+}
 
 GuardedRegion& Stage::region(size_t index, size_t bytes)
 {
@@ -81,6 +128,11 @@ Stage::Spot Stage::spot(GuardedRegion& r, size_t bytes, Place place)
 
 void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* shared)
 {
+    putEach(a, Places(static_cast<size_t>(a.f.argCount), place), shared ? Shared{*shared} : Shared{});
+}
+
+void Stage::putEach(registry::Arguments& a, const Places& places, const Shared& shared)
+{
     const registry::Function& f = a.f;
     releaseStates();
     spots_.assign(static_cast<size_t>(f.argCount), {});
@@ -91,20 +143,27 @@ void Stage::put(registry::Arguments& a, Place place, const registry::InPlace* sh
         a.values[i].p = nullptr;
         if (a.null[i]) continue;
         if (arg.makers) {
-            putState(a, i, place);
+            putState(a, i, places[i]);
             continue;
         }
         size_t bytes = a.content[i].size();
-        if (shared && shared->source == i) bytes = std::max(bytes, a.content[shared->destination].size());
+        bool writable = !arg.isConst;
+        for (const registry::InPlace& pair : shared)
+            if (pair.source == i) {
+                bytes = std::max(bytes, a.content[pair.destination].size());
+                writable = true;
+            }
         GuardedRegion& r = region(static_cast<size_t>(i), bytes + 2 * canaryBytes + 4096);
-        spots_[i] = spot(r, bytes, place);
-        const bool writable = !arg.isConst || (shared && shared->source == i);
+        spots_[i] = spot(r, bytes, places[i]);
         a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + (spots_[i].own - r.own());
         write(a, i);
     }
-    if (shared) {
-        spots_[shared->destination] = spots_[shared->source];
-        a.values[shared->destination].p = a.values[shared->source].p;
+    for (const registry::InPlace& pair : shared) {
+        Spot& spot = spots_[pair.destination];
+        spot = spots_[pair.source];
+        spot.bytes = a.content[pair.destination].size();
+        spot.longer = &a.content[pair.source];
+        a.values[pair.destination].p = a.values[pair.source].p;
     }
 }
 
@@ -115,7 +174,7 @@ void Stage::write(const registry::Arguments& a, int i)
     if (!s.own || a.content[i].empty()) return;
     std::memcpy(s.own, a.content[i].data(), a.content[i].size());
     ++writes_;
-    if (a.f.args[i].rows && a.f.args[i].isConst && !shared_)
+    if (a.f.args[i].rows && a.f.args[i].isConst && shared_.empty())
         for (size_t k = 0; k < a.content[i].size(); ++k)
             if (a.inGap(i, k)) s.own[k] = static_cast<uint8_t>(writes_ * 37);
 }
@@ -123,7 +182,8 @@ void Stage::write(const registry::Arguments& a, int i)
 void Stage::refresh(const registry::Arguments& a)
 {
     for (int i = 0; i < a.f.argCount; ++i)
-        if (!shared_ || shared_->destination != i) write(a, i);
+        if (std::none_of(shared_.begin(), shared_.end(), [=](const auto& pair) { return pair.destination == i; }))
+            write(a, i);
     for (const State& s : states_) { // as the last call left it
         const Spot& at = spots_[s.argument];
         if (at.own) spots_[s.argument].made.assign(at.own, at.own + at.bytes);
@@ -170,35 +230,27 @@ void Stage::releaseStates()
 
 registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int stackPhase)
 {
-    static const bool installed = (onFault(describeCall), true);
-    (void)installed;
-    context = nameOf(a.f) + " variant " + current().code;
-    for (int i = 0; i < a.f.argCount; ++i) {
-        char piece[96];
-        std::snprintf(piece, sizeof piece, " %s=%lld/%p(%lld)", a.f.args[i].name, a.values[i].i, a.values[i].p, a.extent[i]);
-        context += piece;
-    }
     const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
-    if (a.f.index == registry::IndexForm::only) return callIndexed(a, entry, a.values.data(), zeros.data(), stackPhase);
-    const auto answer = registry::invoke(entry, a.f, a.values.data(), stackPhase);
-    settle(a, answer);
-    return answer;
+    if (a.f.index == registry::IndexForm::only)
+        return callIndexed(a, entry, a.values.data(), zeros.data(), stackPhase);
+    const Running described(a);
+    return settled(a, registry::invoke(entry, a.f, a.values.data(), stackPhase));
 }
 
 registry::Answer Stage::callIndexed(const registry::Arguments& a, registry::Entry entry, const registry::Value* values,
                                     const int* indexes, int stackPhase)
 {
-    const auto answer = registry::invokeIndexed(entry, a.f, values, indexes, stackPhase);
-    settle(a, answer);
-    return answer;
+    const Running described(a);
+    return settled(a, registry::invokeIndexed(entry, a.f, values, indexes, stackPhase));
 }
 
 // What the call made and nobody will use is released; what it released is not released again.
-void Stage::settle(const registry::Arguments& a, const registry::Answer& answer)
+registry::Answer Stage::settled(const registry::Arguments& a, const registry::Answer& answer)
 {
     registry::releaseMade(a.f, a.values.data(), answer);
     for (State& s : states_)
         if (registry::releasesState(a.f) && a.values[s.argument].p == s.made->pointer()) s.made->forget();
+    return answer;
 }
 
 std::string Stage::strayWrite(const registry::Arguments& a) const
@@ -206,8 +258,12 @@ std::string Stage::strayWrite(const registry::Arguments& a) const
     for (size_t i = 0; i < spots_.size(); ++i) {
         const Spot& s = spots_[i];
         if (!s.own || (a.f.args[i].isConst && s.made.empty())) continue;
-        for (const uint8_t* p = s.low; p < s.high; ++p)
-            if ((p < s.own || p >= s.own + s.bytes || a.inGap(static_cast<int>(i), static_cast<size_t>(p - s.own))) && *p != canary) return a.f.args[i].name;
+        for (const uint8_t* p = s.low; p < s.high; ++p) {
+            const auto k = static_cast<size_t>(p - s.own);
+            if (p >= s.own && k < s.bytes && !a.inGap(static_cast<int>(i), k)) continue;
+            const bool source = s.longer && p >= s.own && k < s.longer->size();
+            if (*p != (source ? (*s.longer)[k] : canary)) return a.f.args[i].name;
+        }
     }
     return "";
 }
@@ -225,11 +281,11 @@ std::string Stage::changed(const registry::Arguments& a) const
 
 std::string difference(const registry::Arguments& a, int i, const uint8_t* expected, const uint8_t* found)
 {
-    const Arg& arg = a.f.args[i];
-    const long long n = arg.elementBytes ? static_cast<long long>(a.bytes(i)) / arg.elementBytes : 0;
     if (std::memcmp(expected, found, a.bytes(i)) == 0) return "";
-    for (long long k = 0; k < n; ++k) {
-        const uint8_t *x = expected + k * arg.elementBytes, *y = found + k * arg.elementBytes;
+    const Arg& arg = a.f.args[i];
+    const size_t step = static_cast<size_t>(arg.elementBytes), n = a.bytes(i) / step;
+    for (size_t k = 0; k < n; ++k) {
+        const uint8_t *x = expected + k * step, *y = found + k * step;
         if (!sameElement(arg.element, x, y, a.f.movesBits))
             return std::string(arg.name) + "[" + std::to_string(k) + "]: expected " + text(arg.element, x) + ", found " +
                    text(arg.element, y);
@@ -237,6 +293,36 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
     return "";
 }
 
+Outcome outcomeOf(const registry::Arguments& a, const Stage& stage, const registry::Answer& answer)
+{
+    Outcome o = {answer, std::vector<std::vector<uint8_t>>(static_cast<size_t>(a.f.argCount))};
+    for (int i = 0; i < a.f.argCount; ++i)
+        if (isOutput(a.f.args[i]) && !a.null[i])
+            o.outputs[static_cast<size_t>(i)].assign(stage.now(i), stage.now(i) + a.bytes(i));
+    return o;
+}
+
+std::string unlike(const Outcome& expected, const registry::Arguments& a, const Stage& stage,
+                   const registry::Answer& answer)
+{
+    if (answer.status != expected.answer.status)
+        return "result " + std::to_string(expected.answer.status) + " expected, found " + std::to_string(answer.status);
+    const auto number = [](const registry::Answer& x) { return reinterpret_cast<const uint8_t*>(&x.number); };
+    if (a.f.result == registry::Result::f64 &&
+        !sameElement(Element::f64, number(expected.answer), number(answer), a.f.movesBits))
+        return "result " + text(Element::f64, number(expected.answer)) + " expected, found " +
+               text(Element::f64, number(answer));
+    for (int i = 0; i < a.f.argCount; ++i) {
+        const auto& output = expected.outputs[static_cast<size_t>(i)];
+        if (output.empty()) continue;
+        const std::string said = difference(a, i, output.data(), stage.now(i));
+        if (!said.empty()) return said;
+    }
+    return "";
+}
+
 bool generallyCallable(const registry::Function& f) { return !*f.untested; }
+
+bool mayRefuse(const registry::Function& f) { return std::strstr(f.name, "GetSize") != nullptr; }
 
 } // namespace support

@@ -5,6 +5,11 @@ from building import occurs
 
 ELEMENTS = {"24u": "u24", "24s": "i24", "1u": "bits"}
 RESULTS = {"status": "status", "void": "none", "int": "i32", "unsigned int": "u32", "Ipp64u": "u64", "Ipp64f": "f64"}
+# Worth trying for every scale factor: the widths of the types, and where doubles and shortcuts for them end.
+SCALE_FACTORS = (
+    "0 1 2 3 5 7 8 15 16 17 31 32 33 63 64 100 -1 -2 -5 -8 -16 -31 -32 -33 "
+    "898 901 1000 1022 1024 1040 1074 1100 -898 -901 -970 -1000 -1023 -1040 2147483647 -2147483647 -2147483647-1"
+).split()
 INDEX = {"auto": "automatic", "none": "none", "only": "only", "same": "same", "written": "written"}
 
 
@@ -134,7 +139,7 @@ class Writer:
             makers.append(f"{{{self.exports.number(m.function)}, {self.listed('Fixed', f'fixed_{number}_{k}', fixed)}}}")
         flags = [a.const, a.inout, a.optional, a.base == "unsigned int", not a.pointer and self.scales(a.name), late]
         size, unit = (a.type.size, a.type.unit) if a.type else (0, 0)
-        domain = f.domains.get(a.name, [])
+        domain = f.domains.get(a.name, SCALE_FACTORS if a.name == "scaleFactor" else [])
         later = any(occurs(b.name, value) for b in f.args[number + 1 :] for value in domain)
         return (
             f"{{{quoted(a.name)}, Kind::{a.kind}, Element::{element}, {size}, {unit}, "

@@ -62,7 +62,7 @@ void chooseStates(Arguments& a, Random& random, long long length)
         const Pattern pattern = random.oneIn(4) ? Pattern::adversarial : Pattern::tame;
         if (lengthsOf(a.f)) length = 1 + random.below(random.oneIn(3) ? 150 : 24);
         a.made[i] = std::make_shared<Arguments>(
-            build(begin()[maker.function], random, length ? length : 1, pattern, random.bits(), &maker));
+            build(begin()[maker.function], random, length ? length : 1, pattern, random.bits(), {}, &maker));
     }
 }
 
@@ -166,6 +166,18 @@ void fillArgument(Arguments& a, int i, Random& random, Pattern pattern, uint64_t
         if (a.inGap(i, k)) a.content[i][k] = 0xA5;
 }
 
+// Elements are counted without the gaps between rows.
+void plantIn(Arguments& a, int i, int number, const Outlier& outlier, Random& random)
+{
+    if (outlier.position < 0 || (outlier.array >= 0 && outlier.array != number)) return;
+    const Arg& arg = a.f.args[i];
+    const Value* v = a.values.data();
+    const long long size = elementBytes(arg.element), row = arg.rows ? arg.rows->width(v) / size : a.extent[i];
+    const long long at = outlier.position % (arg.rows ? row * arg.rows->count(v) : row);
+    plant(random, arg.element, outlier.value,
+          a.content[i].data() + (arg.rows ? at / row * arg.rows->step(v) : 0) + at % row * size);
+}
+
 // Where only the call itself tells how much it writes: the extents of a trial with enough room.
 void tryExtents(Arguments& a)
 {
@@ -229,15 +241,19 @@ void Arguments::prefill(int i, uint64_t pattern)
 }
 
 Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,
-                const Maker* maker)
+                const Outlier& outlier, const Maker* maker)
 {
     Arguments a(f);
+    int arraysRead = 0;
     chooseStates(a, random, length);
     chooseScalars(a, random, length, pattern, maker);
     for (bool late : {false, true}) {
         if (late) measure(a, late);
-        for (int i = 0; i < f.argCount; ++i)
-            if (isPointer(f.args[i]) && f.args[i].late == late) fillArgument(a, i, random, pattern, prefill);
+        for (int i = 0; i < f.argCount; ++i) {
+            if (!isPointer(f.args[i]) || f.args[i].late != late) continue;
+            fillArgument(a, i, random, pattern, prefill);
+            if (isRead(f.args[i]) && a.extent[i] > 0) plantIn(a, i, arraysRead++, outlier, random);
+        }
         if (!late) keepToRules(a, random);
     }
     tryExtents(a);

@@ -27,11 +27,18 @@ struct Arguments {
     void prefill(int argument, uint64_t pattern);
 };
 
+// One element of what is read that differs from the rest: in each array, or in one of them alone.
+struct Outlier {
+    long long position = -1; // counted round and round in shorter arrays; -1: there is none
+    Special value = Special::nan;
+    int array = -1; // among those that are read; -1: each
+};
+
 // Scalars that pass all checks, arrays as long as "length" asks for (lengths in extents: that value or, where there are
 // several, values up to it), filled with the pattern. What is only written holds "prefill". A function all of whose
 // lengths are those of its state gets a state of that length. With "maker" some scalars are given.
 Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,
-                const Maker* maker = nullptr);
+                const Outlier& outlier = {}, const Maker* maker = nullptr);
 
 // The same call on the data that follow: new contents for what is read, the same states.
 void further(Arguments& a, Random& random, Pattern pattern);

@@ -1,14 +1,26 @@
 /* void checked_call(CheckedCall*): calls a function with the given argument words at a given stack alignment, from
-   registers with known content, and records what it leaves behind. Offsets as in checked_call.h. Not reentrant: the
-   frame's address survives the call in one static word, whatever the callee does to registers and stack. */
+   registers with known content, and records what it leaves behind. Offsets as in checked_call.h.
+
+   The record's address survives the call in a word of the thread's own, whatever the callee does to registers and
+   stack. What stood there before is kept in the record, so that calls may nest. Windows has such a word for programs
+   at hand; what it uses it for itself, it puts back. */
 
 #ifdef __ELF__
     .section .note.GNU-stack, "", @progbits
 #endif
-    .bss
+#ifdef __ELF__
+    .section .tbss, "awT", @nobits
     .p2align 3
 current:
     .skip 8
+#ifdef __x86_64__
+#define CURRENT %fs:current@tpoff
+#else
+#define CURRENT %gs:current@ntpoff
+#endif
+#else
+#define CURRENT %fs:0x14
+#endif
     .text
 
 #if defined(__i386__)
@@ -24,7 +36,9 @@ _checked_call:
     pushl %esi
     pushl %edi
     movl 20(%esp), %eax
-    movl %eax, current
+    movl CURRENT, %ecx
+    movl %ecx, 92(%eax)
+    movl %eax, CURRENT
     movl %esp, 36(%eax)
     stmxcsr 68(%eax)
     fnstcw 76(%eax)
@@ -49,9 +63,11 @@ _checked_call:
     movl $0x44b9b9b4, %ebp
     movl $0x55555555, %ecx
     call *%edx
-    movl current, %ecx
+    movl CURRENT, %ecx
     movl %eax, 20(%ecx)
     movl %edx, 24(%ecx)
+    movl 92(%ecx), %eax
+    movl %eax, CURRENT
     movl %esp, 44(%ecx)
     movl %ebx, 48(%ecx)
     movl %esi, 52(%ecx)
@@ -100,7 +116,9 @@ checked_call:
     pushq %r14
     pushq %r15
     movq %rdi, %rax
-    movq %rax, current(%rip)
+    movq CURRENT, %rcx
+    movq %rcx, 296(%rax)
+    movq %rax, CURRENT
     movq %rsp, 72(%rax)
     stmxcsr 136(%rax)
     fnstcw 152(%rax)
@@ -140,9 +158,11 @@ checked_call:
     movq $0x66151516, %r15
     movl $8, %eax
     call *%r10
-    movq current(%rip), %rcx
+    movq CURRENT, %rcx
     movq %rax, 40(%rcx)
     movq %rdx, 48(%rcx)
+    movq 296(%rcx), %rax
+    movq %rax, CURRENT
     movsd %xmm0, 56(%rcx)
     movq %rsp, 88(%rcx)
     movq %rbx, 96(%rcx)

@@ -1,4 +1,5 @@
 // A call by argument words, from known registers, at a chosen stack alignment, with a record of what it leaves behind.
+// Calls may run in several threads and one inside another.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -22,7 +23,7 @@ struct CheckedCall {
     uint32_t controlBefore, controlAfter; // 76: x87
     uint32_t tags; // 84: x87, 0xffff: all empty
     uintptr_t avx; // 88: look at the upper halves of the AVX registers
-    uintptr_t unused; // 92
+    uintptr_t outer; // 92: the record of the call that this one is made from
     uint8_t upper[8][16]; // 96
 } __attribute__((packed));
 inline constexpr uintptr_t savedPattern[4] = {0x11b0b0b1, 0x22515152, 0x33d1d1d3, 0x44b9b9b4};
@@ -46,7 +47,7 @@ struct CheckedCall {
     uintptr_t avx; // 176
     double floats[8]; // 184
     uintptr_t integers[6]; // 248
-    uintptr_t unused4; // 296
+    uintptr_t outer; // 296: the record of the call that this one is made from
     uint8_t upper[16][16]; // 304
 };
 inline constexpr uintptr_t savedPattern[5] = {0x11b0b0b1, 0x22b9b9b4, 0x33121213, 0x44131314, 0x55141415};

@@ -87,6 +87,30 @@ void fillWith(uint8_t* bytes, size_t n, Make make)
     }
 }
 
+template <class T>
+T special(Random& r, Special s)
+{
+    using L = std::numeric_limits<T>;
+    switch (s) {
+    case Special::nan: return L::has_quiet_NaN ? L::quiet_NaN() : L::lowest();
+    case Special::infinite:
+        if (!L::has_infinity) return L::max();
+        return r.oneIn(2) ? L::infinity() : static_cast<T>(-L::infinity());
+    case Special::zero: return L::has_infinity && r.oneIn(2) ? static_cast<T>(-T(0)) : T(0);
+    default: return static_cast<T>(-3);
+    }
+}
+
+template <class T>
+void plantParts(Random& r, Special s, uint8_t* at, int parts)
+{
+    const long long which = parts == 1 ? 1 : 1 + r.below(3); // the real part, the imaginary part, both
+    for (int i = 0; i < parts; ++i) {
+        const T x = special<T>(r, s);
+        if (which >> i & 1) std::memcpy(at + static_cast<size_t>(i) * sizeof x, &x, sizeof x);
+    }
+}
+
 } // namespace
 
 int elementBytes(Element e)
@@ -133,6 +157,38 @@ void fill(Random& r, Element e, Pattern p, uint8_t* bytes, size_t n)
     case Element::u32: return fillWith<uint32_t>(bytes, n, [&] { return integer<uint32_t>(r, p); });
     default: // the unsigned rest, half floats and 24-bit integers: any bytes are values
         return fillWith<uint8_t>(bytes, n * static_cast<size_t>(elementBytes(e)), [&] { return integer<uint8_t>(r, p); });
+    }
+}
+
+void plant(Random& r, Element e, Special s, uint8_t* at)
+{
+    switch (e) {
+    case Element::f32: return plantParts<float>(r, s, at, 1);
+    case Element::c32f: return plantParts<float>(r, s, at, 2);
+    case Element::f64: return plantParts<double>(r, s, at, 1);
+    case Element::c64f: return plantParts<double>(r, s, at, 2);
+    case Element::i16: return plantParts<int16_t>(r, s, at, 1);
+    case Element::c16s: return plantParts<int16_t>(r, s, at, 2);
+    case Element::i32: return plantParts<int32_t>(r, s, at, 1);
+    case Element::c32s: return plantParts<int32_t>(r, s, at, 2);
+    case Element::i64: return plantParts<int64_t>(r, s, at, 1);
+    case Element::c64s: return plantParts<int64_t>(r, s, at, 2);
+    case Element::i8: return plantParts<int8_t>(r, s, at, 1);
+    case Element::u16: return plantParts<uint16_t>(r, s, at, 1);
+    case Element::u32: return plantParts<uint32_t>(r, s, at, 1);
+    case Element::u64: return plantParts<uint64_t>(r, s, at, 1);
+    case Element::f16: {
+        static const uint16_t halves[] = {0x7E01, 0xFC00, 0x8000, 0xC200};
+        std::memcpy(at, &halves[static_cast<int>(s)], sizeof halves[0]);
+        return;
+    }
+    case Element::u24:
+    case Element::i24: {
+        static const uint32_t numbers[] = {0x800000, 0x7FFFFF, 0, 0xFFFFFD};
+        std::memcpy(at, &numbers[static_cast<int>(s)], 3);
+        return;
+    }
+    default: return plantParts<uint8_t>(r, s, at, 1); // also bits
     }
 }
 

@@ -23,6 +23,9 @@ enum class Pattern { anyBits, adversarial, tame, lowest, highest, count };
 // Elements of the type; tame: numbers of ordinary size, for results that stay finite.
 void fill(Random& random, Element element, Pattern pattern, uint8_t* bytes, size_t elements);
 Value scalar(Random& random, Element element, Pattern pattern);
+// A value that functions treat unlike its neighbours; integers have their lowest and highest one for the first two.
+enum class Special { nan, infinite, zero, negative, count };
+void plant(Random& random, Element element, Special special, uint8_t* at);
 int elementBytes(Element element);
 bool isFloating(Element element);
 
