@@ -50,7 +50,8 @@ IppStatus modelGetSize(int order, int, int* pStateSize, int* pSetUpSize)
     return ippStsNoErr;
 }
 
-IppStatus modelInit(State** ppState, const double* pTaps, int order, const double* pDelay, uint8_t* pState, uint8_t* pSetUp)
+IppStatus modelInit(State** ppState, const double* pTaps, int order, const double* pDelay, uint8_t* pState,
+                    uint8_t* pSetUp)
 {
     if (!ppState || !pTaps || !pState) return ippStsNullPtrErr;
     return order < 1 ? ippStsSizeErr : init(ppState, pTaps, order, pDelay, pState, pSetUp);

@@ -1,5 +1,5 @@
-// The tests of described functions, themselves tested: small functions of every kind are built as they are described, and
-// every fault that one of them can have is found.
+// The tests of described functions, themselves tested: small functions of every kind are built as they are described,
+// and every fault that one of them can have is found.
 #include "models.h"
 #include "variants/streams.h"
 #include <gtest/gtest.h>
@@ -21,7 +21,8 @@ std::string wrong(const Function& f)
         for (bool atEnd : {true, false}) {
             stage.put(a, {atEnd, static_cast<int>(random.below(64))});
             const auto answer = stage.call(a, support::entryOf(f));
-            if (f.result == registry::Result::status && answer.status != 0) return "status " + std::to_string(answer.status);
+            if (f.result == registry::Result::status && answer.status != 0)
+                return "status " + std::to_string(answer.status);
             if (!stage.strayWrite(a).empty()) return "written beside " + stage.strayWrite(a);
             for (int i = 0; i < f.argCount; ++i) {
                 if (!support::isOutput(f.args[i])) continue;
@@ -107,7 +108,8 @@ TEST(Models, ArgumentsAreOfEveryKind)
         const Arguments up = registry::build(*registry::find("modelUp"), random, 9, registry::Pattern::tame, 0);
         ASSERT_EQ(up.extent[2], 9 * up.values[3].i);
         ranges |= 1 << up.values[3].i;
-        const Arguments some = registry::build(*registry::find("modelPositive"), random, 50, registry::Pattern::tame, 0);
+        const Arguments some =
+            registry::build(*registry::find("modelPositive"), random, 50, registry::Pattern::tame, 0);
         ASSERT_LT(some.extent[1], 50);
     }
     EXPECT_GT(made[0], 50);

@@ -1,6 +1,6 @@
-// States that described functions make: what one variant has made serves every other, and calls that go on with a stream
-// give the same bits in all of them. A state has just the memory that was asked for, next to an inaccessible page, at any
-// address, and is read-only where a call must not change it.
+// States that described functions make: what one variant has made serves every other, and calls that go on with a
+// stream give the same bits in all of them. A state has just the memory that was asked for, next to an inaccessible
+// page, at any address, and is read-only where a call must not change it.
 #include "variants/streams.h"
 #include <gtest/gtest.h>
 #include <set>
@@ -30,7 +30,8 @@ TEST(States, WhatIsMadeIsUsed)
     std::set<const registry::Function*> used;
     for (const registry::Function& f : registry::functions())
         for (int i = 0; i < f.argCount; ++i)
-            for (int k = 0; k < f.args[i].makerCount; ++k) used.insert(registry::begin() + f.args[i].makers[k].function);
+            for (int k = 0; k < f.args[i].makerCount; ++k)
+                used.insert(registry::begin() + f.args[i].makers[k].function);
     for (const registry::Function& f : registry::functions()) {
         if (f.makes.what >= 0) {
             EXPECT_TRUE(used.count(&f)) << f.name;

@@ -228,7 +228,8 @@ bool Arguments::inGap(int i, size_t byte) const
 {
     const Rows* rows = f.args[i].rows;
     if (!rows) return false;
-    const auto step = static_cast<size_t>(rows->step(values.data())), width = static_cast<size_t>(rows->width(values.data()));
+    const auto step = static_cast<size_t>(rows->step(values.data())),
+               width = static_cast<size_t>(rows->width(values.data()));
     return step > width && byte % step >= width;
 }
 

@@ -1,5 +1,5 @@
-// A complete, valid set of arguments for a function, as data that can be placed anywhere in memory: scalars, the extents
-// that follow from them, the initial bytes of every array, and the same for the calls that make its states.
+// A complete, valid set of arguments for a function, as data that can be placed anywhere in memory: scalars, the
+// extents that follow from them, the initial bytes of every array, and the same for the calls that make its states.
 #pragma once
 #include "registry.h"
 #include "values.h"
@@ -12,10 +12,10 @@ struct Arguments {
     explicit Arguments(const Function& function);
 
     const Function& f;
-    std::vector<Value> values; // of the arguments, then of the names
+    std::vector<Value> values;     // of the arguments, then of the names
     std::vector<long long> extent; // of each pointer argument: elements (bytes for buffers and opaque records)
-    std::vector<std::vector<uint8_t>> content; // initial bytes of each pointer argument
-    std::vector<bool> null; // pointer arguments that are null
+    std::vector<std::vector<uint8_t>> content;          // initial bytes of each pointer argument
+    std::vector<bool> null;                             // pointer arguments that are null
     std::vector<std::shared_ptr<const Arguments>> made; // of each state: the arguments of the call that makes it
 
     size_t bytes(int argument) const;

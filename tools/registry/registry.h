@@ -103,7 +103,7 @@ struct ValueRule {
     Rule rule;
     Number first, second; // limits
     int other; // another argument or named value
-    Integer place, step; // the first element that the rule is about and how many further to the next; null: all, no next
+    Integer place, step; // the first element that it is about, how many further to the next; null: all; no next
 };
 
 // What a call makes for others; all -1: nothing.

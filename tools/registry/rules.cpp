@@ -20,16 +20,25 @@ template <class Change> void changeNumbers(Arguments& a, int i, Change change)
 {
     auto& bytes = a.content[i];
     switch (a.f.args[i].element) {
-    case Element::u8: return changeEach<uint8_t>(bytes, change);
-    case Element::i8: return changeEach<int8_t>(bytes, change);
-    case Element::u16: return changeEach<uint16_t>(bytes, change);
-    case Element::i16: return changeEach<int16_t>(bytes, change);
-    case Element::u32: return changeEach<uint32_t>(bytes, change);
-    case Element::i32: return changeEach<int32_t>(bytes, change);
-    case Element::f32: return changeEach<float>(bytes, change);
+    case Element::u8:
+        return changeEach<uint8_t>(bytes, change);
+    case Element::i8:
+        return changeEach<int8_t>(bytes, change);
+    case Element::u16:
+        return changeEach<uint16_t>(bytes, change);
+    case Element::i16:
+        return changeEach<int16_t>(bytes, change);
+    case Element::u32:
+        return changeEach<uint32_t>(bytes, change);
+    case Element::i32:
+        return changeEach<int32_t>(bytes, change);
+    case Element::f32:
+        return changeEach<float>(bytes, change);
     case Element::f64:
-    case Element::c64f: return changeEach<double>(bytes, change);
-    default: break; // the generator refuses rules for other types
+    case Element::c64f:
+        return changeEach<double>(bytes, change);
+    default:
+        break; // the generator refuses rules for other types
     }
 }
 std::vector<double> numbersOf(Arguments& a, int i)
@@ -49,7 +58,9 @@ class Places
 public:
     Places(const Arguments& a, const ValueRule& r)
         : parts_(a.f.args[r.argument].element == Element::c64f ? 2 : 1), first_(r.place ? r.place(a.values.data()) : 0),
-          step_(r.step ? r.step(a.values.data()) : r.place ? 1LL << 40 : 1)
+          step_(r.step    ? r.step(a.values.data())
+                : r.place ? 1LL << 40
+                          : 1)
     {
     }
     bool have(size_t number) const
@@ -68,7 +79,8 @@ void avoid(Arguments& a, int i, const Places& places, double bad)
     Value& v = a.values[i];
     if (!isScalar(a, i))
         changeNumbers(a, i, [&](size_t k, auto& x) {
-            if (places.have(k) && static_cast<double>(x) == bad) x = static_cast<std::remove_reference_t<decltype(x)>>(good);
+            if (places.have(k) && static_cast<double>(x) == bad)
+                x = static_cast<std::remove_reference_t<decltype(x)>>(good);
         });
     else if (isFloating(a.f.args[i].element) ? v.re == bad : v.i == static_cast<long long>(bad))
         v.re = good, v.i = static_cast<long long>(good);
@@ -121,13 +133,14 @@ constexpr double special[] = {NAN, -NAN, INFINITY, -INFINITY, 0.0, -0.0, 0.5};
 void imitate(Arguments& a, int i, int other, Random& random)
 {
     const bool floating = isFloating(a.f.args[i].element);
-    const auto models = isScalar(a, other)
-                            ? std::vector<double>{floating ? a.values[other].re : static_cast<double>(a.values[other].i)}
-                            : numbersOf(a, other);
+    const auto models =
+        isScalar(a, other) ? std::vector<double>{floating ? a.values[other].re : static_cast<double>(a.values[other].i)}
+                           : numbersOf(a, other);
     if (models.empty() || random.oneIn(3)) return;
     if (isScalar(a, i)) {
         Value& v = a.values[i];
-        v.re = floating && random.oneIn(2) ? special[random.below(7)] : models[random.below(static_cast<long long>(models.size()))];
+        v.re = floating && random.oneIn(2) ? special[random.below(7)]
+                                           : models[random.below(static_cast<long long>(models.size()))];
         if (!floating) v.i = static_cast<long long>(v.re);
         return;
     }
@@ -147,15 +160,23 @@ void keepToRules(Arguments& a, Random& random)
         const ValueRule& r = a.f.rules[k];
         const double first = r.first ? r.first(a.values.data()) : 0, second = r.second ? r.second(a.values.data()) : 0;
         switch (r.rule) {
-        case Rule::other: avoid(a, r.argument, Places(a, r), first); break;
+        case Rule::other:
+            avoid(a, r.argument, Places(a, r), first);
+            break;
         case Rule::below:
-        case Rule::apart: countBelow(a, r.argument, static_cast<long long>(first), r.rule == Rule::apart, random); break;
+        case Rule::apart:
+            countBelow(a, r.argument, static_cast<long long>(first), r.rule == Rule::apart, random);
+            break;
         case Rule::within:
         case Rule::often_within:
             spread(a, r.argument, Places(a, r), first, second, r.rule == Rule::often_within, random);
             break;
-        case Rule::selects: a.values[r.other].i = select(a, r.argument, random); break;
-        case Rule::like: imitate(a, r.argument, r.other, random); break;
+        case Rule::selects:
+            a.values[r.other].i = select(a, r.argument, random);
+            break;
+        case Rule::like:
+            imitate(a, r.argument, r.other, random);
+            break;
         }
     }
 }
