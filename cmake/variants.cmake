@@ -40,7 +40,7 @@ function(sig5d_add_variants target)
             target_compile_options(sig5d_${variant} PRIVATE ${SIG5D_FLAGS_${variant}})
             if(SIG5D_SANITIZE STREQUAL thread AND NOT variant STREQUAL px)
                 # px has the accesses of every source; the others are what the first calls choose from.
-                target_compile_options(sig5d_${variant} PRIVATE -fno-sanitize=thread)
+                target_compile_options(sig5d_${variant} PRIVATE -fno-sanitize=thread -O0)
             endif()
             target_sources(${target} PRIVATE $<TARGET_OBJECTS:sig5d_${variant}>)
         endif()

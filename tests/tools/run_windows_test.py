@@ -67,5 +67,5 @@ class RunWindows(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    BUILD = sys.argv.pop()
+    BUILD = os.path.abspath(sys.argv.pop())
     unittest.main()
