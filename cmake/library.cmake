@@ -10,7 +10,7 @@ target_compile_options(
 if(SIG5D_SANITIZE)
     # Callers may pass arrays at any address, so that misaligned access is intended here, and every processor allows it.
     add_compile_options(-fsanitize=${SIG5D_SANITIZE} -fno-sanitize=alignment -fno-sanitize-recover=all
-                        -fno-omit-frame-pointer -g)
+                        -fno-omit-frame-pointer -g1)
     add_link_options(-fsanitize=${SIG5D_SANITIZE})
 endif()
 option(SIG5D_COVERAGE "Count which lines and branches run" OFF)

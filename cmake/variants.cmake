@@ -5,7 +5,11 @@
 # same bits; hosts align a 32-bit stack to 4 bytes only, so that functions that need more realign it themselves. Loops
 # that copy or fill stay loops, since calls of the C runtime instead would be slow on Windows; and they begin at a cache
 # line, without which the same store loop ran at 50 or at 62 bytes per cycle, as chance had it.
-set(SIG5D_COMMON_FLAGS -O3 -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign
+set(optimise -O3)
+if(SIG5D_SANITIZE) # whose checks in every loop took ten times as long to optimise as the loops
+    set(optimise -O1)
+endif()
+set(SIG5D_COMMON_FLAGS ${optimise} -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign
     -fno-tree-loop-distribute-patterns -falign-loops=64)
 
 # sig5d_add_variants(<list>): an object library per variant, each file of SIG5D_KERNEL_SOURCES in each of its bodies;
@@ -25,6 +29,10 @@ function(sig5d_add_variants list)
             target_link_libraries(sig5d_${variant} PRIVATE sig5d_product)
             target_compile_definitions(sig5d_${variant} PRIVATE SIG5D_VARIANT=${variant} SIG5D_LEVEL=${level})
             target_compile_options(sig5d_${variant} PRIVATE ${SIG5D_FLAGS_${variant}})
+            if(SIG5D_SANITIZE STREQUAL thread AND NOT variant STREQUAL px)
+                # px has the accesses of every source; the others are what the first calls choose from.
+                target_compile_options(sig5d_${variant} PRIVATE -fno-sanitize=thread -O0)
+            endif()
             list(APPEND ${list} $<TARGET_OBJECTS:sig5d_${variant}>)
         endif()
         math(EXPR level "${level} + 1")
