@@ -1,4 +1,6 @@
-// A call by argument words, from known registers, at a chosen stack alignment, with a record of what it leaves behind.
+// A call by argument words, from known registers and floating-point modes, at a chosen stack alignment, with a record of
+// what it leaves behind. The modes of "before" are loaded for the call alone; the stack below it is painted and looked at
+// afterwards, so many words of it.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -22,11 +24,13 @@ struct CheckedCall {
     uint32_t controlBefore, controlAfter; // 76: x87
     uint32_t tags; // 84: x87, 0xffff: all empty
     uintptr_t avx; // 88: look at the upper halves of the AVX registers
-    uintptr_t unused; // 92
+    uintptr_t painted; // 92: words of stack
     uint8_t upper[8][16]; // 96
+    uint32_t callerMxcsr, callerControl; // 224
+    uintptr_t deepest; // 232: the lowest word that changed
 } __attribute__((packed));
 inline constexpr uintptr_t savedPattern[4] = {0x11b0b0b1, 0x22515152, 0x33d1d1d3, 0x44b9b9b4};
-static_assert(offsetof(CheckedCall, upper) == 96);
+static_assert(offsetof(CheckedCall, deepest) == 232);
 #else
 struct CheckedCall {
     void (*entry)(); // 0
@@ -46,12 +50,14 @@ struct CheckedCall {
     uintptr_t avx; // 176
     double floats[8]; // 184
     uintptr_t integers[6]; // 248
-    uintptr_t unused4; // 296
+    uintptr_t painted; // 296
     uint8_t upper[16][16]; // 304
+    uint32_t callerMxcsr, callerControl; // 560
+    uintptr_t deepest; // 568
 };
 inline constexpr uintptr_t savedPattern[5] = {0x11b0b0b1, 0x22b9b9b4, 0x33121213, 0x44131314, 0x55141415};
 inline constexpr uintptr_t savedPattern15 = 0x66151516;
-static_assert(offsetof(CheckedCall, upper) == 304);
+static_assert(offsetof(CheckedCall, deepest) == 568);
 #endif
 
 } // namespace registry
