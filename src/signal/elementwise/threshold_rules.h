@@ -42,9 +42,10 @@ template <class T> struct LimitMagnitudeBelow {
     {
 #if SIG5D_LEVEL > 0
         if constexpr (sizeof(T) == 8) {
-            // -0 is not negative: where the level is above 0 it becomes the level, too.
-            const V zero = all_lanes<V>(level > 0 ? 0.0 : -0.0);
-            return with_sign(larger(all_lanes<V>(level), absolute_value(x)), x + zero);
+            // -0 is not negative: where the level is above 0 it becomes the level, too. Nothing equals NaN.
+            const V zero = all_lanes<V>(level > 0 ? 0.0 : __builtin_nan(""));
+            const V sign = reinterpret_cast<V>(reinterpret_cast<decltype(x != zero)>(x) & (x != zero));
+            return with_sign(larger(all_lanes<V>(level), absolute_value(x)), sign);
         }
 #endif
 #if SIG5D_LEVEL >= 3
