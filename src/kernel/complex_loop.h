@@ -81,7 +81,8 @@ inline void store_block(c64f* d, Parts<Vec<f64>> y)
     store(&d->re + lanes<f64>, odd_lanes(y.re, y.im));
 }
 
-// The last block overlaps the one before it: it is computed before anything is stored. Lanes without an element hold the last one.
+// The last block overlaps the one before it: it is computed before anything is stored. Lanes without an element hold
+// the last one.
 template <class Op> [[gnu::always_inline]] inline void map_complex(size_t n, const c64f* a, c64f* d, Op op)
 {
     constexpr size_t L = lanes<f64>;

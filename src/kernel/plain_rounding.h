@@ -15,10 +15,23 @@ template <int bits, bool isSigned> struct Limits {
     static constexpr f64 high = static_cast<f64>((i64(1) << (bits - isSigned)) - 1), low = isSigned ? -high - 1 : 0;
 };
 
+// x times the scale where that is within the limits of all integers, otherwise a number beyond them: none that
+// overflows. A NaN stays one, or becomes one of those that are negative.
+inline f64 limited_product(f64 x, f64 factor)
+{
+    if (!(factor > 1)) return x * factor;
+    const f64 most = 0x1p80 / factor;
+    return smaller(larger(x, -most), most) * factor;
+}
+inline f64 limited_product(f64 x, Scale scale)
+{
+    return limited_product(limited_product(x, scale.first), scale.second);
+}
+
 // The plain form. A NaN becomes the lower limit.
 template <class Bounds> inline i32 rounded(f64 x, Scale scale, int mode)
 {
-    f64 y = x * scale.first * scale.second;
+    f64 y = limited_product(x, scale);
     y = smaller(larger(y, Bounds::low), Bounds::high);
     asm("" : "+x"(y)); // compilers convert first and limit afterwards, which raises exceptions
     const i32 whole = static_cast<i32>(y);

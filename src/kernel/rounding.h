@@ -29,6 +29,27 @@ inline Vec<i32, 4> joined(Vec<i32, 4> low, Vec<i32, 4> high)
     return reinterpret_cast<Vec<i32, 4>>(_mm_unpacklo_epi64(bits128(low), bits128(high)));
 }
 
+// For x that is no NaN and a positive limit: the smaller of the two; where x is larger, all bits. Single precision has
+// the order of its bits as integers there, which keeps the units free that convert and compare numbers.
+template <class V> constexpr bool byIntegers = sizeof(V{}[0]) == 4 && SIG5D_LEVEL >= (sizeof(V) == 32 ? 5 : 3);
+template <class V> using Integers = Vec<i32, sizeof(V) / 4>;
+template <class V> inline V below_limit(V x, V limit)
+{
+    if constexpr (byIntegers<V>) {
+        const auto a = reinterpret_cast<Integers<V>>(x), b = reinterpret_cast<Integers<V>>(limit);
+        return reinterpret_cast<V>(a < b ? a : b);
+    } else {
+        return smaller(x, limit);
+    }
+}
+template <class V> inline Integers<V> exceeds(V x, V limit)
+{
+    if constexpr (byIntegers<V>)
+        return reinterpret_cast<Integers<V>>(x) > reinterpret_cast<Integers<V>>(limit);
+    else
+        return reinterpret_cast<Integers<V>>(x > limit);
+}
+
 // The largest number below one half: with it, truncation of the sum rounds to the nearest, ties away from zero.
 template <class F> constexpr F belowHalf = sizeof(F) == 4 ? F(0x1.fffffep-2) : F(0x1.fffffffffffffp-2);
 
@@ -43,7 +64,7 @@ template <class F, class V> inline V with_sign_of(V y, F magnitude)
 
 // Scale factors up to here leave the limits of integers finite, and products with numbers within them exact or on the
 // way to zero.
-template <class F> constexpr int mostScaled = sizeof(F) == 4 ? 95 : 990;
+template <class F> constexpr int mostScaled = sizeof(F) == 4 ? 95 : 950;
 
 // Where the processor rounds to the nearest. F: type of the numbers and of the computation. Limits come first: neither
 // the product nor the conversion gets a number that does not fit, which would raise an exception. NaN becomes the lower
@@ -62,8 +83,8 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
     template <class V> auto lanes_of(V x) const
     {
         constexpr int n = sizeof(V) / sizeof(F);
-        V y = smaller(larger(x, splatn<n>(low)), splatn<n>(high));
-        [[maybe_unused]] const auto beyond = x > splatn<n>(high);
+        const V above = larger(x, splatn<n>(low));
+        V y = below_limit(above, splatn<n>(high));
         if constexpr (scaled) y *= factor;
         if constexpr (mode == NearestAway) y = y + with_sign_of(y, belowHalf<F>);
         const auto whole = [](V z) {
@@ -74,7 +95,8 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
         };
         const auto integers = whole(y);
         if constexpr (inexact)
-            return integers | (reinterpret_cast<decltype(whole(y))>(beyond) & 0x7F);
+            return integers |
+                   reinterpret_cast<Integers<V>>(reinterpret_cast<Vec<u32, n>>(exceeds(above, splatn<n>(high))) >> 25);
         else
             return integers;
     }

@@ -74,8 +74,8 @@ template <class F> inline void below_diagonal(size_t i0, size_t iEnd, size_t j0,
         for (size_t j = j0; j < jEnd && j <= i; j += step) f(i, j);
 }
 
-// Exchanges squares of one or two lines' length, from copies of both: whole ones, or half and half, so that little stack
-// is taken. Returns the rows that are done: all but less than a square.
+// Exchanges squares of one or two lines' length, from copies of both: whole ones, or half and half, so that little
+// stack is taken. Returns the rows that are done: all but less than a square.
 template <int size, int width, bool conj> size_t exchange_copies(Out<size> a, size_t n)
 {
     constexpr int side = (size < 4 ? 1 : 2) * lineBytes / size;

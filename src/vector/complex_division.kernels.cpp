@@ -39,7 +39,10 @@ inline Vec<f64, 4> greater(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_max_pd(
 constexpr f64 least = 0x1p-240, greatest = 0x1p240;
 
 template <class V> inline V smallest_of(V x) { return absolute_value(x); }
-template <class V, class... W> inline V smallest_of(V x, W... y) { return smaller(absolute_value(x), smallest_of(y...)); }
+template <class V, class... W> inline V smallest_of(V x, W... y)
+{
+    return smaller(absolute_value(x), smallest_of(y...));
+}
 template <class V> inline V largest_of(V x) { return absolute_value(x); }
 template <class V, class... W> inline V largest_of(V x, W... y) { return greater(absolute_value(x), largest_of(y...)); }
 

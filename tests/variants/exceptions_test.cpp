@@ -105,8 +105,8 @@ private:
         failed_ = true;
         std::string extents;
         for (int i = 0; i < a.f.argCount; ++i)
-            extents += std::string(" ") + a.f.args[i].name + " " +
-                       std::to_string(a.extent[i] ? a.extent[i] : a.values[i].i);
+            extents +=
+                std::string(" ") + a.f.args[i].name + " " + std::to_string(a.extent[i] ? a.extent[i] : a.values[i].i);
         ADD_FAILURE() << support::nameOf(a.f) << " in " << v.code << " with " << kind << " raises" << names(flags)
                       << ":" << extents;
     }

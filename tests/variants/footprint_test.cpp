@@ -11,7 +11,8 @@ using registry::Function;
 
 constexpr size_t paintedBytes = 64 * 1024, mostStackBytes = 8 * 1024;
 
-// What selecting a variant, or asking for the processor, sets. Whatever else a function keeps would be shared by threads.
+// What selecting a variant, or asking for the processor, sets. Whatever else a function keeps would be shared by
+// threads.
 const char* const kept[] = {"sig5d_variant", "sig5d_stream_bytes", "7enabledE", "5cacheE", "8featuresE"};
 
 using Snapshot = std::vector<std::vector<uint8_t>>;

@@ -13,7 +13,8 @@ struct Result {
     Outputs outputs;
 };
 
-class Subject {
+class Subject
+{
 public:
     explicit Subject(const registry::Function& f);
     // Those whose arguments can be built and whose results can be compared.
@@ -41,7 +42,8 @@ private:
 
 // Puts numbers of the caller's choice in place of the floating-point ones that a call reads, single ones and whole
 // arrays. Not where a fixture has made arrays that depend on one another.
-class Numbers {
+class Numbers
+{
 public:
     virtual ~Numbers() = default;
     virtual double next() = 0;

@@ -1,6 +1,6 @@
-// A call by argument words, from known registers and floating-point modes, at a chosen stack alignment, with a record of
-// what it leaves behind. The modes of "before" are loaded for the call alone; the stack below it is painted and looked at
-// afterwards, so many words of it.
+// A call by argument words, from known registers and floating-point modes, at a chosen stack alignment, with a record
+// of what it leaves behind. The modes of "before" are loaded for the call alone; so many words of the stack below it
+// are painted, and looked at afterwards.
 #pragma once
 #include <cstddef>
 #include <cstdint>

@@ -17,9 +17,9 @@ struct Answer {
 
 // What calls run with, from now on.
 struct Surroundings {
-    uint32_t mxcsr = 0;       // modes and masks, without flags; 0: the caller's
-    uint32_t control = 0;     // of x87; 0: the caller's
-    size_t paintedStack = 0;  // bytes below the stack pointer that are looked at
+    uint32_t mxcsr = 0;      // modes and masks, without flags; 0: the caller's
+    uint32_t control = 0;    // of x87; 0: the caller's
+    size_t paintedStack = 0; // bytes below the stack pointer that are looked at
 };
 extern Surroundings surroundings;
 

@@ -172,8 +172,7 @@ template <class T> void divide(const T* a, T v, T* d, int n, int s)
 {
 #if SIG5D_LEVEL > 0
     if (rounds_to_nearest())
-        return isShort<T>(s) ? run_by_value<f32>(count(d, n), a, v, d, s)
-                             : run_by_value<f64>(count(d, n), a, v, d, s);
+        return isShort<T>(s) ? run_by_value<f32>(count(d, n), a, v, d, s) : run_by_value<f64>(count(d, n), a, v, d, s);
 #endif
     run_plain(count(d, n), d, s, a, repeated(v));
 }

@@ -2,8 +2,8 @@
 //
 // Each output is one running sum that starts from 0.0 and takes the oldest input first, over the taps that meet an
 // input; so every vector width and every arrangement gives the same bits. Outside an output's window the matrix has
-// zeros, which add nothing to a running sum but to -0.0, which only some rounding directions give; unless an input there
-// is infinite or NaN: then the output becomes NaN and is computed again from its window alone.
+// zeros, which add nothing to a running sum but to -0.0, which only some rounding directions give; unless an input
+// there is infinite or NaN: then the output becomes NaN and is computed again from its window alone.
 #pragma once
 #include "signal/processing/fir_broadcast.h"
 #include "signal/processing/fir_spec.h"
