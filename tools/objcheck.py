@@ -8,12 +8,15 @@
 - On 32-bit x86: no aligned vector access to the stack in a function that does not align its frame, because hosts keep
   the stack aligned to 4 bytes only.
 - Every dispatched entry is one load of the index and one indirect jump.
+- No stores past the caches in a function without a store fence, and no return from one that uses vectors of 32 bytes
+  before it has left them, since code of 16 bytes would be slow after it.
 """
 import argparse
 import re
 import subprocess
 import sys
 from pathlib import Path
+from typing import NamedTuple
 
 import objsymbols
 from objsymbols import VARIANTS
@@ -65,8 +68,15 @@ def run(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
+class Instruction(NamedTuple):
+    place: int
+    mnemonic: str
+    operands: str
+    elsewhere: str = ""  # what the linker puts in: where a jump or call out of the section leads, for instance
+
+
 def functions(disassembly):
-    """(name, [(mnemonic, operands)]) of every function."""
+    """(name, instructions) of every function."""
     name, body = None, []
     for line in disassembly.splitlines():
         head = re.match(r"[0-9a-f]+ <(?!\.L)(.+)>:$", line)  # a local label is a place within a function
@@ -75,20 +85,54 @@ def functions(disassembly):
                 yield name, body
             name, body = head[1], []
             continue
-        code = re.match(r"\s+[0-9a-f]+:\t(\S+)\s*(.*)$", line)
-        if code and name:
-            mnemonic, operands = code[1], code[2]
+        code = re.match(r"\s+([0-9a-f]+):\t(\S+)\s*(.*)$", line)
+        if body and (relocation := re.match(r"\t\t\t[0-9a-f]+: \S+\t(\S+)", line)):
+            body[-1] = body[-1]._replace(elsewhere=relocation[1])
+        elif code and name:
+            mnemonic, operands = code[2], code[3]
             while mnemonic in ("rep", "repz", "repnz", "lock", "notrack", "bnd", "data16", "cs", "ds", "{vex}"):
                 mnemonic, _, operands = operands.partition(" ")
-            body.append((mnemonic, operands))
+            body.append(Instruction(int(code[1], 16), mnemonic, operands))
     if name:
         yield name, body
 
 
 def aligned_stack_access(body):
     return any(
-        re.match(r"v?mov(ap[sd]|dqa)$", m) and re.search(r"\(%e[sb]p", o) for m, o in body
-    ) and not any(m.startswith("and") and re.match(r"\$0xffffff[0-9a-f]0,%esp", o) for m, o in body)
+        re.match(r"v?mov(ap[sd]|dqa)$", i.mnemonic) and re.search(r"\(%e[sb]p", i.operands) for i in body
+    ) and not any(i.mnemonic.startswith("and") and re.match(r"\$0xffffff[0-9a-f]0,%esp", i.operands) for i in body)
+
+
+STREAMS, FENCE = re.compile(r"v?movnt(dq|p[sd]|i)\w?$"), re.compile(r"[sm]fence$")
+WIDE, LEAVES_WIDE = re.compile(r"v\w+[sd]2\w*y |.*%ymm"), re.compile(r"vzero(upper|all)$")
+
+
+def returns_wide(name, body):
+    """Whether some way through the function leaves vectors of 32 bytes in use. Ways through tables of jumps begin anew."""
+    places = {i.place: k for k, i in enumerate(body)}
+    seen, ways = {}, [(0, False)]
+    while True:
+        while ways:
+            k, wide = ways.pop()
+            while k < len(body) and seen.get(k) not in (True, wide):
+                seen[k] = wide
+                i = body[k]
+                wide = not LEAVES_WIDE.match(i.mnemonic) and (wide or bool(WIDE.match(f"{i.mnemonic} {i.operands}")))
+                inside = None if i.elsewhere else re.match(r"([0-9a-f]+) <", i.operands)
+                target = places.get(int(inside[1], 16)) if inside else None
+                ends = i.mnemonic.startswith("ret")
+                calls = i.mnemonic == "jmp" and i.elsewhere and not (name + i.elsewhere).count(".cold")
+                if wide and (ends or (calls and ".text.unlikely" not in i.elsewhere)):
+                    return True
+                if i.mnemonic.startswith("j") and target is not None:
+                    ways.append((target, wide))
+                if ends or i.mnemonic == "jmp":
+                    break
+                k += 1
+        rest = next((k for k in range(len(body)) if k not in seen), None)
+        if rest is None:
+            return False
+        ways.append((rest, False))
 
 
 class Report:
@@ -108,8 +152,15 @@ def with_cold_parts(bodies):
 
 
 def check_object(path, level, objdump, bits32, report):
-    for name, body in with_cold_parts(functions(run(objdump, "-d", "--no-show-raw-insn", str(path)))):
-        for mnemonic, operands in body:
+    bodies = list(functions(run(objdump, "-dr", "--no-show-raw-insn", str(path))))
+    for name, body in bodies:
+        if returns_wide(name, body):
+            report.add(path, f"{name}: returns with vectors of 32 bytes in use")
+        mnemonics = {i.mnemonic for i in body}
+        if any(map(STREAMS.match, mnemonics)) and not any(map(FENCE.match, mnemonics)):
+            report.add(path, f"{name}: stores past the caches without a fence")
+    for name, body in with_cold_parts(bodies):
+        for _, mnemonic, operands, _ in body:
             if level_needed(mnemonic, operands) > level:
                 report.add(path, f"{name}: {mnemonic} {operands} is above {VARIANTS[level]}")
             if IS_X87.match(mnemonic):
@@ -133,8 +184,8 @@ def check_stubs(path, objdump, bits32, report):
     for name, body in functions(run(objdump, "-d", "--no-show-raw-insn", str(path))):
         if "initialise_keeping" in name:
             continue
-        found = [m for m, _ in body[: len(shape)]]
-        if found != shape or not body[len(shape) - 1][1].startswith("*"):
+        found = [i.mnemonic for i in body[: len(shape)]]
+        if found != shape or not body[len(shape) - 1].operands.startswith("*"):
             report.add(path, f"{name} is no stub: {found}")
         count += 1
     if count == 0:

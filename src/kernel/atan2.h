@@ -39,10 +39,11 @@ template <class V> inline HalfAngle<V> half_angle(V x, V y)
     using Bits = BitsOf<V>;
     const V zero = V{}, half = constant<V>(0.5), quarter = constant<V>(quarterTurn);
     const V a = absolute_value(x), b = absolute_value(y), smaller = minimum(a, b), larger = maximum(b, a);
-    // Without loss of bits. The smallest divisor serves zeros.
+    // Without loss of bits. The smallest divisor serves zeros, the largest keeps sums of what is not usual finite.
     const int usual = lanes_set(larger <= constant<V>(0x1p1000)) &
                       (lanes_set(smaller >= constant<V>(0x1p-900)) | lanes_set(smaller == zero));
-    const V divisor = maximum(constant<V>(0x1p-960), larger), halfDivisor = half * divisor;
+    const V divisor = maximum(constant<V>(0x1p-960), minimum(constant<V>(0x1p1000), larger)),
+            halfDivisor = half * divisor;
 
     const auto flat = a >= b, beyond = smaller > half * halfDivisor;
     // The sign that is opposite to that of t.

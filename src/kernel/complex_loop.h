@@ -81,14 +81,14 @@ inline void store_block(c64f* d, Parts<Vec<f64>> y)
     store(&d->re + lanes<f64>, odd_lanes(y.re, y.im));
 }
 
-// The last block overlaps the one before it: it is computed before anything is stored. Lanes without an element hold 1.
+// The last block overlaps the one before it: it is computed before anything is stored. Lanes without an element hold
+// the last one.
 template <class Op> [[gnu::always_inline]] inline void map_complex(size_t n, const c64f* a, c64f* d, Op op)
 {
     constexpr size_t L = lanes<f64>;
     c64f some[L];
     if (n < L) {
-        for (size_t i = 0; i < L; ++i) some[i] = {1, 0};
-        for (size_t i = 0; i < n; ++i) some[i] = a[i];
+        for (size_t i = 0; i < L; ++i) some[i] = a[i < n ? i : n - 1];
         a = some;
     }
     size_t i = 0;

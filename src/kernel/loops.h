@@ -3,6 +3,7 @@
 #pragma once
 #include "kernel/stream.h"
 #include "kernel/vec.h"
+#include <type_traits>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -21,7 +22,8 @@ template <class D, class Op, class... A> inline void map(size_t n, D* d, Op op, 
 
 #else
 
-// 8, 4, 2 or 1 bytes in the low end of a register.
+// 8, 4, 2 or 1 bytes in the low end of a register. A double stands in both halves: what is computed of a zero beside it
+// could raise an exception.
 template <int bytes, class T> inline Vec<T, 16 / sizeof(T)> load_part(const T* p)
 {
     __m128i v;
@@ -29,6 +31,7 @@ template <int bytes, class T> inline Vec<T, 16 / sizeof(T)> load_part(const T* p
         v = _mm_loadu_si128(reinterpret_cast<const __m128i_u*>(p));
     } else if constexpr (bytes == 8) {
         v = _mm_loadl_epi64(reinterpret_cast<const __m128i_u*>(p));
+        if constexpr (std::is_floating_point_v<T>) v = _mm_unpacklo_epi64(v, v);
     } else {
         u32 low = 0;
         __builtin_memcpy(&low, p, bytes);

@@ -78,6 +78,9 @@ inline void store_numbers(Write write, ComplexArray<c64f, folds> d, Parts<V> v)
     constexpr int L = sizeof(V) / sizeof(f64);
     f64* const p = &d.p->re;
     if constexpr (L == 1) {
+        // Apart from one another: compilers compute a sum and a difference beside it as two sums and two differences,
+        // of which the others may overflow.
+        asm("" : "+x"(v.re));
         write(p, v.re);
         write(p + 1, v.im);
     } else if constexpr (L == 2 || folds) {

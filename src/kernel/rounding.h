@@ -1,9 +1,8 @@
-// Floating-point numbers times a power of two, rounded to integers in one of three ways, within limits. Not with the
-// processor's rounding mode, which belongs to the caller's thread.
+// Vectors of floating-point numbers times a power of two, rounded to integers within limits.
 #pragma once
 #include "kernel/lanes.h"
 #include "kernel/minmax.h"
-#include "kernel/power_of_two.h"
+#include "kernel/plain_rounding.h"
 #if SIG5D_LEVEL > 0
 #include <immintrin.h>
 #endif
@@ -11,30 +10,7 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-enum Rounding { TowardZero, NearestEven, NearestAway };
-
-// The limits of integers of so many bits, 32 at most.
-template <int bits, bool isSigned> struct Limits {
-    static constexpr f64 high = static_cast<f64>((i64(1) << (bits - isSigned)) - 1), low = isSigned ? -high - 1 : 0;
-};
-
-// The plain form. A NaN becomes the lower limit.
-template <class Bounds> inline i32 rounded(f64 x, Scale scale, int mode)
-{
-    f64 y = x * scale.first * scale.second;
-    y = smaller(larger(y, Bounds::low), Bounds::high);
-    const i32 whole = static_cast<i32>(y);
-    const f64 rest = __builtin_fabs(y - whole);
-    const bool tie = rest == 0.5, up = mode == NearestAway   ? rest >= 0.5
-                                       : mode == NearestEven ? rest > 0.5 || (tie && whole % 2 != 0)
-                                                             : false;
-    return up ? (y < 0 ? whole - 1 : whole + 1) : whole;
-}
-
 #if SIG5D_LEVEL > 0
-
-// The processor rounds to the nearest, ties to even.
-inline bool rounds_to_nearest() { return (_mm_getcsr() & _MM_ROUND_MASK) == _MM_ROUND_NEAREST; }
 
 inline Vec<i32, 4> nearest(Vec<f32, 4> x) { return reinterpret_cast<Vec<i32, 4>>(_mm_cvtps_epi32(x)); }
 inline Vec<i32, 4> truncated(Vec<f32, 4> x) { return reinterpret_cast<Vec<i32, 4>>(_mm_cvttps_epi32(x)); }
@@ -53,6 +29,27 @@ inline Vec<i32, 4> joined(Vec<i32, 4> low, Vec<i32, 4> high)
     return reinterpret_cast<Vec<i32, 4>>(_mm_unpacklo_epi64(bits128(low), bits128(high)));
 }
 
+// For x that is no NaN and a positive limit: the smaller of the two; where x is larger, all bits. Single precision has
+// the order of its bits as integers there, which keeps the units free that convert and compare numbers.
+template <class V> constexpr bool byIntegers = sizeof(V{}[0]) == 4 && SIG5D_LEVEL >= (sizeof(V) == 32 ? 5 : 3);
+template <class V> using Integers = Vec<i32, sizeof(V) / 4>;
+template <class V> inline V below_limit(V x, V limit)
+{
+    if constexpr (byIntegers<V>) {
+        const auto a = reinterpret_cast<Integers<V>>(x), b = reinterpret_cast<Integers<V>>(limit);
+        return reinterpret_cast<V>(a < b ? a : b);
+    } else {
+        return smaller(x, limit);
+    }
+}
+template <class V> inline Integers<V> exceeds(V x, V limit)
+{
+    if constexpr (byIntegers<V>)
+        return reinterpret_cast<Integers<V>>(x) > reinterpret_cast<Integers<V>>(limit);
+    else
+        return reinterpret_cast<Integers<V>>(x > limit);
+}
+
 // The largest number below one half: with it, truncation of the sum rounds to the nearest, ties away from zero.
 template <class F> constexpr F belowHalf = sizeof(F) == 4 ? F(0x1.fffffep-2) : F(0x1.fffffffffffffp-2);
 
@@ -65,19 +62,29 @@ template <class F, class V> inline V with_sign_of(V y, F magnitude)
     return reinterpret_cast<V>(sign | reinterpret_cast<Vec<U, n>>(splatn<n>(magnitude)));
 }
 
-// Where the processor rounds to the nearest. F: type of the numbers and of the computation. Whatever does not fit
-// becomes -2^31 in the conversion, also NaN: narrowing with saturation makes the lower limit of it, so that only the
-// upper one takes an instruction. No saturation narrows to 24 bits, nor before SSE4.1 to 16 unsigned ones.
-template <class F, class Bounds, Rounding mode, bool scaled = true> struct Rounded {
-    F factor; // 1 unless "scaled"
+// Scale factors up to here leave the limits of integers finite, and products with numbers within them exact or on the
+// way to zero.
+template <class F> constexpr int mostScaled = sizeof(F) == 4 ? 95 : 950;
 
-    static constexpr f64 range = Bounds::high - Bounds::low;
-    static constexpr bool saturates = range <= 65535 ? SIG5D_LEVEL >= 3 || Bounds::high < 65535 : range > 0x1p30;
+// Where the processor rounds to the nearest. F: type of the numbers and of the computation. Limits come first: neither
+// the product nor the conversion gets a number that does not fit, which would raise an exception. NaN becomes the lower
+// one.
+template <class F, class Bounds, Rounding mode, bool scaled = true> struct Rounded {
+    // Single precision has no 2^31 - 1: what is beyond the largest number below gets the bits that it lacks.
+    static constexpr bool inexact = sizeof(F) == 4 && Bounds::high > 0x1p30;
+
+    F factor; // 1 unless "scaled"
+    F low, high;
+    explicit Rounded(F f)
+        : factor(f), low(static_cast<F>(Bounds::low) / f), high((inexact ? F(0x1.fffffep30) : F(Bounds::high)) / f)
+    {
+    }
 
     template <class V> auto lanes_of(V x) const
     {
         constexpr int n = sizeof(V) / sizeof(F);
-        V y = x;
+        const V above = larger(x, splatn<n>(low));
+        V y = below_limit(above, splatn<n>(high));
         if constexpr (scaled) y *= factor;
         if constexpr (mode == NearestAway) y = y + with_sign_of(y, belowHalf<F>);
         const auto whole = [](V z) {
@@ -86,13 +93,12 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
             else
                 return truncated(z);
         };
-        if constexpr (sizeof(F) == 4 && Bounds::high > 0x1p30) {
-            const auto beyond = y >= splatn<n>(F(0x1p31)); // single precision has no 2^31 - 1
-            return whole(y) ^ reinterpret_cast<decltype(whole(y))>(beyond);
-        } else {
-            if constexpr (!saturates) y = larger(y, splatn<n>(static_cast<F>(Bounds::low)));
-            return whole(smaller(splatn<n>(static_cast<F>(Bounds::high)), y));
-        }
+        const auto integers = whole(y);
+        if constexpr (inexact)
+            return integers |
+                   reinterpret_cast<Integers<V>>(reinterpret_cast<Vec<u32, n>>(exceeds(above, splatn<n>(high))) >> 25);
+        else
+            return integers;
     }
 
     // n integers, in a register at least.

@@ -12,19 +12,30 @@ namespace {
 template <class V> struct ReducedAngle {
     V rest, below, x;
     typename BitsOf<V>::type quadrant;
+    int far; // lanes where x is larger than 2^15, or NaN
 };
 
 // For |x| <= 2^15 (Cody and Waite, 1980): pi/2 as two numbers of 38 bits, whose products with the multiple are exact,
 // and a third, which goes below with the bits that the rest has no room for. So near to a multiple that bits would be
 // missing comes no double of this size.
-template <class V> inline ReducedAngle<V> reduced_angle(V x)
+template <class V> inline ReducedAngle<V> moderate_angle(V x)
 {
     const V shift = constant<V>(0x1.8p52);
     const V shifted = x * constant<V>(0x1.45f306dc9c883p-1) + shift, n = shifted - shift;
     const V first = x - n * constant<V>(0x1.921fb54440000p+0); // exact: both are near
     const V product = n * constant<V>(0x1.68c234c4c0000p-39), rest = first - product;
     const V below = n * constant<V>(0x1.98a2e03707345p-77) - ((first - rest) - product);
-    return {rest, below, x, BitsOf<V>::of(shifted)};
+    return {rest, below, x, BitsOf<V>::of(shifted), 0};
+}
+
+// Of any x; those that are far take no part, since their products could overflow.
+template <class V> inline ReducedAngle<V> reduced_angle(V x)
+{
+    const auto near = absolute_value(x) <= constant<V>(0x1p15);
+    ReducedAngle<V> angle = moderate_angle(near ? x : V{});
+    angle.x = x;
+    angle.far = lanes_set(near) ^ allLanes<V>;
+    return angle;
 }
 
 // Of rest - below in [-pi/4, pi/4]. The first terms of both series are added last, with what their rounding lost; the
@@ -73,9 +84,8 @@ template <class V> inline void replace_far(Parts<V>& w, int far, V x)
 // (cos, sin) of any x; infinities and NaN give NaN.
 template <class V> [[gnu::always_inline]] inline Parts<V> cos_sin(const ReducedAngle<V>& angle)
 {
-    const int far = lanes_set(absolute_value(angle.x) <= constant<V>(0x1p15)) ^ allLanes<V>;
     Parts<V> w = moderate_cos_sin(angle);
-    if (__builtin_expect(far, 0)) replace_far(w, far, angle.x);
+    if (__builtin_expect(angle.far, 0)) replace_far(w, angle.far, angle.x);
     return w;
 }
 

@@ -74,23 +74,33 @@ template <class F> inline void below_diagonal(size_t i0, size_t iEnd, size_t j0,
         for (size_t j = j0; j < jEnd && j <= i; j += step) f(i, j);
 }
 
-// Exchanges squares of one or two lines' length, from copies of both. Returns the rows that are done: all but less than
-// a square.
+// Exchanges squares of one or two lines' length, from copies of both: whole ones, or half and half, so that little
+// stack is taken. Returns the rows that are done: all but less than a square.
 template <int size, int width, bool conj> size_t exchange_copies(Out<size> a, size_t n)
 {
     constexpr int side = (size < 4 ? 1 : 2) * lineBytes / size;
     using Square = Tile<size, side, side>;
-    constexpr int pieces = Square::pieces;
+    constexpr int parts = Square::pieces, part = side / parts, room = 2;
+    using Columns = Tile<size, side, part>;
+    using Rows = Tile<size, part, side>;
+    static_assert(parts <= room && Columns::pieces == 1 && Rows::pieces == 1);
     const size_t whole = n - n % side;
-    with_room<2 * pieces>([=](u8* const(&piece)[2 * pieces]) {
+    with_room<room>([=](u8* const(&piece)[room]) {
         below_diagonal(0, whole, 0, whole, side, [=](size_t i, size_t j) {
-            const Out<size> p = a.from(i, j), q = a.from(j, i);
-            copy_tile<size, width, Square>(In<size>{p.p, a.step}, piece, Square::cols * size);
-            if (i != j) {
-                copy_tile<size, width, Square>(In<size>{q.p, a.step}, piece + pieces, Square::rows * a.step);
-                transpose_copy<size, width, conj, false, Square>(piece + pieces, p);
+            if (i == j) {
+                const Out<size> p = a.from(i, i);
+                copy_tile<size, width, Square>(In<size>{p.p, a.step}, piece, Square::cols * size);
+                transpose_copy<size, width, conj, false, Square>(piece, p);
+                return;
             }
-            transpose_copy<size, width, conj, false, Square>(piece, q);
+#pragma GCC unroll 1
+            for (size_t done = 0; done < side; done += part) {
+                const Out<size> p = a.from(i, j + done), q = a.from(j + done, i);
+                copy_tile<size, width, Columns>(In<size>{p.p, a.step}, piece, Square::cols * size);
+                copy_tile<size, width, Rows>(In<size>{q.p, a.step}, piece + 1, Square::rows * a.step);
+                transpose_copy<size, width, conj, false, Rows>(piece + 1, p);
+                transpose_copy<size, width, conj, false, Columns>(piece, q);
+            }
         });
     });
     return whole;

@@ -170,7 +170,8 @@ template <int size, int width, class Tile> inline void copy_tile(In<size> a, u8*
 template <int size, int width, bool conj, bool pastCaches, class Tile>
 inline void transpose_copy(u8* const* piece, Out<size> d)
 {
-    constexpr int R = width / size, P = portion<size>, together = lineBytes / width;
+    constexpr int R = width / size, P = portion<size>;
+    constexpr int together = (Tile::rows * size < lineBytes ? Tile::rows * size : lineBytes) / width;
     for (int g = 0; g < Tile::cols; g += P) {
         const u8* const columns = piece[g * size / Tile::step] + g * size % Tile::step / 16 * 16;
         for (int i = 0; i < Tile::rows; i += together * R) {
@@ -193,8 +194,10 @@ inline void transpose_copy(u8* const* piece, Out<size> d)
 }
 
 // Past the caches, where every row of the result begins at the same place of a line. Two lines of each row are read and
-// two written, since single lines took up to 1.4 times as long; of bytes half as many rows, which take 8 KB already.
-template <int size> using TilePastCaches = Tile<size, (size == 1 ? 1 : 2) * lineBytes / size, 2 * lineBytes / size>;
+// two written, since single lines took up to 1.4 times as long; fewer of short elements, so that a tile has 4 KB: calls
+// are to do with little stack.
+template <int size>
+using TilePastCaches = Tile<size, (size < 4 ? 1 : 2) * lineBytes / size, (size < 2 ? 1 : 2) * lineBytes / size>;
 
 template <int size, int width, bool conj, int columns>
 void transpose_past_caches(In<size> a, Out<size> d, size_t rows, size_t cols)
@@ -209,8 +212,8 @@ void transpose_past_caches(In<size> a, Out<size> d, size_t rows, size_t cols)
                 copy_tile<size, width, Tile>(a.from(i, j), piece, Tile::cols * size);
                 transpose_copy<size, width, conj, true, Tile>(piece, d.from(j, i));
             }
+        stream_end();
     });
-    stream_end();
     if (first) transpose_by_columns<size, width, conj, columns>(a, d, line, cols);
     if (end == rows) return;
     const size_t last = rows - end < line ? rows - line : end;

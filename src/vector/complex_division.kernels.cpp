@@ -17,7 +17,8 @@ Parts<f64> wide_quotient(Parts<f64> dividend, Parts<f64> divisor)
 
 #if SIG5D_LEVEL == 0
 
-inline Parts<f64> quotient(Parts<f64> a, Parts<f64> b) { return wide_quotient(a, b); }
+template <class... V> inline bool ordinary(V...) { return false; }
+inline Parts<f64> quotient(Parts<f64> a, Parts<f64> b, bool) { return wide_quotient(a, b); }
 
 #else
 
@@ -31,20 +32,31 @@ inline Vec<f64, 4> smaller(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_min_pd(
 inline Vec<f64, 4> greater(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_max_pd(x, y); }
 #endif
 
-// The magnitudes of the operands, but for zeros and NaN, lie within 2^-240 and 2^240. Then the formula in doubles is
-// exact in the sense above: |b|^2 and its reciprocal lie within 2^-481 and 2^481, a difference of products that is not
-// 0 is at least one unit in the last place of 2^-480, and the results lie between 2^-1013 and 2^962.
-template <class V> struct Range {
-    V least = constant<V>(1), greatest = constant<V>(1);
-    void add(V x)
-    {
-        // One below the bits of the magnitude, as a number: 0 becomes a NaN, which the comparisons pass over.
-        const V size = BitsOf<V>::back((BitsOf<V>::of(x) & BitsOf<V>::all(~signBit)) - BitsOf<V>::all(1));
-        least = smaller(size, least);
-        greatest = greater(size, greatest);
-    }
-    bool ordinary() const { return !lanes_set((least < constant<V>(0x1p-240)) | (greatest > constant<V>(0x1p240))); }
-};
+// The magnitudes of the operands, but for zeros, lie within 2^-240 and 2^240. Then the formula in doubles is exact in
+// the sense above: |b|^2 and its reciprocal lie within 2^-481 and 2^481, a difference of products that is not 0 is at
+// least one unit in the last place of 2^-480, and the results lie between 2^-1013 and 2^962. That is seen before
+// anything is computed: a square that overflows would raise an exception.
+constexpr f64 least = 0x1p-240, greatest = 0x1p240;
+
+template <class V> inline V smallest_of(V x) { return absolute_value(x); }
+template <class V, class... W> inline V smallest_of(V x, W... y)
+{
+    return smaller(absolute_value(x), smallest_of(y...));
+}
+template <class V> inline V largest_of(V x) { return absolute_value(x); }
+template <class V, class... W> inline V largest_of(V x, W... y) { return greater(absolute_value(x), largest_of(y...)); }
+
+template <class V> inline auto within_range(V x)
+{
+    const V size = absolute_value(x);
+    return ((size >= constant<V>(least)) & (size <= constant<V>(greatest))) | (x == V{});
+}
+template <class V, class... W> inline bool ordinary(V x, W... y)
+{
+    const auto all = (smallest_of(x, y...) >= constant<V>(least)) & (largest_of(x, y...) <= constant<V>(greatest));
+    if (__builtin_expect(lanes_set(all) == allLanes<V>, 1)) return true;
+    return lanes_set((within_range(x) & ... & within_range(y))) == allLanes<V>; // some are zero
+}
 
 // Lane by lane, where numbers are not ordinary.
 template <class V> [[gnu::noinline]] void wide_quotients(Parts<V>* a, const Parts<V>* b)
@@ -59,28 +71,12 @@ template <class V> [[gnu::noinline]] void wide_quotients(Parts<V>* a, const Part
     }
 }
 
-// |b|^2 and both parts of the result lie within 2^-200 and 2^200. Then nothing has overflowed, and a product that
-// underflowed stood beside one so much larger that it did not count.
-template <class V> inline bool moderate(V power, Parts<V> q)
+template <class V> inline Parts<V> quotient(Parts<V> a, Parts<V> b, bool isOrdinary)
 {
-    const V re = absolute_value(q.re), im = absolute_value(q.im);
-    const V least = smaller(smaller(re, im), power), greatest = greater(power, re + im); // the sum keeps a NaN
-    return lanes_set((least >= constant<V>(0x1p-200)) & (greatest <= constant<V>(0x1p200))) == allLanes<V>;
-}
-
-template <class V> inline Parts<V> quotient(Parts<V> a, Parts<V> b)
-{
-    const V power = b.re * b.re + b.im * b.im;
-    const V t = constant<V>(1) / power;
-    const Parts<V> q = {(a.re * b.re + b.im * a.im) * t, t * (a.im * b.re - a.re * b.im)};
-    if (__builtin_expect(moderate(power, q), 1)) return q;
-    // Zeros in the result, for instance, say nothing; then the operands must be looked at.
-    Range<V> range;
-    range.add(a.re);
-    range.add(a.im);
-    range.add(b.re);
-    range.add(b.im);
-    if (range.ordinary()) return q;
+    if (__builtin_expect(isOrdinary, 1)) {
+        const V t = constant<V>(1) / (b.re * b.re + b.im * b.im);
+        return {(a.re * b.re + b.im * a.im) * t, t * (a.im * b.re - a.re * b.im)};
+    }
     Parts<V> result = a;
     const Parts<V> divisor = b;
     wide_quotients(&result, &divisor);
@@ -90,20 +86,28 @@ template <class V> inline Parts<V> quotient(Parts<V> a, Parts<V> b)
 #endif
 
 struct Quotient {
-    template <class V> Parts<V> operator()(Parts<V> a, Parts<V> b) const { return quotient(a, b); }
-    template <class V> Parts<V> operator()(V a, Parts<V> b) const { return quotient(Parts<V>{a, V{}}, b); }
+    template <class V> Parts<V> operator()(Parts<V> a, Parts<V> b) const
+    {
+        return quotient(a, b, ordinary(a.re, a.im, b.re, b.im));
+    }
+    template <class V> Parts<V> operator()(V a, Parts<V> b) const
+    {
+        return quotient(Parts<V>{a, V{}}, b, ordinary(a, b.re, b.im));
+    }
 };
 struct ValueOver {
     f64 re, im;
+    bool isOrdinary;
+    ValueOver(f64 x, f64 y) : re(x), im(y), isOrdinary(ordinary(x, y)) {}
     template <class V> Parts<V> operator()(Parts<V> b) const
     {
-        return quotient(Parts<V>{constant<V>(re), constant<V>(im)}, b);
+        return quotient(Parts<V>{constant<V>(re), constant<V>(im)}, b, isOrdinary && ordinary(b.re, b.im));
     }
 };
 
 [[gnu::noinline]] void divide_value(size_t n, const c64f* b, c64f* d, f64 re, f64 im)
 {
-    map_numbers(n, folded(d), ValueOver{re, im}, folded(b));
+    map_numbers(n, folded(d), ValueOver(re, im), folded(b));
 }
 void divide_value(const c64f* b, c64f* d, const c64f* v, u32 n) { divide_value(n, b, d, v->re, v->im); }
 void divide_value(const c64f* b, c64f* d, f64 v, u32 n) { divide_value(n, b, d, v, 0.0); }

@@ -56,7 +56,7 @@ template <class T> struct BothOfValue {
 template <class T> [[gnu::noinline]] void quotients_of_value(const T* b, T v, T* q, u32 n)
 {
     if (n < fewElements) return plain_quotients(Constant<T>{v}, b, q, n);
-    map(n, q, QuotientOfValue<T>{v}, b);
+    map_compact<1>(n, q, QuotientOfValue<T>{v}, b);
 }
 template <class T> [[gnu::noinline]] void quotients_and_remainders_of_value(const T* b, T* q, T* r, T v, u32 n)
 {

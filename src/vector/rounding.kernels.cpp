@@ -38,22 +38,27 @@ struct Up {
 template <class V> inline V near_integer(V x)
 {
     const V sign = both(x, all<V>(-0.0)), size = without(x, all<V>(-0.0)), limit = all<V>(allWhole);
-    const V near = either((size + limit) - limit, sign), fraction = less(size, limit);
+    const V whole = without((size + limit) - limit, all<V>(-0.0)); // where rounding downward, a zero is -0.0
+    const V near = either(whole, sign), fraction = less(size, limit);
     return either(both(near, fraction), without(x, fraction));
+}
+// "step" where the mask is set. Zeros get the sign of x: -0.0 between -1 and 0.
+template <class V> inline V stepped(V x, V near, V mask, f64 step)
+{
+    return either(near + both(mask, all<V>(step)), both(x, all<V>(-0.0)));
 }
 struct Down {
     template <class V> V operator()(V x) const
     {
         const V near = near_integer(x);
-        return near - both(less(x, near), all<V>(1.0));
+        return stepped(x, near, less(x, near), -1.0);
     }
 };
 struct Up {
     template <class V> V operator()(V x) const
     {
         const V near = near_integer(x);
-        const V up = near + both(less(near, x), all<V>(1.0));
-        return either(up, both(x, all<V>(-0.0))); // -0.0 between -1 and 0
+        return stepped(x, near, less(near, x), 1.0);
     }
 };
 

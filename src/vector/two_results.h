@@ -1,6 +1,6 @@
 // Quotients and remainders in one pass: loops with two destinations.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/compact_loop.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -30,30 +30,17 @@ template <class V> struct Division {
     V quotient, remainder;
 };
 
-template <size_t bytes, class T, class Op, class... A>
-[[gnu::always_inline]] inline void map_division_short(size_t n, T* q, T* r, Op op, A... a)
-{
-    constexpr size_t part = bytes / sizeof(T);
-    if constexpr (part == 0) {
-        return;
-    } else if (n >= part) {
-        const size_t last = n - part;
-        const auto head = op(load_part<bytes>(a)...), tail = op(load_part<bytes>(a + last)...);
-        store_part<bytes>(q, head.quotient);
-        store_part<bytes>(r, head.remainder);
-        store_part<bytes>(q + last, tail.quotient);
-        store_part<bytes>(r + last, tail.remainder);
-    } else {
-        map_division_short<bytes / 2>(n, q, r, op, a...);
-    }
-}
-
-// As map, with two destinations: {q[i], r[i]} = op(a[i], ...).
+// As map, with two destinations: {q[i], r[i]} = op(a[i], ...), of vectors of elements only: none is divided by zero.
 template <class T, class Op, class... A>
 [[gnu::always_inline]] inline void map_division(size_t n, T* q, T* r, Op op, A... a)
 {
     constexpr size_t L = lanes<T>;
-    if (n < L) return map_division_short<vectorBytes / 2>(n, q, r, op, a...);
+    if (n < L) {
+        const auto v = op(load_ends(a, n)...);
+        store_ends(q, n, v.quotient);
+        store_ends(r, n, v.remainder);
+        return;
+    }
     T *const firstQ = q, *const firstR = r, *const lastQ = q + (n - L), *const lastR = r + (n - L);
     const auto head = op(loadn<L>(a)...), tail = op(loadn<L>(a + (n - L))...);
     const size_t skip = misalignment(q);

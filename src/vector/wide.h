@@ -42,10 +42,10 @@ inline Wide operator+(Wide a, Wide b)
     if (sum - sum != 0) return {sum, 0};
     if (a.m == 0) return b.m == 0 ? Wide{sum, 0} : b;
     if (b.m == 0) return a;
-    // What is so much smaller changes nothing.
+    // What is so much smaller, however much, shows at most the direction in which to round.
     const int above = a.e - b.e;
-    if (above > 200) return a;
-    if (above < -200) return b;
+    if (above > 200) return normalized(a.m + b.m * 0x1p-200, a.e);
+    if (above < -200) return normalized(a.m * 0x1p-200 + b.m, b.e);
     return normalized(a.m * power_of_two(above) + b.m, b.e);
 }
 

@@ -40,8 +40,8 @@ _checked_call:
     movl %ecx, 92(%eax)
     movl %eax, CURRENT
     movl %esp, 36(%eax)
-    stmxcsr 68(%eax)
-    fnstcw 76(%eax)
+    stmxcsr 224(%eax)
+    fnstcw 228(%eax)
     /* room for the words, then the wanted phase */
     movl 8(%eax), %ecx
     leal 64(,%ecx,4), %edx
@@ -53,10 +53,21 @@ _checked_call:
     cld
     rep movsl
     movl %esp, 40(%eax)
+    /* from above, as stacks grow where their pages are made one by one */
+    movl 236(%eax), %ecx
+    movl %esp, %edx
+    jecxz 5f
+4:  subl $4, %edx
+    movl $0x5ac35ac3, (%edx)
+    loop 4b
+5:  movl %edx, 232(%eax)
     cmpl $0, 88(%eax)
     je 1f
     vzeroupper
-1:  movl (%eax), %edx
+1:  fnclex
+    fldcw 76(%eax)
+    ldmxcsr 68(%eax)
+    movl (%eax), %edx
     movl $0x11b0b0b1, %ebx
     movl $0x22515152, %esi
     movl $0x33d1d1d3, %edi
@@ -73,18 +84,28 @@ _checked_call:
     movl %esi, 52(%ecx)
     movl %edi, 56(%ecx)
     movl %ebp, 60(%ecx)
+    stmxcsr 72(%ecx)
+    ldmxcsr 224(%ecx)
+    fnstcw 80(%ecx)
     movl 36(%ecx), %esp
     pushfl
     popl 64(%ecx)
     cld
-    stmxcsr 72(%ecx)
-    fnstcw 80(%ecx)
+    movl 232(%ecx), %edx
+4:  cmpl 40(%ecx), %edx
+    je 5f
+    cmpl $0x5ac35ac3, (%edx)
+    jne 5f
+    addl $4, %edx
+    jmp 4b
+5:  movl %edx, 232(%ecx)
     subl $32, %esp
     fnstenv (%esp)
     movl 8(%esp), %eax
     movl %eax, 84(%ecx)
     fldenv (%esp)
     addl $32, %esp
+    fldcw 228(%ecx)
     cmpl $0, 16(%ecx)
     je 2f
     fstpl 28(%ecx)
@@ -120,8 +141,8 @@ checked_call:
     movq %rcx, 296(%rax)
     movq %rax, CURRENT
     movq %rsp, 72(%rax)
-    stmxcsr 136(%rax)
-    fnstcw 152(%rax)
+    stmxcsr 560(%rax)
+    fnstcw 564(%rax)
     movq 16(%rax), %rcx
     leaq 64(,%rcx,8), %rdx
     subq %rdx, %rsp
@@ -132,10 +153,20 @@ checked_call:
     cld
     rep movsq
     movq %rsp, 80(%rax)
+    movq 576(%rax), %rcx
+    movq %rsp, %rdx
+    jrcxz 5f
+4:  subq $8, %rdx
+    movq $0x5ac35ac3, (%rdx)
+    loop 4b
+5:  movq %rdx, 568(%rax)
     cmpq $0, 176(%rax)
     je 1f
     vzeroupper
-1:  movsd 184(%rax), %xmm0
+1:  fnclex
+    fldcw 152(%rax)
+    ldmxcsr 136(%rax)
+    movsd 184(%rax), %xmm0
     movsd 192(%rax), %xmm1
     movsd 200(%rax), %xmm2
     movsd 208(%rax), %xmm3
@@ -171,18 +202,28 @@ checked_call:
     movq %r13, 120(%rcx)
     movq %r14, 128(%rcx)
     movq %r15, 168(%rcx)
+    stmxcsr 144(%rcx)
+    ldmxcsr 560(%rcx)
+    fnstcw 160(%rcx)
     movq 72(%rcx), %rsp
     pushfq
     popq 64(%rcx)
     cld
-    stmxcsr 144(%rcx)
-    fnstcw 160(%rcx)
+    movq 568(%rcx), %rdx
+4:  cmpq 80(%rcx), %rdx
+    je 5f
+    cmpq $0x5ac35ac3, (%rdx)
+    jne 5f
+    addq $8, %rdx
+    jmp 4b
+5:  movq %rdx, 568(%rcx)
     subq $32, %rsp
     fnstenv (%rsp)
     movl 8(%rsp), %eax
     movl %eax, 164(%rcx)
     fldenv (%rsp)
     addq $32, %rsp
+    fldcw 564(%rcx)
     cmpq $0, 176(%rcx)
     je 3f
     vextractf128 $1, %ymm0, 304(%rcx)

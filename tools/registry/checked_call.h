@@ -1,4 +1,6 @@
-// A call by argument words, from known registers, at a chosen stack alignment, with a record of what it leaves behind.
+// A call by argument words, from known registers and floating-point modes, at a chosen stack alignment, with a record
+// of what it leaves behind. The modes of "before" are loaded for the call alone; so many words of the stack below it
+// are painted, and looked at afterwards.
 // Calls may run in several threads and one inside another.
 #pragma once
 #include <cstddef>
@@ -25,9 +27,12 @@ struct CheckedCall {
     uintptr_t avx; // 88: look at the upper halves of the AVX registers
     uintptr_t outer; // 92: the record of the call that this one is made from
     uint8_t upper[8][16]; // 96
+    uint32_t callerMxcsr, callerControl; // 224
+    uintptr_t deepest; // 232: the lowest word that changed
+    uintptr_t painted; // 236: words of stack
 } __attribute__((packed));
 inline constexpr uintptr_t savedPattern[4] = {0x11b0b0b1, 0x22515152, 0x33d1d1d3, 0x44b9b9b4};
-static_assert(offsetof(CheckedCall, upper) == 96);
+static_assert(offsetof(CheckedCall, painted) == 236);
 #else
 struct CheckedCall {
     void (*entry)(); // 0
@@ -49,10 +54,13 @@ struct CheckedCall {
     uintptr_t integers[6]; // 248
     uintptr_t outer; // 296: the record of the call that this one is made from
     uint8_t upper[16][16]; // 304
+    uint32_t callerMxcsr, callerControl; // 560
+    uintptr_t deepest; // 568
+    uintptr_t painted; // 576
 };
 inline constexpr uintptr_t savedPattern[5] = {0x11b0b0b1, 0x22b9b9b4, 0x33121213, 0x44131314, 0x55141415};
 inline constexpr uintptr_t savedPattern15 = 0x66151516;
-static_assert(offsetof(CheckedCall, upper) == 304);
+static_assert(offsetof(CheckedCall, painted) == 576);
 #endif
 
 } // namespace registry

@@ -1,8 +1,14 @@
 #include "invoke.h"
 #include <cstring>
+#include <xmmintrin.h>
 
 namespace registry {
+
+Surroundings surroundings;
+
 namespace {
+
+constexpr uint32_t exceptionFlags = 0x3F;
 
 class Words : public CallWords
 {
@@ -110,7 +116,6 @@ std::string intrusionOf(const CheckedCall& c, uintptr_t poppedBytes, bool return
     if (c.saved15 != savedPattern15) said += "r15; ";
 #endif
     if (c.flags & 0x400) said += "direction flag; ";
-    constexpr uint32_t exceptionFlags = 0x3F;
     if ((c.mxcsrAfter ^ c.mxcsrBefore) & ~exceptionFlags) said += "MXCSR; ";
     if (static_cast<uint16_t>(c.controlAfter) != static_cast<uint16_t>(c.controlBefore)) said += "x87 control word; ";
     int used = 0;
@@ -136,6 +141,10 @@ Answer run(Entry entry, const Function& f, const CallWords& w, int phase, bool s
     c.phase = static_cast<uintptr_t>(phase);
     c.returnsFloat = returnsFloat;
     c.avx = hasAvx();
+    c.mxcsrBefore = (surroundings.mxcsr ? surroundings.mxcsr : _mm_getcsr()) & ~exceptionFlags;
+    c.controlBefore = surroundings.control;
+    if (!c.controlBefore) asm("fnstcw %0" : "=m"(c.controlBefore));
+    c.painted = surroundings.paintedStack / sizeof(uintptr_t);
     checked_call(&c);
     Answer answer;
     const bool popped = standardCall && sizeof(uintptr_t) == 4;
@@ -146,6 +155,8 @@ Answer run(Entry entry, const Function& f, const CallWords& w, int phase, bool s
     answer.intrusion = intrusionOf(c, 0, returnsFloat);
 #endif
     answer.number = c.floatResult;
+    answer.raised = c.mxcsrAfter & exceptionFlags;
+    answer.stackBytes = c.stackBefore - c.deepest;
     long long wide;
     std::memcpy(&wide, c.result, sizeof wide);
     switch (f.result) {

@@ -11,7 +11,17 @@ struct Answer {
     long long status = 0;  // the result as an integer: status, count, 64-bit value, pointer
     double number = 0;     // the result of a function that returns a double
     std::string intrusion; // what the call changed that it must not; empty: nothing
+    uint32_t raised = 0;   // exception flags in MXCSR that the call set
+    size_t stackBytes = 0; // how deep it went, as far as the stack was painted
 };
+
+// What calls run with, from now on.
+struct Surroundings {
+    uint32_t mxcsr = 0;      // modes and masks, without flags; 0: the caller's
+    uint32_t control = 0;    // of x87; 0: the caller's
+    size_t paintedStack = 0; // bytes below the stack pointer that are looked at
+};
+extern Surroundings surroundings;
 
 // The plain form, or the argument list of an _Idx form that is written out.
 Answer invoke(Entry entry, const Function& f, const Value* values, int stackPhase = 0);

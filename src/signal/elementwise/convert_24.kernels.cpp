@@ -235,13 +235,13 @@ template <class D> void convert_plain(const f32* a, D* d, int n, int mode, Scale
 template <class D> [[gnu::noinline]] void convert(const f32* a, D* d, int n, int mode, int s)
 {
 #if SIG5D_LEVEL > 0
-    const Scale scale(s, 126);
+    const Scale scale(s, mostScaled<f32>);
     if (scale.simple() && rounds_to_nearest()) {
         const f32 factor = static_cast<f32>(scale.first);
         const size_t count = static_cast<size_t>(n);
-        if (mode == TowardZero) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, TowardZero>{factor});
-        if (mode == NearestEven) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestEven>{factor});
-        return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestAway>{factor});
+        if (mode == TowardZero) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, TowardZero>(factor));
+        if (mode == NearestEven) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestEven>(factor));
+        return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestAway>(factor));
     }
 #endif
     convert_plain(a, d, n, mode, Scale(s));

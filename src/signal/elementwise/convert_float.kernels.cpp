@@ -15,14 +15,12 @@ struct ToSingle {
     {
         if constexpr (n > 4)
 #if SIG5D_LEVEL >= 4
-            return _mm256_set_m128(to<4>(p + 4), to<4>(p));
-        else if constexpr (n == 4)
-            return _mm256_cvtpd_ps(load_lanes<4>(p));
+            return _mm256_set_m128(_mm256_cvtpd_ps(loadn<4>(p + 4)), _mm256_cvtpd_ps(loadn<4>(p)));
 #else
             return Vec<f32, 8>{}; // no such vectors
-        else if constexpr (n == 4)
-            return _mm_movelh_ps(to<2>(p), to<2>(p + 2));
 #endif
+        else if constexpr (n == 4) // of short arrays: in 16 bytes, so that the compiler need not leave those of 32
+            return _mm_movelh_ps(to<2>(p), to<2>(p + 2));
         else
             return _mm_cvtpd_ps(load_lanes<n>(p));
     }

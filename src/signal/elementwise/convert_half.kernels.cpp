@@ -73,35 +73,46 @@ void convert(const f16* a, f32* d, int n) { convert_all(static_cast<size_t>(n), 
 
 #if SIG5D_LEVEL >= 5
 
-// By the processor, which knows neither ties away from zero nor an overflow to infinity when rounding toward zero.
+// By the processor, which knows neither ties away from zero nor an overflow to infinity when rounding toward zero, and
+// would raise an exception at any overflow.
 template <Rounding mode> struct ToHalf {
-    template <class V> static V prepared(V x)
+    // Where no magnitude reaches 2, which takes one test to see, little is left to do.
+    template <class V> static V prepared(V x, bool small)
     {
         using I = Vec<i32, sizeof(V) / 4>;
+        constexpr i32 infinite = static_cast<i32>(singleInfinity);
+        constexpr f32 beyond = mode == TowardZero ? 0x1p16f : 0x1.ffep15f; // the least that becomes infinite
         const I bits = reinterpret_cast<I>(x);
-        if constexpr (mode == NearestAway) {
-            // The last bit, far below those that stay, makes more than a tie of a tie. An infinite number would become
-            // a NaN: it is limited to what is rounded to infinity all the same.
-            const V limit = all<V>(0x1p16f), y = larger(-limit, smaller(limit, x)); // NaNs stay
-            return reinterpret_cast<V>(reinterpret_cast<I>(y) | 1);
-        } else if constexpr (mode == TowardZero) {
-            const V magnitude = reinterpret_cast<V>(bits & 0x7FFFFFFF);
-            const I beyond = magnitude >= all<V>(0x1p16f);
-            return reinterpret_cast<V>((bits & ~(beyond & 0x007FFFFF)) | (beyond & static_cast<i32>(singleInfinity)));
-        } else {
-            return x;
-        }
+        if (small) return mode == NearestAway ? reinterpret_cast<V>(bits | 1) : x;
+        const I magnitude = bits & 0x7FFFFFFF;
+        const I overflow = magnitude > all<I>(__builtin_bit_cast(i32, beyond) - 1);
+        I y = (bits ^ magnitude) | higher(magnitude, overflow & infinite); // NaNs stay
+        // The last bit, far below those that stay, makes more than a tie of a tie.
+        if constexpr (mode == NearestAway) y |= ~overflow & 1;
+        return reinterpret_cast<V>(y);
     }
 
     template <int n> auto to(const f32* p) const
     {
         constexpr int direction = mode == TowardZero ? _MM_FROUND_TO_ZERO : _MM_FROUND_TO_NEAREST_INT;
-        if constexpr (n == 16)
-            return reinterpret_cast<Vec<i16, 16>>(_mm256_set_m128i(bits128(to<8>(p + 8)), bits128(to<8>(p))));
-        else if constexpr (n == 8)
-            return reinterpret_cast<Vec<i16, 8>>(_mm256_cvtps_ph(prepared(loadn<8>(p)), direction));
-        else
-            return reinterpret_cast<Vec<i16, 8>>(_mm_cvtps_ph(prepared(load_lanes<n>(p)), direction));
+        if constexpr (n == 16) {
+            auto low = loadn<8>(p), high = loadn<8>(p + 8);
+            const bool small =
+                _mm256_testz_si256(_mm256_or_si256(bits256(low), bits256(high)), _mm256_set1_epi32(0x40000000));
+            if (small) {
+                low = prepared(low, true);
+                high = prepared(high, true);
+            } else {
+                low = prepared(low, false);
+                high = prepared(high, false);
+            }
+            return reinterpret_cast<Vec<i16, 16>>(
+                _mm256_set_m128i(_mm256_cvtps_ph(high, direction), _mm256_cvtps_ph(low, direction)));
+        } else if constexpr (n == 8) {
+            return reinterpret_cast<Vec<i16, 8>>(_mm256_cvtps_ph(prepared(loadn<8>(p), false), direction));
+        } else {
+            return reinterpret_cast<Vec<i16, 8>>(_mm_cvtps_ph(prepared(load_lanes<n>(p), false), direction));
+        }
     }
 };
 

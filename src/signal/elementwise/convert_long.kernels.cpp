@@ -36,7 +36,7 @@ constexpr u64 significand = (u64(1) << 52) - 1, leading = u64(1) << 52;
 
 inline i64 rounded_long(f64 x, Scale scale, int mode)
 {
-    const f64 y = x * scale.first * scale.second;
+    const f64 y = limited_product(x, scale);
     if (!(y > -limit)) return -0x7FFFFFFFFFFFFFFF - 1; // also NaN
     if (y >= limit) return 0x7FFFFFFFFFFFFFFF;
     const u64 bits = __builtin_bit_cast(u64, y), m = (bits & significand) | leading;
@@ -71,16 +71,17 @@ inline __m256d floor(__m256d x) { return _mm256_floor_pd(x); }
 
 // A rounded double is split into two of 32 bits, whose integers are the last bits of sums. All of that is exact.
 template <bool even> struct RoundedLong {
-    f64 factor, bias; // bias: unless "even", added in magnitude before truncation
+    static constexpr f64 most = 0x1.fffffffffffffp62; // the largest double below the limit
+    f64 factor, bias;                                 // bias: unless "even", added in magnitude before truncation
+    f64 least, largest;                               // limits of what is scaled
+    RoundedLong(f64 f, f64 b) : factor(f), bias(b), least(-limit / f), largest(most / f) {}
 
     template <class V> auto rounded(V x) const
     {
         constexpr int n = sizeof(V) / sizeof(f64);
         using I = Vec<i64, n>;
         using U = Vec<u64, n>;
-        constexpr f64 most = 0x1.fffffffffffffp62; // the largest double below the limit
-        const V scaled = x * factor;
-        V y = smaller(larger(scaled, splatn<n>(-limit)), splatn<n>(most));
+        V y = smaller(larger(x, splatn<n>(least)), splatn<n>(largest)) * factor;
         if constexpr (even)
             y = integral(y, 0);
         else
@@ -88,7 +89,7 @@ template <bool even> struct RoundedLong {
         const V high = floor(y * 0x1p-32), low = y - high * 0x1p32;
         const U highBits = reinterpret_cast<U>(high + 0x1.8p52) << 32,
                 lowBits = reinterpret_cast<U>(low + 0x1p52) ^ bits52;
-        const U beyond = reinterpret_cast<U>(scaled > splatn<n>(most)) >> 1; // all bits but the sign
+        const U beyond = reinterpret_cast<U>(x > splatn<n>(largest)) >> 1; // all bits but the sign
         return reinterpret_cast<I>((highBits + lowBits) | beyond);
     }
     template <int n> auto to(const f64* p) const { return rounded(load_lanes<n>(p)); }
@@ -98,15 +99,15 @@ template <bool even> struct RoundedLong {
 
 [[gnu::noinline]] void convert(const f64* a, i64* d, int n, int mode, int s)
 {
-    const Scale scale(s);
 #if SIG5D_LEVEL >= 3
+    const Scale scale(s, mostScaled<f64>);
     if (scale.simple() && rounds_to_nearest()) {
         const size_t count = static_cast<size_t>(n);
-        if (mode == NearestEven) return convert_compact(count, a, d, RoundedLong<true>{scale.first, 0});
-        return convert_compact(count, a, d, RoundedLong<false>{scale.first, mode == NearestAway ? belowHalf<f64> : 0});
+        if (mode == NearestEven) return convert_compact(count, a, d, RoundedLong<true>(scale.first, 0));
+        return convert_compact(count, a, d, RoundedLong<false>(scale.first, mode == NearestAway ? belowHalf<f64> : 0));
     }
 #endif
-    convert_plain(a, d, n, mode, scale);
+    convert_plain(a, d, n, mode, Scale(s));
 }
 
 } // namespace

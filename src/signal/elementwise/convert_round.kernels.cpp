@@ -29,7 +29,7 @@ template <Rounding mode, bool scaled, class S, class D> void convert_vectors(con
     // Doubles become integers in 16 bytes: to join those to longer vectors takes more than to store them.
     constexpr int bytes = sizeof(S) == 8 ? 16 : vectorBytes;
     using Integers = Rounded<S, LimitsOf<D>, mode, scaled>;
-    convert_compact<bytes>(static_cast<size_t>(n), a, d, Narrow<D, Integers>{{static_cast<S>(factor)}});
+    convert_compact<bytes>(static_cast<size_t>(n), a, d, Narrow<D, Integers>{Integers(static_cast<S>(factor))});
 }
 
 #endif
@@ -37,8 +37,7 @@ template <Rounding mode, bool scaled, class S, class D> void convert_vectors(con
 template <class S, class D> [[gnu::noinline]] void convert(const S* a, D* d, int n, int mode, int s)
 {
 #if SIG5D_LEVEL > 0
-    // Products in the precision of the source are exact, or on the way to zero or to a limit.
-    const Scale scale(s, sizeof(S) == 4 ? 126 : 1022);
+    const Scale scale(s, mostScaled<S>);
     if (scale.simple() && rounds_to_nearest()) {
         const f64 factor = scale.first;
         if (s == 0 && n >= 64) { // for long arrays only, which saves code

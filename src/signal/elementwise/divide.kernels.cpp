@@ -23,9 +23,10 @@ struct RealQuotient {
         const auto none = b == V{};
         if (!any(lanes_set(none), zeroDivisors)) return q;
         // By +0, also instead of -0: infinity with the dividend's sign, and of zero by zero the NaN wanted. A NaN that
-        // was there before would keep its payload.
-        const V limit = a / V{};
-        return none ? (limit != limit ? from_bits<V>(indefiniteBits) : limit) : q;
+        // was there before would keep its payload. Not by a quotient, which other elements would take part in.
+        const V infinite = with_sign(from_bits<V>(infinityBits), a), nan = from_bits<V>(indefiniteBits);
+        const V finite = a == a ? infinite : nan;
+        return none ? (a == V{} ? nan : finite) : q;
     }
 };
 

@@ -82,22 +82,25 @@ template <class V> inline Parts<V> root_parts(const HalfRoot<V>& h)
 struct ComplexRoot {
     template <class V> struct Half : HalfRoot<V> {
         Parts<V> z;
+        int others; // lanes that are not usual: they are computed as if of 1
     };
     template <class V> Half<V> first(Parts<V> z) const
     {
-        return {half_root(absolute_value(z.re), absolute_value(z.im)), z};
+        const V x = absolute_value(z.re), y = absolute_value(z.im), larger = x > y ? x : y;
+        const auto usual = (larger >= constant<V>(0x1p-480)) & (larger <= constant<V>(0x1p500));
+        const V one = constant<V>(1);
+        return {half_root(usual ? x : one, usual ? y : one), z, lanes_set(usual) ^ allLanes<V>};
     }
     template <class V> Parts<V> second(const Half<V>& h) const
     {
-        const V larger = h.x > h.y ? h.x : h.y;
-        const int usual = lanes_set(larger >= constant<V>(0x1p-480)) & lanes_set(larger <= constant<V>(0x1p500));
         Parts<V> w = root_parts(h);
-        if (int others = usual ^ allLanes<V>; __builtin_expect(others, 0)) {
+        if (int others = h.others; __builtin_expect(others, 0)) {
             // Runs of zeros are ordinary.
-            const auto zero = (h.x == V{}) & (h.y == V{});
+            const V x = absolute_value(h.z.re), y = absolute_value(h.z.im);
+            const auto zero = (x == V{}) & (y == V{});
             w = {zero ? V{} : w.re, zero ? V{} : w.im};
             others &= ~lanes_set(zero);
-            if (others) replace(w, others, h.x, h.y);
+            if (others) replace(w, others, x, y);
         }
         const auto negative = h.z.re < V{};
         return {negative ? w.im : w.re, with_sign(negative ? w.re : w.im, h.z.im)};

@@ -5,7 +5,7 @@
 // that, if the significand has more bits than dividend, divisor and result leave open: doubles always do, single
 // precision does for 8 bits, and for 16 bits while results are not scaled up.
 #include "frame/entry.h"
-#include "kernel/minmax.h"
+#include "kernel/plain_rounding.h"
 #include "kernel/repeated.h"
 #include "kernel/scale.h"
 #include <emmintrin.h>
@@ -25,22 +25,27 @@ template <class F> inline F scale_of(int s)
     return static_cast<F>(__builtin_bit_cast(f64, static_cast<u64>(1023 - s) << 52));
 }
 
-#if SIG5D_LEVEL == 0
-
-inline i64 nearest(f64 q) { return _mm_cvtsd_si32(_mm_set_sd(q)); }
-
-template <class T, class F> struct Quotient {
-    F scale;
+// The plain form, for any rounding direction of the thread: that may change the last bit of the quotient only, which
+// lies on the same side of ties as before.
+template <class T> struct PlainQuotient {
+    f64 scale;
     int& zeroDivisors;
     T operator()(T x, T y) const
     {
         zeroDivisors |= y == 0;
-        const f64 q = static_cast<f64>(x) * scale / (y == 0 ? insteadOfZero<f64> : y);
-        return saturated<T>(nearest(q < lowest_of<i32> ? lowest_of<i32> : q > highest<i32> ? highest<i32> : q));
+        const f64 q = x * scale / (y == 0 ? insteadOfZero<f64> : y);
+        return saturated<T>(rounded<Limits<32, true>>(q, Scale(0), NearestEven));
     }
 };
+template <class T, class... A> [[gnu::noinline]] Status run_plain(size_t n, T* d, int s, A... a)
+{
+    int zeroDivisors = 0;
+    const PlainQuotient<T> quotient{scale_of<f64>(s), zeroDivisors};
+    for (size_t i = 0; i < n; ++i) d[i] = quotient(a[i]...);
+    return zeroDivisors ? StsDivByZero : StsNoErr;
+}
 
-#else
+#if SIG5D_LEVEL > 0
 
 // 32-bit integers as floating-point numbers, in as many vectors as they take, and back to the nearest.
 inline __m128 singles(__m128i x) { return _mm_cvtepi32_ps(x); }
@@ -138,8 +143,6 @@ template <class T, class F> struct QuotientByValue {
     }
 };
 
-#endif
-
 template <class F, class T, class... A> [[gnu::noinline]] Status run(size_t n, T* d, int s, A... a)
 {
     int zeroDivisors = 0;
@@ -148,24 +151,30 @@ template <class F, class T, class... A> [[gnu::noinline]] Status run(size_t n, T
 }
 template <class F, class T> [[gnu::noinline]] void run_by_value(size_t n, const T* a, T v, T* d, int s)
 {
-#if SIG5D_LEVEL == 0
-    run<F>(n, d, s, a, repeated(v));
-#else
     map_compact<2>(n, d, QuotientByValue<T, F>{v, s}, a);
-#endif
 }
 
 // Single precision is enough.
 template <class T> constexpr bool isShort(int s) { return sizeof(T) == 1 || (sizeof(T) == 2 && s >= 0); }
 
-// b / a: the divisor comes first.
+#endif
+
+// b / a: the divisor comes first. Vectors need a processor that rounds to the nearest.
 template <class T> Status divide(const T* a, const T* b, T* d, int n, int s)
 {
-    return isShort<T>(s) ? run<f32>(count(d, n), d, s, b, a) : run<f64>(count(d, n), d, s, b, a);
+#if SIG5D_LEVEL > 0
+    if (rounds_to_nearest())
+        return isShort<T>(s) ? run<f32>(count(d, n), d, s, b, a) : run<f64>(count(d, n), d, s, b, a);
+#endif
+    return run_plain(count(d, n), d, s, b, a);
 }
 template <class T> void divide(const T* a, T v, T* d, int n, int s)
 {
-    isShort<T>(s) ? run_by_value<f32>(count(d, n), a, v, d, s) : run_by_value<f64>(count(d, n), a, v, d, s);
+#if SIG5D_LEVEL > 0
+    if (rounds_to_nearest())
+        return isShort<T>(s) ? run_by_value<f32>(count(d, n), a, v, d, s) : run_by_value<f64>(count(d, n), a, v, d, s);
+#endif
+    run_plain(count(d, n), d, s, a, repeated(v));
 }
 
 } // namespace

@@ -72,8 +72,9 @@ template <class V> inline Scaled<V> scaled(Parts<V> x)
     const auto infinite = most == infinity;
     most = larger(most, all_lanes<V>(0x1p-1022));
     const V scale = infinite ? zero : to_one_digit(most);
-    return {infinite ? with_sign(re == infinity ? one : zero, x.re) : x.re * scale,
-            infinite ? with_sign(im == infinity ? one : zero, x.im) : x.im * scale, scale};
+    const Parts<V> finite = {infinite ? zero : x.re, infinite ? zero : x.im};
+    return {infinite ? with_sign(re == infinity ? one : zero, x.re) : finite.re * scale,
+            infinite ? with_sign(im == infinity ? one : zero, x.im) : finite.im * scale, scale};
 }
 
 // Keeps the phase and sets the magnitude; 0 has phase 0. Parts that are not selected take no part in the computation.
@@ -85,7 +86,8 @@ template <class Compare> struct SetMagnitude {
         if (!any(selected)) return x;
         const V zero = all_lanes<V>(0), l = all_lanes<V>(level);
         const auto usable = selected & ((x.re != zero) | (x.im != zero));
-        const Scaled<V> s = scaled(Parts<V>{usable ? x.re : all_lanes<V>(1), usable ? x.im : zero});
+        const V one = all_lanes<V>(1); // whatever the level, what is not selected makes numbers with it
+        const Scaled<V> s = scaled(Parts<V>{usable ? x.re : one, usable ? x.im : selected ? zero : one});
         const V r = square_root(s.re * s.re + s.im * s.im);
         return {selected ? s.re / r * l : x.re, selected ? s.im / r * l : x.im};
     }

@@ -2,7 +2,7 @@
 // Comparisons are written so that a NaN meets none of them and passes.
 #pragma once
 #include "kernel/compact_loop.h"
-#include "kernel/minmax.h"
+#include "kernel/plain_rounding.h"
 #include "kernel/saturate.h"
 #include "kernel/select.h"
 
@@ -36,13 +36,14 @@ template <class T> struct LimitAbove {
 
 // Levels of magnitudes are not negative. The plain form needs no magnitude, and so no wider type for that of the lowest
 // integer; vectors take it as an unsigned number.
-template <class T> struct LimitMagnitudeBelow {
+template <class T, bool toNearest = true> struct LimitMagnitudeBelow {
     T level;
     template <class V> V operator()(V x) const
     {
 #if SIG5D_LEVEL > 0
-        if constexpr (sizeof(T) == 8) {
-            // -0 is not negative: where the level is above 0 it becomes the level, too.
+        if constexpr (sizeof(T) == 8 && toNearest) {
+            // -0 is not negative: where the level is above 0 it becomes the level, too. Rounded downward the sum would
+            // be -0 again.
             const V zero = all_lanes<V>(level > 0 ? 0.0 : -0.0);
             return with_sign(larger(all_lanes<V>(level), absolute_value(x)), x + zero);
         }
@@ -105,6 +106,7 @@ template <class T> void limit_above(const T* a, T* d, int n, T level) { each(a, 
 
 template <class T> void limit_magnitude_below(const T* a, T* d, int n, T level)
 {
+    if (sizeof(T) == 8 && !rounds_to_nearest()) return each(a, d, n, LimitMagnitudeBelow<T, false>{level});
     each(a, d, n, LimitMagnitudeBelow<T>{level});
 }
 template <class T> void limit_magnitude_above(const T* a, T* d, int n, T level)

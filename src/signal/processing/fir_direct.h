@@ -69,14 +69,21 @@ template <int w> struct Side<c64f, w> {
 template <> struct Side<c64f, 1> {
     static constexpr int width = 1;
     using Sum = c64f;
-    using Tap = c64f;
+    struct Tap {
+        f64 re, im, minusIm;
+    };
     using Signal = c64f;
     static Sum zero() { return {0.0, 0.0}; }
-    static Tap tap(const c64f& h) { return h; }
+    static Tap tap(const c64f& h)
+    {
+        f64 minusIm = -h.im;
+        asm("" : "+x"(minusIm)); // a subtraction would round differently in some directions
+        return {h.re, h.im, minusIm};
+    }
     static Signal signal(const c64f* x) { return *x; }
     static void add(Sum& s, const Tap& h, const Signal& x)
     {
-        s.re += h.re * x.re - h.im * x.im;
+        s.re += h.re * x.re + h.minusIm * x.im;
         s.im += h.re * x.im + h.im * x.re;
     }
     static void put(c64f* y, const Sum& s) { *y = s; }

@@ -2,8 +2,8 @@
 //
 // Each output is one running sum that starts from 0.0 and takes the oldest input first, over the taps that meet an
 // input; so every vector width and every arrangement gives the same bits. Outside an output's window the matrix has
-// zeros, which add nothing to a running sum (it is never -0.0), unless an input there is infinite or NaN: then the
-// output becomes NaN and is computed again from its window alone.
+// zeros, which add nothing to a running sum but to -0.0, which only some rounding directions give; unless an input
+// there is infinite or NaN: then the output becomes NaN and is computed again from its window alone.
 #pragma once
 #include "signal/processing/fir_broadcast.h"
 #include "signal/processing/fir_spec.h"
@@ -52,13 +52,14 @@ template <class T> void buildGroup(const MultiRateLayout& at, const T* taps, i64
     }
 }
 
-// Output l of a group, from the inputs of its window alone.
+// Output l of a group, from the inputs of its window alone, as far as it is NaN.
 template <class T, int doubles>
 [[gnu::noinline, gnu::cold]] void recompute(const Group& g, const f64* rows, const T* x, T* y, int l)
 {
     constexpr int parts = sizeof(T) / sizeof(f64);
     f64* sum = reinterpret_cast<f64*>(y + l);
     for (int p = 0; p < parts; ++p) {
+        if (sum[p] == sum[p]) continue;
         f64 s = 0.0;
         for (int e = g.from[l]; e < g.to[l]; ++e) {
             const f64* tap = rows + e * parts * doubles + l * parts + p;
