@@ -195,9 +195,9 @@ inline void transpose_copy(u8* const* piece, Out<size> d)
 
 // Past the caches, where every row of the result begins at the same place of a line. Two lines of each row are read and
 // two written, since single lines took up to 1.4 times as long; fewer of short elements, so that a tile has 4 KB: calls
-// are to do with little stack.
+// are to do with little stack. Of two bytes, two lines written and one read took less time than the other way round.
 template <int size>
-using TilePastCaches = Tile<size, (size < 4 ? 1 : 2) * lineBytes / size, (size < 2 ? 1 : 2) * lineBytes / size>;
+using TilePastCaches = Tile<size, (size < 2 ? 1 : 2) * lineBytes / size, (size < 4 ? 1 : 2) * lineBytes / size>;
 
 template <int size, int width, bool conj, int columns>
 void transpose_past_caches(In<size> a, Out<size> d, size_t rows, size_t cols)
