@@ -21,11 +21,11 @@ extern const Processor thisProcessor;
 // machine (some microseconds each).
 struct Identity {
     Processor processor;
-    u32 maxLeaf = 0;     // 0: leaf 1 and above do not exist
-    u32 maxExtended = 0; // below 0x80000001: no extended leaves
+    u32 maxLeaf = 0;          // 0: leaf 1 and above do not exist
+    u32 maxExtended = 0;      // below 0x80000001: no extended leaves
     u32 extendedFeatures = 0; // ECX of leaf 0x80000001
-    bool intel = false;  // the leaf 0 string is "GenuineIntel"
-    bool amd = false;    // it ends in "cAMD"
+    bool intel = false;       // the leaf 0 string is "GenuineIntel"
+    bool amd = false;         // it ends in "cAMD"
 
     bool topologyExtensions() const { return extendedFeatures >> 22 & 1; } // leaves 0x8000001D and 0x8000001E count
     CpuidRegs leaf(u32 number, u32 subleaf = 0) const { return processor.cpuid(number, subleaf); }

@@ -47,8 +47,7 @@ template <class V> inline V with_sign(V x, V y)
 inline int lanes_set(bool mask) { return mask; }
 #if SIG5D_LEVEL > 0
 template <class Mask>
-    requires(sizeof(Mask) >= 16)
-inline int lanes_set(Mask mask)
+requires(sizeof(Mask) >= 16) inline int lanes_set(Mask mask)
 {
 #if SIG5D_LEVEL >= 4
     if constexpr (sizeof(Mask) == 32)

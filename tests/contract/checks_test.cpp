@@ -14,10 +14,14 @@ using registry::Kind;
 long long fitting(long long x, registry::Element type)
 {
     switch (type) {
-    case registry::Element::u8: return static_cast<uint8_t>(x);
-    case registry::Element::i16: return static_cast<int16_t>(x);
-    case registry::Element::u16: return static_cast<uint16_t>(x);
-    default: return x;
+    case registry::Element::u8:
+        return static_cast<uint8_t>(x);
+    case registry::Element::i16:
+        return static_cast<int16_t>(x);
+    case registry::Element::u16:
+        return static_cast<uint16_t>(x);
+    default:
+        return x;
     }
 }
 

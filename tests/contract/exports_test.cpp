@@ -51,20 +51,28 @@ std::string resultName(const registry::Function& f)
 {
     using registry::Result;
     switch (f.result) {
-    case Result::status: return "status";
-    case Result::none: return "void";
-    case Result::i32: return "32s";
-    case Result::u32: return "32u";
-    case Result::u64: return "64u";
-    case Result::f64: return "64f";
-    default: return "ptr";
+    case Result::status:
+        return "status";
+    case Result::none:
+        return "void";
+    case Result::i32:
+        return "32s";
+    case Result::u32:
+        return "32u";
+    case Result::u64:
+        return "64u";
+    case Result::f64:
+        return "64f";
+    default:
+        return "ptr";
     }
 }
 
 int bytes(const registry::Function& f, bool indexed)
 {
     int sum = 0;
-    for (int i = 0; i < f.argCount; ++i) sum += f.args[i].stackBytes + (indexed && registry::takesIndex(f.args[i]) ? 4 : 0);
+    for (int i = 0; i < f.argCount; ++i)
+        sum += f.args[i].stackBytes + (indexed && registry::takesIndex(f.args[i]) ? 4 : 0);
     return sum;
 }
 
@@ -110,7 +118,8 @@ TEST(Exports, AgreeWithTheWitness)
     for (const auto& [name, e] : expected) {
         bool isPending = false;
         for (const std::string& p : prefixes) isPending |= name.compare(0, p.size(), p) == 0;
-        EXPECT_NE(isPending, described.count(name) == 1) << name << (isPending ? " is there and pending" : " is missing");
+        EXPECT_NE(isPending, described.count(name) == 1)
+            << name << (isPending ? " is there and pending" : " is missing");
         EXPECT_EQ(isPending, support::find(name.c_str()) == nullptr) << name;
     }
 }

@@ -192,8 +192,8 @@ const Task tasks[] = {{"race", race},
                       {"selection-compared", selectionCompared},
                       {"cost", cost}};
 
-// The orders in which calls may meet are tested one by one elsewhere; here they meet as threads do. A process takes long
-// to start under Wine and with a sanitizer.
+// The orders in which calls may meet are tested one by one elsewhere; here they meet as threads do. A process takes
+// long to start under Wine and with a sanitizer.
 #ifdef _WIN32
 constexpr int processes = 4;
 #elif defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)

@@ -10,7 +10,7 @@
 struct Recorded {
     std::string name;
     std::map<std::pair<sig5d::u32, sig5d::u32>, sig5d::CpuidRegs> leaves; // (leaf, subleaf); others answer with zeros
-    std::vector<sig5d::CpuidRegs> rounds = {}; // what leaf 2 answers when it is asked again
+    std::vector<sig5d::CpuidRegs> rounds = {};                            // what leaf 2 answers when it is asked again
     sig5d::u64 xcr0 = 0;
     sig5d::u32 mxcsrMask = 0xFFFF;
     bool identifiable = true;

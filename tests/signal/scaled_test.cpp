@@ -86,7 +86,8 @@ template <class T> struct Pairs {
 
 std::vector<int> scaleFactors()
 {
-    std::vector<int> all = {INT_MIN, INT_MIN + 1, INT_MIN + 30, -65536, -1000, -257, -256, INT_MAX - 1, INT_MAX, 256, 1000, 65536};
+    std::vector<int> all = {INT_MIN, INT_MIN + 1, INT_MIN + 30, -65536, -1000, -257,
+                            -256,    INT_MAX - 1, INT_MAX,      256,    1000,  65536};
     for (int s = -66; s <= 96; ++s) all.push_back(s);
     return all;
 }

@@ -6,7 +6,8 @@
 
 namespace support {
 
-class GuardedRegion {
+class GuardedRegion
+{
 public:
     explicit GuardedRegion(size_t bytes);
     ~GuardedRegion(); // a 32-bit process has no addresses for the regions of a thousand functions
@@ -14,7 +15,7 @@ public:
     GuardedRegion& operator=(const GuardedRegion&) = delete;
 
     size_t size() const { return size_; }
-    uint8_t* own() const { return own_; } // the test's view
+    uint8_t* own() const { return own_; }             // the test's view
     uint8_t* readWrite() const { return readWrite_; } // the function's views of the same memory
     uint8_t* readOnly() const { return readOnly_; }
     void lock(bool locked) const; // makes readWrite() read-only, for memory that holds addresses of itself

@@ -4,8 +4,7 @@
 
 namespace support {
 
-template <class T>
-struct FftFunctions {
+template <class T> struct FftFunctions {
     void (*forward)(const void* plan, const T* x, T* spectrum, void* work);
     void (*inverse)(const void* plan, const T* spectrum, T* x, void* work);
     void (*multiply)(const void* plan, const T* a, const T* b, T* d);

@@ -6,7 +6,8 @@
 
 namespace support {
 
-class Sha256 {
+class Sha256
+{
 public:
     void add(const void* data, size_t bytes)
     {
@@ -49,8 +50,8 @@ private:
             0x748f82ee, 0x78a5636f, 0x84c87814, 0x8cc70208, 0x90befffa, 0xa4506ceb, 0xbef9a3f7, 0xc67178f2};
         uint32_t w[64];
         for (int i = 0; i < 16; ++i)
-            w[i] = uint32_t(block_[4 * i]) << 24 | uint32_t(block_[4 * i + 1]) << 16 | uint32_t(block_[4 * i + 2]) << 8 |
-                   block_[4 * i + 3];
+            w[i] = uint32_t(block_[4 * i]) << 24 | uint32_t(block_[4 * i + 1]) << 16 |
+                   uint32_t(block_[4 * i + 2]) << 8 | block_[4 * i + 3];
         for (int i = 16; i < 64; ++i) {
             const uint32_t a = rotate(w[i - 15], 7) ^ rotate(w[i - 15], 18) ^ w[i - 15] >> 3;
             const uint32_t b = rotate(w[i - 2], 17) ^ rotate(w[i - 2], 19) ^ w[i - 2] >> 10;

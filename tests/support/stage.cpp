@@ -16,7 +16,8 @@ constexpr uint8_t canary = 0xA5;
 
 // The call under way, for what is said of a fault.
 thread_local const registry::Arguments* running = nullptr;
-class Running {
+class Running
+{
 public:
     explicit Running(const registry::Arguments& a);
     ~Running() { running = nullptr; }
@@ -43,8 +44,7 @@ Running::Running(const registry::Arguments& a)
     running = &a;
 }
 
-template <class F>
-bool sameNumber(const uint8_t* a, const uint8_t* b)
+template <class F> bool sameNumber(const uint8_t* a, const uint8_t* b)
 {
     F x, y;
     std::memcpy(&x, a, sizeof x);
@@ -55,11 +55,16 @@ bool sameNumber(const uint8_t* a, const uint8_t* b)
 bool sameElement(Element e, const uint8_t* a, const uint8_t* b, bool moves)
 {
     if (!moves) switch (e) {
-        case Element::f32: return sameNumber<float>(a, b);
-        case Element::f64: return sameNumber<double>(a, b);
-        case Element::c32f: return sameNumber<float>(a, b) && sameNumber<float>(a + 4, b + 4);
-        case Element::c64f: return sameNumber<double>(a, b) && sameNumber<double>(a + 8, b + 8);
-        default: break;
+        case Element::f32:
+            return sameNumber<float>(a, b);
+        case Element::f64:
+            return sameNumber<double>(a, b);
+        case Element::c32f:
+            return sameNumber<float>(a, b) && sameNumber<float>(a + 4, b + 4);
+        case Element::c64f:
+            return sameNumber<double>(a, b) && sameNumber<double>(a + 8, b + 8);
+        default:
+            break;
         }
     return std::memcmp(a, b, static_cast<size_t>(registry::elementBytes(e))) == 0;
 }
@@ -83,10 +88,7 @@ std::string text(Element e, const uint8_t* p)
 
 } // namespace
 
-bool isOutput(const Arg& arg)
-{
-    return !arg.isConst && (arg.kind == Kind::array || arg.kind == Kind::result);
-}
+bool isOutput(const Arg& arg) { return !arg.isConst && (arg.kind == Kind::array || arg.kind == Kind::result); }
 
 std::vector<Shared> sharings(const registry::Function& f)
 {
@@ -231,8 +233,7 @@ void Stage::releaseStates()
 registry::Answer Stage::call(registry::Arguments& a, registry::Entry entry, int stackPhase)
 {
     const std::vector<int> zeros(static_cast<size_t>(a.f.argCount));
-    if (a.f.index == registry::IndexForm::only)
-        return callIndexed(a, entry, a.values.data(), zeros.data(), stackPhase);
+    if (a.f.index == registry::IndexForm::only) return callIndexed(a, entry, a.values.data(), zeros.data(), stackPhase);
     const Running described(a);
     return settled(a, registry::invoke(entry, a.f, a.values.data(), stackPhase));
 }
@@ -287,8 +288,8 @@ std::string difference(const registry::Arguments& a, int i, const uint8_t* expec
     for (size_t k = 0; k < n; ++k) {
         const uint8_t *x = expected + k * step, *y = found + k * step;
         if (!sameElement(arg.element, x, y, a.f.movesBits))
-            return std::string(arg.name) + "[" + std::to_string(k) + "]: expected " + text(arg.element, x) + ", found " +
-                   text(arg.element, y);
+            return std::string(arg.name) + "[" + std::to_string(k) + "]: expected " + text(arg.element, x) +
+                   ", found " + text(arg.element, y);
     }
     return "";
 }

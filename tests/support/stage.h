@@ -17,10 +17,11 @@ struct Place {
     int offset = 0;
 };
 
-using Places = std::vector<Place>;              // one for each argument
+using Places = std::vector<Place>;             // one for each argument
 using Shared = std::vector<registry::InPlace>; // pairs without a common argument; each destination is its source
 
-class Stage {
+class Stage
+{
 public:
     ~Stage() { releaseStates(); }
 
@@ -53,7 +54,7 @@ private:
         uint8_t* own = nullptr;
         uint8_t *low = nullptr, *high = nullptr; // the whole memory around it
         size_t bytes = 0;
-        std::vector<uint8_t> made; // of a state in this memory: its bytes before the call
+        std::vector<uint8_t> made;                    // of a state in this memory: its bytes before the call
         const std::vector<uint8_t>* longer = nullptr; // of a shared destination: the source that goes on behind it
     };
     struct State {

@@ -16,8 +16,7 @@ using registry::Element;
 using registry::Function;
 
 // A NaN that arithmetic made has no payload worth keeping.
-template <class F>
-void canonicalise(std::vector<uint8_t>& bytes)
+template <class F> void canonicalise(std::vector<uint8_t>& bytes)
 {
     for (size_t i = 0; i + sizeof(F) <= bytes.size(); i += sizeof(F)) {
         F x;

@@ -7,7 +7,8 @@
 namespace registry {
 
 // The same numbers on every platform: the engine is specified, and no standard distribution is used.
-class Random {
+class Random
+{
 public:
     explicit Random(uint64_t seed) : engine_(seed * 0x9E3779B97F4A7C15u + 0x632BE59BD9B4E019u) {}
     uint64_t bits() { return engine_(); }
