@@ -53,7 +53,11 @@ void anyScalar(registry::Value& v, const Arg& arg, Input& in)
         v.im = in.any<double>();
         if (arg.element == registry::Element::f32) v.re = in.any<float>();
     } else {
-        v.i = fitting(in.oneIn(2) ? in.any<long long>() : in.any<signed char>(), arg.element);
+        const size_t kind = in.below(4); // mostly numbers that counts, shifts and scale factors can be
+        v.i = kind == 0   ? in.any<long long>()
+              : kind == 1 ? in.any<signed char>()
+                          : static_cast<long long>(in.below(34));
+        v.i = fitting(v.i, arg.element);
         v.i2 = in.any<int32_t>();
     }
 }
