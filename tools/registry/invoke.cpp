@@ -1,6 +1,5 @@
 #include "invoke.h"
 #include <cstring>
-#include <xmmintrin.h>
 
 namespace registry {
 
@@ -141,9 +140,11 @@ Answer run(Entry entry, const Function& f, const CallWords& w, int phase, bool s
     c.phase = static_cast<uintptr_t>(phase);
     c.returnsFloat = returnsFloat;
     c.avx = hasAvx();
-    c.mxcsrBefore = (surroundings.mxcsr ? surroundings.mxcsr : _mm_getcsr()) & ~exceptionFlags;
-    c.controlBefore = surroundings.control;
-    if (!c.controlBefore) asm("fnstcw %0" : "=m"(c.controlBefore));
+    asm("stmxcsr %0" : "=m"(c.mxcsrBefore)); // by hand: this program need not be compiled for SSE
+    asm("fnstcw %0" : "=m"(c.controlBefore));
+    if (surroundings.mxcsr) c.mxcsrBefore = surroundings.mxcsr;
+    if (surroundings.control) c.controlBefore = surroundings.control;
+    c.mxcsrBefore &= ~exceptionFlags;
     c.painted = surroundings.paintedStack / sizeof(uintptr_t);
     checked_call(&c);
     Answer answer;
