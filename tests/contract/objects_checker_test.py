@@ -79,7 +79,7 @@ class Instructions(unittest.TestCase):
         self.assertNotEqual(self.faults(vectors % 16, 3, "-mavx"), [])
         self.assertEqual(self.faults(vectors % 16, 4, "-mavx"), [])
         self.assertNotEqual(self.faults(vectors % 32, 4, "-mavx2"), [])
-        self.assertEqual(self.faults(vectors % 32, 5, "-mavx2", "-O1"), [])
+        self.assertEqual(self.faults(vectors % 32, 5, "-mavx2", "-O2"), [])
 
     def test_fused_arithmetic_and_x87(self):
         fused = "double f(double a, double b, double c) { return __builtin_fma(a, b, c); }"
