@@ -121,8 +121,9 @@ def returns_wide(name, body):
                 inside = None if i.elsewhere else re.match(r"([0-9a-f]+) <", i.operands)
                 target = places.get(int(inside[1], 16)) if inside else None
                 ends = i.mnemonic.startswith("ret")
-                calls = i.mnemonic == "jmp" and i.elsewhere and not (name + i.elsewhere).count(".cold")
-                if wide and (ends or (calls and ".text.unlikely" not in i.elsewhere)):
+                calls = i.mnemonic == "jmp" and i.elsewhere and not i.operands.startswith("*")
+                cold = name.endswith(".cold") or re.search(r"\.cold|\.text\.unlikely", i.elsewhere)
+                if wide and (ends or (calls and not cold)):
                     return True
                 if i.mnemonic.startswith("j") and target is not None:
                     ways.append((target, wide))

@@ -44,7 +44,11 @@ void unmap(uint8_t* middle, size_t)
 LONG CALLBACK handler(EXCEPTION_POINTERS* info)
 {
     const EXCEPTION_RECORD* r = info->ExceptionRecord;
-    if (r->ExceptionCode != EXCEPTION_ACCESS_VIOLATION && r->ExceptionCode != EXCEPTION_ILLEGAL_INSTRUCTION)
+    const bool floating =
+        (r->ExceptionCode >= EXCEPTION_FLT_DENORMAL_OPERAND && r->ExceptionCode <= EXCEPTION_FLT_UNDERFLOW) ||
+        r->ExceptionCode == STATUS_FLOAT_MULTIPLE_TRAPS || r->ExceptionCode == STATUS_FLOAT_MULTIPLE_FAULTS;
+    if (r->ExceptionCode != EXCEPTION_ACCESS_VIOLATION && r->ExceptionCode != EXCEPTION_ILLEGAL_INSTRUCTION &&
+        !floating)
         return EXCEPTION_CONTINUE_SEARCH;
     std::fprintf(stderr, "FAULT %lx (%s) at %p, address %p, in %s\n", r->ExceptionCode,
                  r->ExceptionInformation[0] ? "write" : "read", r->ExceptionAddress,

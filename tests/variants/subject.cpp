@@ -18,6 +18,13 @@ bool computesOnIntegers(const registry::Function& f)
     return f.result != registry::Result::f64;
 }
 
+// One for all functions: guarded memory is never given back, and address space is scarce in 32 bits.
+support::Stage& stage()
+{
+    static support::Stage one;
+    return one;
+}
+
 template <class F> void put(Numbers& numbers, std::vector<uint8_t>& bytes)
 {
     for (size_t i = 0; i + sizeof(F) <= bytes.size(); i += sizeof(F)) {
@@ -41,12 +48,12 @@ bool Subject::suits(const registry::Function& f)
 Result Subject::call(Arguments& a, support::Place place, const registry::InPlace* shared)
 {
     ++calls_;
-    stage_.put(a, place, shared);
-    Result r{stage_.call(a, entry_), Outputs(static_cast<size_t>(f_.argCount))};
-    if (const std::string stray = stage_.strayWrite(a); !stray.empty()) r.answer.intrusion += "bytes around " + stray;
+    stage().put(a, place, shared);
+    Result r{stage().call(a, entry_), Outputs(static_cast<size_t>(f_.argCount))};
+    if (const std::string stray = stage().strayWrite(a); !stray.empty()) r.answer.intrusion += "bytes around " + stray;
     for (int i = 0; i < f_.argCount; ++i)
         if (support::isOutput(f_.args[i]) && !a.null[i])
-            r.outputs[static_cast<size_t>(i)].assign(stage_.now(i), stage_.now(i) + a.bytes(i));
+            r.outputs[static_cast<size_t>(i)].assign(stage().now(i), stage().now(i) + a.bytes(i));
     return r;
 }
 

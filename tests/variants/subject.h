@@ -36,7 +36,6 @@ private:
     registry::Entry entry_;
     std::vector<support::Variant> bodies_;
     bool onIntegers_;
-    support::Stage stage_;
     long long calls_ = 0;
 };
 
