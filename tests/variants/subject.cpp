@@ -33,6 +33,16 @@ template <class F> void put(Numbers& numbers, std::vector<uint8_t>& bytes)
     }
 }
 
+// Modes change which numbers are equal, and so how much is written where the values decide that.
+void giveRoom(Arguments& a)
+{
+    for (int i = 0; i < a.f.argCount; ++i)
+        if (a.f.args[i].room) {
+            a.extent[i] = a.f.args[i].room(a.values.data());
+            a.content[i].resize(a.bytes(i));
+        }
+}
+
 } // namespace
 
 Subject::Subject(const registry::Function& f)
@@ -42,12 +52,13 @@ Subject::Subject(const registry::Function& f)
 
 bool Subject::suits(const registry::Function& f)
 {
-    return f.dispatched && support::generallyCallable(f) && f.result != registry::Result::pointer;
+    return f.dispatched && *f.bodies && support::generallyCallable(f) && f.result != registry::Result::pointer;
 }
 
 Result Subject::call(Arguments& a, support::Place place, const registry::InPlace* shared)
 {
     ++calls_;
+    giveRoom(a);
     stage().put(a, place, shared);
     Result r{stage().call(a, entry_), Outputs(static_cast<size_t>(f_.argCount))};
     if (const std::string stray = stage().strayWrite(a); !stray.empty()) r.answer.intrusion += "bytes around " + stray;

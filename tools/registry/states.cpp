@@ -1,6 +1,7 @@
 #include "states.h"
 #include "variants.h"
 #include <cstring>
+#include <utility>
 
 namespace registry {
 namespace {
@@ -27,12 +28,15 @@ void release(const Function& maker, void* made)
 
 } // namespace
 
-Answer call(const Function& f, const Value* values, int stackPhase)
+Answer call(const Function& f, const Value* values)
 {
+    const Surroundings chosen = std::exchange(surroundings, {});
     const Entry entry = entryOf(f);
-    if (f.index != IndexForm::only) return invoke(entry, f, values, stackPhase);
     const std::vector<int> zeros(static_cast<size_t>(f.argCount));
-    return invokeIndexed(entry, f, values, zeros.data(), stackPhase);
+    const Answer answer =
+        f.index == IndexForm::only ? invokeIndexed(entry, f, values, zeros.data()) : invoke(entry, f, values);
+    surroundings = chosen;
+    return answer;
 }
 
 bool ask(const Query& query, std::vector<Value>& values)

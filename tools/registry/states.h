@@ -7,8 +7,9 @@
 
 namespace registry {
 
-// The plain form, or the _Idx form (with indexes 0) where there is no other.
-Answer call(const Function& f, const Value* values, int stackPhase = 0);
+// The plain form, or the _Idx form (with indexes 0) where there is no other. These calls prepare others, which alone
+// are in the surroundings that a test has chosen.
+Answer call(const Function& f, const Value* values);
 
 // Asks for sizes and stores them among the values; false: the function that gives them refuses.
 bool ask(const Query& query, std::vector<Value>& values);
