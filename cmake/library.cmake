@@ -14,8 +14,9 @@ if(SIG5D_SANITIZE)
     add_link_options(-fsanitize=${SIG5D_SANITIZE})
 endif()
 option(SIG5D_COVERAGE "Count which lines and branches run" OFF)
-if(SIG5D_COVERAGE) # hardly optimised, so that a branch of the source is one of the code
-    target_compile_options(sig5d_product INTERFACE --coverage -O1)
+if(SIG5D_COVERAGE)
+    # Hardly optimised, so that a branch of the source is one of the code; but registers are left clean for callers.
+    target_compile_options(sig5d_product INTERFACE --coverage -O1 -fexpensive-optimizations)
     add_link_options(--coverage)
 endif()
 

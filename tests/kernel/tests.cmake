@@ -1,5 +1,5 @@
 sig5d_internal_test(libm kernel/libm_test.cpp)
-sig5d_internal_test(stream kernel/stream_test.cpp kernel/convert_stream_test.cpp)
+sig5d_internal_test(stream kernel/stream_test.cpp kernel/convert_stream_test.cpp kernel/division_stream_test.cpp)
 
 find_library(SIG5D_MPFR mpfr)
 find_library(SIG5D_GMP gmp)
