@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace support {
 namespace {
@@ -207,7 +207,8 @@ void Stage::putState(registry::Arguments& a, int i, Place place)
         return r.readWrite() + (s.own - r.own());
     });
     if (maker_) force(user);
-    EXPECT_TRUE(state.made->pointer()) << nameOf(a.made[i]->f) << " makes no state: " << state.made->status();
+    if (!state.made->pointer())
+        throw std::runtime_error(nameOf(a.made[i]->f) + " makes no state: " + std::to_string(state.made->status()));
     a.values[i].p = state.made->pointer();
     Spot& s = spots_[i];
     if (s.own) s.made.assign(s.own, s.own + s.bytes);
