@@ -283,7 +283,7 @@ std::string Stage::changed(const registry::Arguments& a) const
 
 std::string difference(const registry::Arguments& a, int i, const uint8_t* expected, const uint8_t* found)
 {
-    if (std::memcmp(expected, found, a.bytes(i)) == 0) return "";
+    if (a.bytes(i) == 0 || std::memcmp(expected, found, a.bytes(i)) == 0) return "";
     const Arg& arg = a.f.args[i];
     const size_t step = static_cast<size_t>(arg.elementBytes), n = a.bytes(i) / step;
     for (size_t k = 0; k < n; ++k) {
