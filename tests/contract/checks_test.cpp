@@ -10,21 +10,6 @@ using registry::Arguments;
 using registry::Function;
 using registry::Kind;
 
-// A number as an argument of the type: what does not fit would arrive as another number.
-long long fitting(long long x, registry::Element type)
-{
-    switch (type) {
-    case registry::Element::u8:
-        return static_cast<uint8_t>(x);
-    case registry::Element::i16:
-        return static_cast<int16_t>(x);
-    case registry::Element::u16:
-        return static_cast<uint16_t>(x);
-    default:
-        return x;
-    }
-}
-
 // Turns a valid set of arguments into a bad one: some pointers null, some scalars out of range.
 void spoil(Arguments& a, registry::Random& random)
 {
@@ -37,7 +22,7 @@ void spoil(Arguments& a, registry::Random& random)
             a.values[i].re = numbers[random.below(8)];
             a.values[i].im = random.oneIn(2) ? a.values[i].re : numbers[random.below(8)]; // also zero for both
         } else if (arg.kind == Kind::scalar) {
-            a.values[i].i = fitting(odd[random.below(sizeof odd / sizeof *odd)], arg.element);
+            a.values[i].i = registry::fitting(odd[random.below(sizeof odd / sizeof *odd)], arg.element);
         } else if (arg.kind != Kind::index) {
             a.values[i].p = nullptr;
         }

@@ -33,24 +33,6 @@ Arguments built(const Function& f, Input& in)
     return registry::build(f, random, length, pattern, in.any<uint64_t>());
 }
 
-// What a scalar of the type can be: all bits of the rest arrive nowhere.
-long long fitting(long long x, registry::Element type)
-{
-    switch (type) {
-    case registry::Element::u8:
-        return static_cast<uint8_t>(x);
-    case registry::Element::i16:
-        return static_cast<int16_t>(x);
-    case registry::Element::u16:
-        return static_cast<uint16_t>(x);
-    case registry::Element::u64:
-    case registry::Element::i64:
-        return x;
-    default:
-        return static_cast<int32_t>(x);
-    }
-}
-
 void anyScalar(registry::Value& v, const Arg& arg, Input& in)
 {
     if (registry::isFloating(arg.element)) {
@@ -62,7 +44,7 @@ void anyScalar(registry::Value& v, const Arg& arg, Input& in)
         v.i = kind == 0   ? in.any<long long>()
               : kind == 1 ? in.any<signed char>()
                           : static_cast<long long>(in.below(34));
-        v.i = fitting(v.i, arg.element);
+        v.i = registry::fitting(v.i, arg.element);
         v.i2 = in.any<int32_t>();
     }
 }

@@ -316,4 +316,21 @@ Value scalar(Random& r, Element e, Pattern p)
     return v;
 }
 
+long long fitting(long long x, Element type)
+{
+    switch (type) {
+    case Element::u8:
+        return static_cast<uint8_t>(x);
+    case Element::i16:
+        return static_cast<int16_t>(x);
+    case Element::u16:
+        return static_cast<uint16_t>(x);
+    case Element::u64:
+    case Element::i64:
+        return x;
+    default:
+        return static_cast<int32_t>(x);
+    }
+}
+
 } // namespace registry

@@ -27,6 +27,8 @@ Value scalar(Random& random, Element element, Pattern pattern);
 // A value that functions treat unlike its neighbours; integers have their lowest and highest one for the first two.
 enum class Special { nan, infinite, zero, negative, count };
 void plant(Random& random, Element element, Special special, uint8_t* at);
+// A number as an argument of the type: what does not fit would arrive as another number.
+long long fitting(long long x, Element type);
 int elementBytes(Element element);
 bool isFloating(Element element);
 
