@@ -4,6 +4,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 RUN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools", "run-windows")
@@ -58,6 +59,20 @@ class RunWindows(unittest.TestCase):
         done = run(os.path.join(self.folder, "none.exe"))
         self.assertEqual(done.returncode, 127)
         self.assertRegex(done.stderr, r"\Arun-windows: no program .*none\.exe\n\Z")
+
+    def test_server_about_to_end(self):
+        """Whenever the last program's server ends, the next program has its own output only, and at once."""
+        program = self.put("first_steps.exe", DLL)
+        run(program)  # makes Wine's folder
+        cache = os.path.join(os.environ.get("XDG_CACHE_HOME") or os.path.expanduser("~/.cache"), "numlab-sig5d")
+        own = tempfile.mkdtemp(dir=cache)
+        self.addCleanup(shutil.rmtree, own)
+        wine = os.path.join(own, "numlab-sig5d", "wine")
+        shutil.copytree(os.path.join(cache, "wine"), wine, symlinks=True, copy_function=os.link)
+        for pause in (0, 0.98, 1.02, 1.05, 1.1, 1.2, 1.5, 2, 2.05):
+            time.sleep(pause)
+            done = run(program, env={**os.environ, "XDG_CACHE_HOME": own, "SIG5D_WINE_LINGER": "1"})
+            self.assertEqual((done.returncode, done.stderr), (0, ""))
 
     @unittest.skipIf(os.path.exists("/usr/lib/wine/wine"), "the system has a Wine of its own")
     def test_without_wine(self):
