@@ -6,23 +6,11 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// The second, if they are equal or one is NaN.
-inline f64 minimum(f64 a, f64 b) { return a < b ? a : b; }
-inline f64 maximum(f64 a, f64 b) { return a > b ? a : b; }
-#if SIG5D_LEVEL > 0
-inline Vec<f64, 2> minimum(Vec<f64, 2> a, Vec<f64, 2> b) { return _mm_min_pd(a, b); }
-inline Vec<f64, 2> maximum(Vec<f64, 2> a, Vec<f64, 2> b) { return _mm_max_pd(a, b); }
-#if SIG5D_LEVEL >= 4
-inline Vec<f64, 4> minimum(Vec<f64, 4> a, Vec<f64, 4> b) { return _mm256_min_pd(a, b); }
-inline Vec<f64, 4> maximum(Vec<f64, 4> a, Vec<f64, 4> b) { return _mm256_max_pd(a, b); }
-#endif
-#endif
-
 // atan2(y, x) in two halves, for loops that overlap them.
 //
 // For the angle t to the nearer axis, that to the positive real axis is t, pi/2 - t, pi/2 + t or pi - t: a multiple of
-// pi/2 and t or its opposite. From slopes of 1/4 on t is atan(1/2) + atan(p/q) with p = smaller - larger/2 and
-// q = larger + smaller/2, so that p/q is within [-2/9, 1/3].
+// pi/2 and t or its opposite. From slopes of 1/4 on t is atan(1/2) + atan(p/q) with p = shorter - longer/2 and
+// q = longer + shorter/2, so that p/q is within [-2/9, 1/3].
 template <class V> struct HalfAngle {
     V start, p, inverse; // angle and numerator have their signs; 1/q
     V qUpper, qLower;    // whose sum is q
@@ -38,18 +26,18 @@ template <class V> inline HalfAngle<V> half_angle(V x, V y)
 {
     using Bits = BitsOf<V>;
     const V zero = V{}, half = constant<V>(0.5), quarter = constant<V>(quarterTurn);
-    const V a = absolute_value(x), b = absolute_value(y), smaller = minimum(a, b), larger = maximum(b, a);
+    const V a = absolute_value(x), b = absolute_value(y), shorter = smaller(a, b), longer = larger(b, a);
     // Without loss of bits. The smallest divisor serves zeros, the largest keeps sums of what is not usual finite.
-    const int usual = lanes_set(larger <= constant<V>(0x1p1000)) &
-                      (lanes_set(smaller >= constant<V>(0x1p-900)) | lanes_set(smaller == zero));
-    const V divisor = maximum(constant<V>(0x1p-960), minimum(constant<V>(0x1p1000), larger)),
+    const int usual = lanes_set(longer <= constant<V>(0x1p1000)) &
+                      (lanes_set(shorter >= constant<V>(0x1p-900)) | lanes_set(shorter == zero));
+    const V divisor = larger(constant<V>(0x1p-960), smaller(constant<V>(0x1p1000), longer)),
             halfDivisor = half * divisor;
 
-    const auto flat = a >= b, beyond = smaller > half * halfDivisor;
+    const auto flat = a >= b, beyond = shorter > half * halfDivisor;
     // The sign that is opposite to that of t.
     const auto away = (Bits::of(x) & Bits::all(signBit)) ^ Bits::of(flat ? constant<V>(-0.0) : zero);
-    const V opposite = (beyond ? halfDivisor : zero) - smaller; // -p, exact
-    const V added = half * (beyond ? smaller : zero), q = divisor + added, qUpper = keep_bits(q, upperBits);
+    const V opposite = (beyond ? halfDivisor : zero) - shorter; // -p, exact
+    const V added = half * (beyond ? shorter : zero), q = divisor + added, qUpper = keep_bits(q, upperBits);
     const V axis = quarter - (flat ? with_sign(quarter, x) : zero);
     const V start = axis - Bits::back(Bits::of(beyond ? constant<V>(atanOfHalf) : zero) ^ away);
     return {start,
@@ -81,12 +69,12 @@ template <class V> inline V whole_angle(const HalfAngle<V>& h)
 {
     constexpr f64 infinity = __builtin_inf();
     if (x != x || y != y) return x + y;
-    const f64 a = absolute_value(x), b = absolute_value(y), smaller = a < b ? a : b, larger = a < b ? b : a;
+    const f64 a = absolute_value(x), b = absolute_value(y), shorter = a < b ? a : b, longer = a < b ? b : a;
     const auto direction = [=](f64 re, f64 im) { return whole_angle(half_angle(with_sign(re, x), with_sign(im, y))); };
-    if (larger == infinity) return direction(a == infinity, b == infinity);
-    const f64 ratio = smaller / larger;
+    if (longer == infinity) return direction(a == infinity, b == infinity);
+    const f64 ratio = shorter / longer;
     if (ratio < 0x1p-60) return a > b && x > 0 ? with_sign(ratio, y) : direction(a > b, a < b);
-    const f64 scale = larger < 1.0 ? 0x1p600 : 0x1p-600;
+    const f64 scale = longer < 1.0 ? 0x1p600 : 0x1p-600;
     return whole_angle(half_angle(x * scale, y * scale));
 }
 

@@ -1,8 +1,7 @@
 // Complex numbers as they stand in memory, parts side by side: one of them, or a vector of pairs.
 #pragma once
 #include "kernel/loops.h"
-#include "kernel/select.h"
-#include "kernel/shuffle.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -62,18 +61,6 @@ template <class V> inline V conjugate(V x)
     return BitsOf<V>::back(BitsOf<V>::of(x) ^ signs);
 }
 
-// (x.re - y.re, x.im + y.im)
-template <class V> inline V alternate(V x, V y)
-{
-#if SIG5D_LEVEL >= 4
-    if constexpr (sizeof(V) == 32) return _mm256_addsub_pd(x, y);
-#endif
-#if SIG5D_LEVEL >= 2
-    if constexpr (sizeof(V) == 16) return _mm_addsub_pd(x, y);
-#endif
-    return x - conjugate(y);
-}
-
 // A value in a register, here and now: the compiler would read memory again for each use, and begin several products
 // before it finishes one, for which the registers do not suffice.
 template <class V> inline V now(V v)
@@ -85,7 +72,7 @@ template <class V> inline V now(V v)
 template <class V> inline V product(V x, V y)
 {
     x = now(x);
-    return now(alternate(x * real_lanes(y), swapped(x) * imaginary_lanes(y)));
+    return now(subtract_add(x * real_lanes(y), swapped(x) * imaginary_lanes(y)));
 }
 
 struct Factor {

@@ -1,11 +1,8 @@
 // A loop over complex arrays for operations of many instructions: real and imaginary parts apart from each other, so
 // that one formula serves single elements (in px) and vectors, and no lane computes anything twice.
 #pragma once
-#include "kernel/masks.h"
+#include "kernel/simd.h"
 #include "kernel/stream.h"
-#if SIG5D_LEVEL > 0
-#include <immintrin.h>
-#endif
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -14,13 +11,7 @@ template <class V> struct Parts {
     V re, im;
 };
 
-// What formulas need besides operators, for single numbers and for vectors.
-
 #if SIG5D_LEVEL == 0
-
-inline f64 magnitude(f64 x) { return __builtin_fabs(x); }
-inline f64 square_root(f64 x) { return __builtin_sqrt(x); }
-inline f64 with_sign(f64 x, f64 sign) { return __builtin_copysign(x, sign); }
 
 // 2^k that brings a positive normal x into [2, 4).
 inline f64 to_one_digit(f64 x)
@@ -43,31 +34,14 @@ template <class Op> inline void map_complex(size_t n, const c64f* a, c64f* d, Op
 
 #else
 
-using Bits = Vec<u64>;
-inline Bits sign_bits(Vec<f64> x) { return reinterpret_cast<Bits>(x) & splat(u64(1) << 63); }
-inline Vec<f64> magnitude(Vec<f64> x)
-{
-    return reinterpret_cast<Vec<f64>>(reinterpret_cast<Bits>(x) & ~(u64(1) << 63));
-}
-inline Vec<f64> with_sign(Vec<f64> x, Vec<f64> sign)
-{
-    return reinterpret_cast<Vec<f64>>(reinterpret_cast<Bits>(x) | sign_bits(sign)); // x >= 0
-}
 inline Vec<f64> to_one_digit(Vec<f64> x)
 {
     constexpr u64 exponent = u64(2047) << 52;
-    return reinterpret_cast<Vec<f64>>(exponent - (reinterpret_cast<Bits>(x) & exponent));
+    return as<Vec<f64>>(exponent - (as<Vec<u64>>(x) & exponent));
 }
 
-#if SIG5D_LEVEL >= 4
-inline Vec<f64> square_root(Vec<f64> x) { return _mm256_sqrt_pd(x); }
-inline Vec<f64> even_lanes(Vec<f64> x, Vec<f64> y) { return _mm256_unpacklo_pd(x, y); }
-inline Vec<f64> odd_lanes(Vec<f64> x, Vec<f64> y) { return _mm256_unpackhi_pd(x, y); }
-#else
-inline Vec<f64> square_root(Vec<f64> x) { return _mm_sqrt_pd(x); }
-inline Vec<f64> even_lanes(Vec<f64> x, Vec<f64> y) { return _mm_unpacklo_pd(x, y); }
-inline Vec<f64> odd_lanes(Vec<f64> x, Vec<f64> y) { return _mm_unpackhi_pd(x, y); }
-#endif
+inline Vec<f64> even_lanes(Vec<f64> x, Vec<f64> y) { return shuffled<0>(x, y); }
+inline Vec<f64> odd_lanes(Vec<f64> x, Vec<f64> y) { return shuffled<allLanes<Vec<f64>>>(x, y); }
 
 // As many elements as a vector has lanes.
 template <class Op> [[gnu::always_inline]] inline Parts<Vec<f64>> map_block(const c64f* a, Op op)

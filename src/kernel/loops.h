@@ -2,7 +2,7 @@
 // that one expression serves single elements (in px) and vectors of any width.
 #pragma once
 #include "kernel/stream.h"
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 #include <type_traits>
 
 namespace sig5d::SIG5D_VARIANT {

@@ -3,7 +3,7 @@
 // Parts<V>, where V is a number or a vector of them: single numbers, never half-filled vectors, at the ends of arrays.
 #pragma once
 #include "kernel/loops.h"
-#include "kernel/shuffle.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -37,15 +37,6 @@ struct Zeros {
 
 // Pairs of lanes: the first of each, the second of each. The same shuffles make pairs again.
 template <class V> inline Parts<V> exchanged(V a, V b) { return {shuffled<0>(a, b), shuffled<allLanes<V>>(a, b)}; }
-#if SIG5D_LEVEL >= 4
-inline Vec<f64, 4> joined(Vec<f64, 2> a, Vec<f64, 2> b) // a shuffle would be made after two loads
-{
-    return reinterpret_cast<Vec<f64, 4>>(_mm256_insertf128_pd(_mm256_castpd128_pd256(a), b, 1));
-}
-inline Vec<f64, 4> low_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 0, 1, 4, 5); }
-inline Vec<f64, 4> high_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 2, 3, 6, 7); }
-#endif
-
 #endif
 
 // The next L numbers of a source.

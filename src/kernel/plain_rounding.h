@@ -1,7 +1,7 @@
 // Numbers times a power of two, rounded to integers in one of three ways, within limits. Not with the processor's
 // rounding mode, which belongs to the caller's thread.
 #pragma once
-#include "kernel/minmax.h"
+#include "kernel/simd.h"
 #include "kernel/power_of_two.h"
 #include <xmmintrin.h>
 

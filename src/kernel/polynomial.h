@@ -1,6 +1,6 @@
 // Polynomials in order of rising powers, for numbers and vectors.
 #pragma once
-#include "kernel/select.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -2,7 +2,7 @@
 // so large that no single number holds the power. Products with both are exact until they leave the type's range, in
 // one direction.
 #pragma once
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

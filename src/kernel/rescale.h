@@ -29,7 +29,7 @@ struct ScaledDown {
         using Signed = Vec<std::make_signed_t<Lane<V>>, sizeof(V) / sizeof(Lane<V>)>;
         const V q = down(x, s);
         const Signed rest = as<Signed>(x & rest_mask<V>(s)), half = as<Signed>(half_unit<V>(s));
-        return q - as<V>(rest > half - as<Signed>(q & all<V>(1)));
+        return q - as<V>(rest > half - as<Signed>(q & all_lanes<V>(1)));
     }
 };
 
@@ -46,7 +46,7 @@ template <class S> struct Vanishing {
         if constexpr (isSigned<S>)
             return V{};
         else
-            return as<V>(x > all<V>(half)) & all<V>(1);
+            return as<V>(x > all_lanes<V>(half)) & all_lanes<V>(1);
     }
 };
 

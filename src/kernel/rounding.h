@@ -1,37 +1,17 @@
 // Vectors of floating-point numbers times a power of two, rounded to integers within limits.
 #pragma once
 #include "kernel/lanes.h"
-#include "kernel/minmax.h"
+#include "kernel/simd.h"
 #include "kernel/plain_rounding.h"
-#if SIG5D_LEVEL > 0
-#include <immintrin.h>
-#endif
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 #if SIG5D_LEVEL > 0
 
-inline Vec<i32, 4> nearest(Vec<f32, 4> x) { return reinterpret_cast<Vec<i32, 4>>(_mm_cvtps_epi32(x)); }
-inline Vec<i32, 4> truncated(Vec<f32, 4> x) { return reinterpret_cast<Vec<i32, 4>>(_mm_cvttps_epi32(x)); }
-inline Vec<i32, 4> nearest(Vec<f64, 2> x) { return reinterpret_cast<Vec<i32, 4>>(_mm_cvtpd_epi32(x)); }
-inline Vec<i32, 4> truncated(Vec<f64, 2> x) { return reinterpret_cast<Vec<i32, 4>>(_mm_cvttpd_epi32(x)); }
-#if SIG5D_LEVEL >= 4
-inline Vec<i32, 8> nearest(Vec<f32, 8> x) { return reinterpret_cast<Vec<i32, 8>>(_mm256_cvtps_epi32(x)); }
-inline Vec<i32, 8> truncated(Vec<f32, 8> x) { return reinterpret_cast<Vec<i32, 8>>(_mm256_cvttps_epi32(x)); }
-inline Vec<i32, 4> nearest(Vec<f64, 4> x) { return reinterpret_cast<Vec<i32, 4>>(_mm256_cvtpd_epi32(x)); }
-inline Vec<i32, 4> truncated(Vec<f64, 4> x) { return reinterpret_cast<Vec<i32, 4>>(_mm256_cvttpd_epi32(x)); }
-#endif
-
-// Two registers of integers that came from doubles.
-inline Vec<i32, 4> joined(Vec<i32, 4> low, Vec<i32, 4> high)
-{
-    return reinterpret_cast<Vec<i32, 4>>(_mm_unpacklo_epi64(bits128(low), bits128(high)));
-}
-
 // For x that is no NaN and a positive limit: the smaller of the two; where x is larger, all bits. Single precision has
 // the order of its bits as integers there, which keeps the units free that convert and compare numbers.
-template <class V> constexpr bool byIntegers = sizeof(V{}[0]) == 4 && SIG5D_LEVEL >= (sizeof(V) == 32 ? 5 : 3);
+template <class V> constexpr bool byIntegers = sizeof(Lane<V>) == 4 && has32BitMinimum && sizeof(V) <= integerBytes;
 template <class V> using Integers = Vec<i32, sizeof(V) / 4>;
 template <class V> inline V below_limit(V x, V limit)
 {
@@ -105,11 +85,9 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
     template <int n> auto to(const f32* p) const { return lanes_of(load_lanes<n>(p)); }
     template <int n> auto to(const f64* p) const
     {
-#if SIG5D_LEVEL < 4
-        if constexpr (n == 4)
-            return joined(to<2>(p), to<2>(p + 2));
+        if constexpr (n > lanes<f64>)
+            return low_halves(to<n / 2>(p), to<n / 2>(p + n / 2));
         else
-#endif
             return lanes_of(load_lanes<n>(p));
     }
 };

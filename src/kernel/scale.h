@@ -10,7 +10,6 @@
 #pragma once
 #include "kernel/compact_loop.h"
 #include "kernel/lane_shifts.h"
-#include "kernel/long_products.h"
 #include "kernel/saturate.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -81,14 +80,17 @@ template <class V> struct Split { // of 32 bits: in two 32-bit lanes
 template <class V> inline auto unpacked(V low, V high)
 {
     using W = Vec<i32, sizeof(V) / 4>;
-    return Doubled<W>{as<W>(interleaved_low(bits(low), bits(high))), as<W>(interleaved_high(bits(low), bits(high)))};
+    using U = Vec<u16, sizeof(V) / 2>;
+    const U l = as<U>(low), h = as<U>(high);
+    return Doubled<W>{as<W>(interleaved_low(l, h)), as<W>(interleaved_high(l, h))};
 }
 
 // From the results of the even and of the odd 32-bit lanes.
 template <class V, class W> inline Split<V> split(W even, W odd)
 {
-    return {as<V>(alternate(bits(even), bits(odd << 32))),
-            as<V>(alternate(bits(as<Vec<u64, sizeof(V) / 8>>(even) >> 32), bits(odd)))};
+    using U = Vec<u32, sizeof(V) / 4>;
+    return {as<V>(even_and_odd(as<U>(even), as<U>(odd << 32))),
+            as<V>(even_and_odd(odd_lanes(as<U>(even)), as<U>(odd)))};
 }
 
 // Lane by lane to the right, 0 <= count < width, arithmetic for signed lanes.
@@ -98,9 +100,9 @@ template <class V> inline V down(V x, int count)
     if constexpr (sizeof(T) == 4)
         return shift_right<T>(x, count);
     else if constexpr (sizeof(T) == 2)
-        return shift_right_16_any<T>(x, count);
+        return shift_right<T>(x, count);
     else
-        return shift_right<u64>(x, count) & all<V>(static_cast<u8>(0xFF >> count));
+        return shift_right<u64>(x, count) & all_lanes<V>(static_cast<u8>(0xFF >> count));
 }
 
 template <class V> inline V up(V x, int count)
@@ -111,7 +113,7 @@ template <class V> inline V up(V x, int count)
     else if constexpr (sizeof(T) == 2)
         return shift_left_16(x, count);
     else
-        return shift_left_16(x, count) & all<V>(static_cast<u8>(0xFF << count));
+        return shift_left_16(x, count) & all_lanes<V>(static_cast<u8>(0xFF << count));
 }
 
 // x / 2 to the nearest integer, halves up.
@@ -124,11 +126,11 @@ template <class V> inline V halved(V x)
 }
 
 // 2^s - 1 and 2^(s-1): what is cut off, and the tie.
-template <class V> inline V rest_mask(int s) { return all<V>(static_cast<Lane<V>>((u64(1) << s) - 1)); }
-template <class V> inline V half_unit(int s) { return all<V>(static_cast<Lane<V>>(u64(1) << (s - 1))); }
+template <class V> inline V rest_mask(int s) { return all_lanes<V>(static_cast<Lane<V>>((u64(1) << s) - 1)); }
+template <class V> inline V half_unit(int s) { return all_lanes<V>(static_cast<Lane<V>>(u64(1) << (s - 1))); }
 
 // Ties were rounded up, to an odd integer half of the time: then the even one is that below.
-template <class V, class M> inline V ties_to_even(V up, M tie) { return without(up, as<V>(tie) & all<V>(1)); }
+template <class V, class M> inline V ties_to_even(V up, M tie) { return without(up, as<V>(tie) & all_lanes<V>(1)); }
 
 // r * 2^-s for each representation, 0 < s <= bits of the operation.
 
@@ -137,7 +139,7 @@ template <class V> inline V scaled(Halves<V> r, int s) // s > 1
     V up;
 #if SIG5D_LEVEL >= 2
     if constexpr (sizeof(Lane<V>) == 2)
-        up = rounded_product(r.half, all<V>(static_cast<i16>(1 << (16 - s)))); // half * 2^(16-s) * 2^-15
+        up = rounded_product(r.half, all_lanes<V>(static_cast<i16>(1 << (16 - s)))); // half * 2^(16-s) * 2^-15
     else
 #endif
         up = halved(down(r.half, s - 2));
@@ -146,8 +148,8 @@ template <class V> inline V scaled(Halves<V> r, int s) // s > 1
 
 template <class V> inline auto saturated(Words<V> r)
 {
-    const V limit = all<V>(255);
-    return as<Vec<u8, sizeof(V)>>(lower(r.even, limit) | lower(r.odd, limit) << 8);
+    const V limit = all_lanes<V>(255);
+    return as<Vec<u8, sizeof(V)>>(smaller(r.even, limit) | smaller(r.odd, limit) << 8);
 }
 // Bit s of bytes or words in the place of the last, 0 < s <= width; other bits come along.
 template <class V> inline V bit(V r, int s) { return shift_right_16<u16>(r, s < width<Lane<V>> ? s : 16); }
@@ -157,7 +159,7 @@ template <class V> inline V bit(V r, int s) { return shift_right_16<u16>(r, s < 
 // which makes no difference.)
 template <class V> inline V scaled_unsigned(V r, int s, V above = V{})
 {
-    const V even = without(all<V>(1), bit(r, s) & ~above),
+    const V even = without(all_lanes<V>(1), bit(r, s) & ~above),
             sum = average(subtract_saturated(r, even), rest_mask<V>(s - 1));
     if constexpr (sizeof(Lane<V>) == 2)
         return shift_right_16<u16>(sum, s - 1);
@@ -171,7 +173,7 @@ template <class V> inline auto scaled(Words<V> r, int s)
     return saturated(Words<V>{scaled_unsigned(r.even, s), scaled_unsigned(r.odd, s)});
 }
 
-template <class V> inline auto saturated(Doubled<V> r) { return pack_saturated(r.low, r.high); }
+template <class V> inline auto saturated(Doubled<V> r) { return packed(r.low, r.high); }
 template <class V> inline V scaled_double(V r, int s)
 {
     const V odd = down(r, s) & 1;
@@ -202,9 +204,9 @@ template <class V> inline V scaled(Split<V> r, int s)
 template <class V> inline V raised(V x, int count)
 {
     using T = Lane<V>;
-    const V beyond = all<V>(static_cast<T>(u64(1) << (width<T> - isSigned<T> - count)));
-    x = lower(x, beyond);
-    if constexpr (isSigned<T>) x = higher(x, -beyond);
+    const V beyond = all_lanes<V>(static_cast<T>(u64(1) << (width<T> - isSigned<T> - count)));
+    x = smaller(x, beyond);
+    if constexpr (isSigned<T>) x = larger(x, -beyond);
     return sum_modulo(up(x, count), as<V>(x == beyond));
 }
 

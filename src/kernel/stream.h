@@ -2,10 +2,7 @@
 // overwritten. Every sequence of them ends with stream_end(), so that other cores see it before what is stored later.
 #pragma once
 #include "frame/cache.h"
-#include "kernel/vec.h"
-#if SIG5D_LEVEL > 0
-#include <immintrin.h>
-#endif
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

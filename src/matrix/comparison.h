@@ -1,11 +1,8 @@
 // What "x compares with y" means, for single values and for vectors of them, by the comparison codes of the interface.
 #pragma once
 #include "frame/entry.h"
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 #include <cstddef>
-#if SIG5D_LEVEL > 0
-#include <immintrin.h>
-#endif
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -1,6 +1,6 @@
 // Histograms over given bins and over bins of equal width.
 #include "frame/entry.h"
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 #include <cstddef>
 #include <cstdint>
 #include <immintrin.h>

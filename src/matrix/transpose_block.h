@@ -4,9 +4,6 @@
 #include "kernel/stream.h"
 #include <stddef.h>
 #include <stdint.h>
-#if SIG5D_LEVEL > 0
-#include <immintrin.h>
-#endif
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -22,16 +22,6 @@ inline Parts<f64> quotient(Parts<f64> a, Parts<f64> b, bool) { return wide_quoti
 
 #else
 
-// The second where either is NaN. (Written as a choice this became a comparison and a blend.)
-inline f64 smaller(f64 x, f64 y) { return x < y ? x : y; }
-inline f64 greater(f64 x, f64 y) { return x > y ? x : y; }
-inline Vec<f64, 2> smaller(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_min_pd(x, y); }
-inline Vec<f64, 2> greater(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_max_pd(x, y); }
-#if SIG5D_LEVEL >= 4
-inline Vec<f64, 4> smaller(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_min_pd(x, y); }
-inline Vec<f64, 4> greater(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_max_pd(x, y); }
-#endif
-
 // The magnitudes of the operands, but for zeros, lie within 2^-240 and 2^240. Then the formula in doubles is exact in
 // the sense above: |b|^2 and its reciprocal lie within 2^-481 and 2^481, a difference of products that is not 0 is at
 // least one unit in the last place of 2^-480, and the results lie between 2^-1013 and 2^962. That is seen before
@@ -44,7 +34,7 @@ template <class V, class... W> inline V smallest_of(V x, W... y)
     return smaller(absolute_value(x), smallest_of(y...));
 }
 template <class V> inline V largest_of(V x) { return absolute_value(x); }
-template <class V, class... W> inline V largest_of(V x, W... y) { return greater(absolute_value(x), largest_of(y...)); }
+template <class V, class... W> inline V largest_of(V x, W... y) { return larger(absolute_value(x), largest_of(y...)); }
 
 template <class V> inline auto within_range(V x)
 {

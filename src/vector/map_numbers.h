@@ -1,7 +1,7 @@
 // Loops over complex numbers for functions that check nothing: there may be none.
 #pragma once
 #include "kernel/parts.h"
-#include "kernel/select.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

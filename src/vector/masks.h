@@ -1,9 +1,8 @@
 // Comparisons and bitwise operations on vectors of doubles. Not by operators: of masks the compiler would make
 // conditions again, and choose lane by lane where the processor has no selection.
 #pragma once
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 #if SIG5D_LEVEL > 0
-#include <immintrin.h>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -1,10 +1,8 @@
 // Running sums of unsigned integers in vectors: d[i] = a[i] + d[i-lag] for lag <= i < n, where d[0] to d[lag-1] hold
 // their values. The destination must not begin inside the source.
 #pragma once
-#include "kernel/shuffle.h"
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 #if SIG5D_LEVEL > 0
-#include <immintrin.h>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -27,12 +25,12 @@ template <int bytes, class V> inline V moved(V before, V v)
     if constexpr (bytes == 16)
         return reinterpret_cast<V>(middle);
     else if constexpr (bytes == 8)
-        return shuffled<5>(reinterpret_cast<V>(middle), v);
+        return as<V>(shuffled<5>(as<Vec<f64>>(middle), as<Vec<f64>>(v)));
     else
         return reinterpret_cast<V>(_mm256_alignr_epi8(high, middle, 16 - bytes));
 #else
     const auto low = reinterpret_cast<__m128i>(before), high = reinterpret_cast<__m128i>(v);
-    if constexpr (bytes == 8) return shuffled<1>(before, v);
+    if constexpr (bytes == 8) return as<V>(shuffled<1>(as<Vec<f64>>(before), as<Vec<f64>>(v)));
 #if SIG5D_LEVEL >= 2
     return reinterpret_cast<V>(_mm_alignr_epi8(high, low, 16 - bytes));
 #else

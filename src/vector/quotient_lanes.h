@@ -3,75 +3,28 @@
 #pragma once
 #include "vector/two_results.h"
 #if SIG5D_LEVEL > 0
-#include <immintrin.h>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// The lower and the upper elements of a vector (of each half of 32 bytes), widened; and narrowed again to the low bits.
-inline Vec<i32, 4> low_i32(Vec<i16, 8> x)
+// The lower and the upper elements of a vector (of each 16 bytes), widened; and narrowed again to the low bits.
+template <class V> inline auto low_i32(V x)
 {
-    return reinterpret_cast<Vec<i32, 4>>(
-               _mm_unpacklo_epi16(reinterpret_cast<__m128i>(x), reinterpret_cast<__m128i>(x))) >>
-           16;
+    return as<Vec<i32, sizeof(V) / 4>>(interleaved_low(as<Unsigned<V>>(x), as<Unsigned<V>>(x))) >> 16;
 }
-inline Vec<i32, 4> high_i32(Vec<i16, 8> x)
+template <class V> inline auto high_i32(V x)
 {
-    return reinterpret_cast<Vec<i32, 4>>(
-               _mm_unpackhi_epi16(reinterpret_cast<__m128i>(x), reinterpret_cast<__m128i>(x))) >>
-           16;
+    return as<Vec<i32, sizeof(V) / 4>>(interleaved_high(as<Unsigned<V>>(x), as<Unsigned<V>>(x))) >> 16;
 }
-inline Vec<i16, 8> narrowed(Vec<i32, 4> low, Vec<i32, 4> high)
+template <class V> inline auto low_i16(V x) { return as<Vec<i16, sizeof(V) / 2>>(interleaved_low(x, V{})); }
+template <class V> inline auto high_i16(V x) { return as<Vec<i16, sizeof(V) / 2>>(interleaved_high(x, V{})); }
+template <class V> inline auto low_bits(V low, V high)
 {
-    const Vec<i32, 4> l = low << 16 >> 16, h = high << 16 >> 16;
-    return reinterpret_cast<Vec<i16, 8>>(_mm_packs_epi32(reinterpret_cast<__m128i>(l), reinterpret_cast<__m128i>(h)));
+    if constexpr (sizeof(Lane<V>) == 4)
+        return packed(low << 16 >> 16, high << 16 >> 16);
+    else
+        return packed(low, high);
 }
-inline Vec<i16, 8> low_i16(Vec<u8, 16> x)
-{
-    return reinterpret_cast<Vec<i16, 8>>(_mm_unpacklo_epi8(reinterpret_cast<__m128i>(x), __m128i{}));
-}
-inline Vec<i16, 8> high_i16(Vec<u8, 16> x)
-{
-    return reinterpret_cast<Vec<i16, 8>>(_mm_unpackhi_epi8(reinterpret_cast<__m128i>(x), __m128i{}));
-}
-inline Vec<u8, 16> narrowed(Vec<i16, 8> low, Vec<i16, 8> high)
-{
-    return reinterpret_cast<Vec<u8, 16>>(
-        _mm_packus_epi16(reinterpret_cast<__m128i>(low), reinterpret_cast<__m128i>(high)));
-}
-#if SIG5D_LEVEL >= 5
-inline Vec<i32, 8> low_i32(Vec<i16, 16> x)
-{
-    return reinterpret_cast<Vec<i32, 8>>(
-               _mm256_unpacklo_epi16(reinterpret_cast<__m256i>(x), reinterpret_cast<__m256i>(x))) >>
-           16;
-}
-inline Vec<i32, 8> high_i32(Vec<i16, 16> x)
-{
-    return reinterpret_cast<Vec<i32, 8>>(
-               _mm256_unpackhi_epi16(reinterpret_cast<__m256i>(x), reinterpret_cast<__m256i>(x))) >>
-           16;
-}
-inline Vec<i16, 16> narrowed(Vec<i32, 8> low, Vec<i32, 8> high)
-{
-    const Vec<i32, 8> l = low << 16 >> 16, h = high << 16 >> 16;
-    return reinterpret_cast<Vec<i16, 16>>(
-        _mm256_packs_epi32(reinterpret_cast<__m256i>(l), reinterpret_cast<__m256i>(h)));
-}
-inline Vec<i16, 16> low_i16(Vec<u8, 32> x)
-{
-    return reinterpret_cast<Vec<i16, 16>>(_mm256_unpacklo_epi8(reinterpret_cast<__m256i>(x), __m256i{}));
-}
-inline Vec<i16, 16> high_i16(Vec<u8, 32> x)
-{
-    return reinterpret_cast<Vec<i16, 16>>(_mm256_unpackhi_epi8(reinterpret_cast<__m256i>(x), __m256i{}));
-}
-inline Vec<u8, 32> narrowed(Vec<i16, 16> low, Vec<i16, 16> high)
-{
-    return reinterpret_cast<Vec<u8, 32>>(
-        _mm256_packus_epi16(reinterpret_cast<__m256i>(low), reinterpret_cast<__m256i>(high)));
-}
-#endif
 
 // Quotients lie at least 1 / |y| away from an integer that they are not; |x| <= 2^31.
 #if SIG5D_LEVEL >= 4
@@ -126,7 +79,7 @@ template <class V> inline V quotient_i24(V x, V y)
 }
 template <class V> inline V quotient_i16(V x, V y)
 {
-    return narrowed(quotient_i24(low_i32(x), low_i32(y)), quotient_i24(high_i32(x), high_i32(y)));
+    return low_bits(quotient_i24(low_i32(x), low_i32(y)), quotient_i24(high_i32(x), high_i32(y)));
 }
 
 template <class T, class V> inline V quotient(V x, V y)
@@ -136,14 +89,14 @@ template <class T, class V> inline V quotient(V x, V y)
     else if constexpr (sizeof(T) == 2)
         return quotient_i16(x, y);
     else
-        return narrowed(quotient_i16(low_i16(x), low_i16(y)), quotient_i16(high_i16(x), high_i16(y)));
+        return low_bits(quotient_i16(low_i16(x), low_i16(y)), quotient_i16(high_i16(x), high_i16(y)));
 }
 
 template <class T, class V> inline Division<V> division(V x, V y)
 {
     if constexpr (sizeof(T) == 1) { // products of bytes need lanes of two
         const auto low = division<i16>(low_i16(x), low_i16(y)), high = division<i16>(high_i16(x), high_i16(y));
-        return {narrowed(low.quotient, high.quotient), narrowed(low.remainder, high.remainder)};
+        return {low_bits(low.quotient, high.quotient), low_bits(low.remainder, high.remainder)};
     } else {
         using U = Vec<typename UnsignedLane<T>::type, sizeof(V) / sizeof(T)>;
         const V q = quotient<T>(x, y);

@@ -2,7 +2,6 @@
 #include "frame/entry.h"
 #include "kernel/loops.h"
 #include "vector/masks.h"
-#include <immintrin.h>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -37,15 +36,15 @@ struct Up {
 
 template <class V> inline V near_integer(V x)
 {
-    const V sign = both(x, all<V>(-0.0)), size = without(x, all<V>(-0.0)), limit = all<V>(allWhole);
-    const V whole = without((size + limit) - limit, all<V>(-0.0)); // where rounding downward, a zero is -0.0
+    const V sign = both(x, all_lanes<V>(-0.0)), size = without(x, all_lanes<V>(-0.0)), limit = all_lanes<V>(allWhole);
+    const V whole = without((size + limit) - limit, all_lanes<V>(-0.0)); // where rounding downward, a zero is -0.0
     const V near = either(whole, sign), fraction = less(size, limit);
     return either(both(near, fraction), without(x, fraction));
 }
 // "step" where the mask is set. Zeros get the sign of x: -0.0 between -1 and 0.
 template <class V> inline V stepped(V x, V near, V mask, f64 step)
 {
-    return either(near + both(mask, all<V>(step)), both(x, all<V>(-0.0)));
+    return either(near + both(mask, all_lanes<V>(step)), both(x, all_lanes<V>(-0.0)));
 }
 struct Down {
     template <class V> V operator()(V x) const
@@ -65,40 +64,23 @@ struct Up {
 #else
 
 struct Down {
-    Vec<f64, 2> operator()(Vec<f64, 2> x) const { return _mm_floor_pd(x); }
-#if SIG5D_LEVEL >= 4
-    Vec<f64, 4> operator()(Vec<f64, 4> x) const { return _mm256_floor_pd(x); }
-#endif
+    template <class V> V operator()(V x) const { return floor(x); }
 };
 struct Up {
-    Vec<f64, 2> operator()(Vec<f64, 2> x) const { return _mm_ceil_pd(x); }
-#if SIG5D_LEVEL >= 4
-    Vec<f64, 4> operator()(Vec<f64, 4> x) const { return _mm256_ceil_pd(x); }
-#endif
+    template <class V> V operator()(V x) const { return ceiling(x); }
 };
 
 #endif
-
-// Truncated to a signed 32-bit integer, -2^31 where it does not fit, as the processor's conversion does.
-inline f64 truncated(f64 x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
-#if SIG5D_LEVEL > 0
-inline Vec<f64, 2> truncated(Vec<f64, 2> x) { return _mm_cvtepi32_pd(_mm_cvttpd_epi32(x)); }
-#endif
-#if SIG5D_LEVEL >= 4
-inline Vec<f64, 4> truncated(Vec<f64, 4> x) { return _mm256_cvtepi32_pd(_mm256_cvttpd_epi32(x)); }
-#endif
-
-template <class V> inline V repeated(f64 x) { return splatn<sizeof(V) / sizeof x>(x); }
 
 struct RemainderByValue {
     f64 value, reciprocal;
     template <class V> V operator()(V x) const
     {
-        return x - repeated<V>(value) * truncated(x * repeated<V>(reciprocal));
+        return x - all_lanes<V>(value) * truncated_to_32(x * all_lanes<V>(reciprocal));
     }
 };
 struct Remainder {
-    template <class V> V operator()(V x, V y) const { return x - y * truncated(x / y); }
+    template <class V> V operator()(V x, V y) const { return x - y * truncated_to_32(x / y); }
 };
 
 void round_up(const f64* a, f64* d, u32 n) { map(n, d, Up{}, a); }

@@ -22,14 +22,14 @@ template <class V> inline V chosen(Parts<V> x, V mask) { return either(without(x
 
 template <class V> inline V sign_of(V x)
 {
-    return either(both(less(V{}, x), all<V>(1.0)), both(less(x, V{}), all<V>(-1.0)));
+    return either(both(less(V{}, x), all_lanes<V>(1.0)), both(less(x, V{}), all_lanes<V>(-1.0)));
 }
 template <class V> inline V sign_of(Parts<V> x) { return sign_of(chosen(x, same_or_nan(x.re, V{}))); }
 
 template <class V> struct Direction {
     V turn, zero; // the sign bit where negative; all bits where zero
 };
-template <class V> inline Direction<V> direction(V x) { return {both(less(x, V{}), all<V>(-0.0)), same(x, V{})}; }
+template <class V> inline Direction<V> direction(V x) { return {both(less(x, V{}), all_lanes<V>(-0.0)), same(x, V{})}; }
 template <class V> inline Direction<V> direction(Parts<V> x) { return direction(chosen(x, same(x.re, V{}))); }
 template <class V> inline V times(V x, Direction<V> direction)
 {

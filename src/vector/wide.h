@@ -1,7 +1,7 @@
 // Arithmetic with the 53 significant bits of a double and exponents without limit: every operation rounds like one on
 // doubles, and nothing overflows or underflows until the result becomes a double again.
 #pragma once
-#include "kernel/select.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -14,10 +14,10 @@ struct Absolute {
     {
         using U = Vec<u32, sizeof(V) / 4>;
         if constexpr (sizeof(Lane<V>) == 2) {
-            return higher(x, subtract_saturated(V{}, x));
+            return larger(x, subtract_saturated(V{}, x));
         } else { // the lowest stays itself: it is the only negative one
-            const V a = higher(x, difference_modulo(V{}, x));
-            return SIG5D_LEVEL < 3 ? a ^ (a >> 31) : as<V>(lower(as<U>(a), all<U>(highest<i32>)));
+            const V a = larger(x, difference_modulo(V{}, x));
+            return SIG5D_LEVEL < 3 ? a ^ (a >> 31) : as<V>(smaller(as<U>(a), all_lanes<U>(highest<i32>)));
         }
     }
 #endif

@@ -1,7 +1,7 @@
 // Real and imaginary parts: apart, together, and the magnitude and power that they make.
 #include "frame/entry.h"
 #include "kernel/parts.h"
-#include "kernel/select.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -20,18 +20,8 @@ template <class D> inline D packed24(u32 x)
 #if SIG5D_LEVEL > 0
 
 // The upper three bytes of each 32 are an element, then they move down.
-inline Vec<u32, 4> moved_down(Vec<u32, 4> x, u24) { return x >> 8; }
-inline Vec<u32, 4> moved_down(Vec<u32, 4> x, i24)
-{
-    return reinterpret_cast<Vec<u32, 4>>(reinterpret_cast<Vec<i32, 4>>(x) >> 8);
-}
-#if SIG5D_LEVEL >= 5
-inline Vec<u32, 8> moved_down(Vec<u32, 8> x, u24) { return x >> 8; }
-inline Vec<u32, 8> moved_down(Vec<u32, 8> x, i24)
-{
-    return reinterpret_cast<Vec<u32, 8>>(reinterpret_cast<Vec<i32, 8>>(x) >> 8);
-}
-#endif
+template <class V> inline V moved_down(V x, u24) { return x >> 8; }
+template <class V> inline V moved_down(V x, i24) { return as<V>(as<Vec<i32, sizeof(V) / 4>>(x) >> 8); }
 
 template <int n, class T> inline auto load_values(const T* p)
 {
@@ -46,7 +36,7 @@ template <int n, class T> inline auto load_values(const T* p)
     } else
 #endif
         if constexpr (n == 4) {
-        const __m128i all = _mm_unpacklo_epi64(bits128(load_part<8>(bytes)), bits128(load_part<4>(bytes + 8)));
+        const __m128i all = _mm_unpacklo_epi64(bits(load_part<8>(bytes)), bits(load_part<4>(bytes + 8)));
         const __m128i spread = _mm_setr_epi8(-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11);
         return moved_down(reinterpret_cast<Vec<u32, 4>>(_mm_shuffle_epi8(all, spread)), T{});
     } else {
@@ -98,7 +88,7 @@ constexpr int W = lanes<i32>;
 // The low three bytes of each 32, at the low end of each 16 bytes.
 inline __m128i squeezed(Vec<i32, 4> x)
 {
-    return _mm_shuffle_epi8(bits128(x), _mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
+    return _mm_shuffle_epi8(bits(x), _mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
 }
 inline void store_four(u8* d, Vec<i32, 4> x)
 {
@@ -111,8 +101,8 @@ inline void store_four(u8* d, Vec<i32, 4> x)
 
 inline __m256i squeezed(Vec<i32, 8> x)
 {
-    return _mm256_shuffle_epi8(bits256(x), _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1, 0,
-                                                            1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
+    return _mm256_shuffle_epi8(bits(x), _mm256_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1, 0, 1,
+                                                         2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1));
 }
 template <int... i> inline __m256i moved(__m256i x) { return _mm256_permutevar8x32_epi32(x, _mm256_setr_epi32(i...)); }
 
@@ -212,8 +202,8 @@ template <class D, class Rescale> struct Narrow {
     {
         using V = Vec < S, n<4 ? 4 : n>;
         V y = rescale(load_lanes<n>(p));
-        y = lower(y, all<V>(static_cast<S>(high)));
-        if constexpr (isSigned<S>) y = higher(y, all<V>(low));
+        y = smaller(y, all_lanes<V>(static_cast<S>(high)));
+        if constexpr (isSigned<S>) y = larger(y, all_lanes<V>(low));
         return reinterpret_cast<Vec<i32, sizeof(V) / 4>>(y);
     }
 #endif

@@ -59,7 +59,7 @@ struct FromHalf {
 struct FromHalf {
     template <int n> auto to(const f16* p) const
     {
-        const __m128i h = bits128(load_part<2 * n>(reinterpret_cast<const u16*>(p)));
+        const __m128i h = bits(load_part<2 * n>(reinterpret_cast<const u16*>(p)));
         if constexpr (n == 8)
             return _mm256_cvtph_ps(h);
         else
@@ -85,8 +85,8 @@ template <Rounding mode> struct ToHalf {
         const I bits = reinterpret_cast<I>(x);
         if (small) return mode == NearestAway ? reinterpret_cast<V>(bits | 1) : x;
         const I magnitude = bits & 0x7FFFFFFF;
-        const I overflow = magnitude > all<I>(__builtin_bit_cast(i32, beyond) - 1);
-        I y = (bits ^ magnitude) | higher(magnitude, overflow & infinite); // NaNs stay
+        const I overflow = magnitude > all_lanes<I>(__builtin_bit_cast(i32, beyond) - 1);
+        I y = (bits ^ magnitude) | larger(magnitude, overflow & infinite); // NaNs stay
         // The last bit, far below those that stay, makes more than a tie of a tie.
         if constexpr (mode == NearestAway) y |= ~overflow & 1;
         return reinterpret_cast<V>(y);
@@ -98,7 +98,7 @@ template <Rounding mode> struct ToHalf {
         if constexpr (n == 16) {
             auto low = loadn<8>(p), high = loadn<8>(p + 8);
             const bool small =
-                _mm256_testz_si256(_mm256_or_si256(bits256(low), bits256(high)), _mm256_set1_epi32(0x40000000));
+                _mm256_testz_si256(_mm256_or_si256(bits(low), bits(high)), _mm256_set1_epi32(0x40000000));
             if (small) {
                 low = prepared(low, true);
                 high = prepared(high, true);
@@ -172,9 +172,9 @@ template <bool even> struct ToHalf {
         V r = magnitude - static_cast<i32>(rebias);
         if constexpr (even) r += r >> 13 & 1;
         const V normal = (r + carry) >> 13;
-        const F y = reinterpret_cast<F>(lower(magnitude, all<V>(least))) * 0x1p24f;
+        const F y = reinterpret_cast<F>(smaller(magnitude, all_lanes<V>(least))) * 0x1p24f;
         const V small = even ? nearest(y) : truncated(y + bias);
-        const V h = lower(higher(normal, small), all<V>(halfInfinity));
+        const V h = smaller(larger(normal, small), all_lanes<V>(halfInfinity));
         return h | (((magnitude >> 13 & 0x3FF) | 0x200) & (magnitude > infinite));
     }
 

@@ -60,15 +60,6 @@ void convert_plain(const f64* a, i64* d, int n, int mode, Scale scale)
 
 #if SIG5D_LEVEL >= 3
 
-inline __m128d integral(__m128d x, int) { return _mm_round_pd(x, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
-inline __m128d integral(__m128d x) { return _mm_round_pd(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC); }
-inline __m128d floor(__m128d x) { return _mm_floor_pd(x); }
-#if SIG5D_LEVEL >= 5
-inline __m256d integral(__m256d x, int) { return _mm256_round_pd(x, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
-inline __m256d integral(__m256d x) { return _mm256_round_pd(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC); }
-inline __m256d floor(__m256d x) { return _mm256_floor_pd(x); }
-#endif
-
 // A rounded double is split into two of 32 bits, whose integers are the last bits of sums. All of that is exact.
 template <bool even> struct RoundedLong {
     static constexpr f64 most = 0x1.fffffffffffffp62; // the largest double below the limit
@@ -83,9 +74,9 @@ template <bool even> struct RoundedLong {
         using U = Vec<u64, n>;
         V y = smaller(larger(x, splatn<n>(least)), splatn<n>(largest)) * factor;
         if constexpr (even)
-            y = integral(y, 0);
+            y = nearest_whole(y);
         else
-            y = integral(y + with_sign_of(y, bias));
+            y = without_fraction(y + with_sign_of(y, bias));
         const V high = floor(y * 0x1p-32), low = y - high * 0x1p32;
         const U highBits = reinterpret_cast<U>(high + 0x1.8p52) << 32,
                 lowBits = reinterpret_cast<U>(low + 0x1p52) ^ bits52;

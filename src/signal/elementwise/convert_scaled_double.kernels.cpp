@@ -23,11 +23,6 @@ struct Scaled {
 
 #if SIG5D_LEVEL >= 3
 
-inline Vec<i64, 2> low_64(__m128i x) { return reinterpret_cast<Vec<i64, 2>>(_mm_cvtepi16_epi64(x)); }
-#if SIG5D_LEVEL >= 5
-inline Vec<i64, 4> all_64(__m128i x) { return reinterpret_cast<Vec<i64, 4>>(_mm256_cvtepi16_epi64(x)); }
-#endif
-
 // The integer added to the last bits of a double whose last bit is worth the factor, less that double: two additions
 // instead of a conversion and a product.
 struct ScaledShort {
@@ -39,13 +34,7 @@ struct ScaledShort {
     }
     template <int n> auto to(const i16* p) const
     {
-        const __m128i x = bits128(load_part<static_cast<int>(n * sizeof(i16))>(p));
-#if SIG5D_LEVEL >= 5
-        if constexpr (n == 4)
-            return value(all_64(x));
-        else
-#endif
-            return value(low_64(x));
+        return value(widened_to_64<n>(load_part<static_cast<int>(n * sizeof(i16))>(p)));
     }
 };
 

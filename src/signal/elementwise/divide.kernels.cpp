@@ -1,7 +1,7 @@
 // Quotients of arrays. A divisor of zero is a warning, after all elements have been computed.
 #include "frame/entry.h"
 #include "kernel/parts.h"
-#include "kernel/select.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -1,7 +1,7 @@
 // Square roots, real and complex.
 #include "frame/entry.h"
 #include "kernel/pipelined_loop.h"
-#include "kernel/select.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -1,6 +1,5 @@
 // Products of integers, of two arrays or of an array and a value, scaled.
 #include "frame/entry.h"
-#include "kernel/long_products.h"
 #include "kernel/repeated.h"
 #include "kernel/scale.h"
 
@@ -16,12 +15,12 @@ struct Product {
     {
         if constexpr (sizeof(Lane<V>) == 1) {
             using W = Vec<u16, sizeof(V) / 2>;
-            const W low = all<W>(0xFF);
+            const W low = all_lanes<W>(0xFF);
             return Words<W>{(as<W>(x) & low) * (as<W>(y) & low), (as<W>(x) >> 8) * (as<W>(y) >> 8)};
         } else if constexpr (sizeof(Lane<V>) == 2) {
-            return unpacked(product_modulo(x, y), shifted_product(x, y));
+            return unpacked(product_modulo(x, y), high_product(x, y));
         } else {
-            return split<V>(even_products(x, y), even_products(odd(x), odd(y)));
+            return split<V>(even_products(x, y), even_products(odd_lanes(x), odd_lanes(y)));
         }
     }
     template <class T, int s> static constexpr bool quick = s == 1 ? sizeof(T) < 4 : sizeof(T) == 2 && SIG5D_LEVEL >= 2;
@@ -43,7 +42,7 @@ struct Product {
     // with any sign bit; and one product is 1.
     template <class V> V fraction_product(V x, V y) const
     {
-        const V up = rounded_product(x, y), low = product_modulo(x, y), lowest = all<V>(lowest_of<i16>);
+        const V up = rounded_product(x, y), low = product_modulo(x, y), lowest = all_lanes<V>(lowest_of<i16>);
         return sum_modulo(ties_to_even(up, sum_modulo(low, low) == lowest), as<V>(up == lowest));
     }
 #endif
@@ -81,9 +80,9 @@ struct ComplexProduct {
     template <class P> auto exact(P pairs) const
     {
         using V = Vec<i32, sizeof(P) / 4>;
-        const V x = as<V>(pairs), re = as<V>(all<P>(value)), im = odd(re);
-        return split<V>(even_products(x, re) - even_products(odd(x), im),
-                        even_products(x, im) + even_products(odd(x), re));
+        const V x = as<V>(pairs), re = as<V>(all_lanes<P>(value)), im = odd_lanes(re);
+        return split<V>(even_products(x, re) - even_products(odd_lanes(x), im),
+                        even_products(x, im) + even_products(odd_lanes(x), re));
     }
 #endif
 };

@@ -47,37 +47,12 @@ template <class T, class... A> [[gnu::noinline]] Status run_plain(size_t n, T* d
 
 #if SIG5D_LEVEL > 0
 
-// 32-bit integers as floating-point numbers, in as many vectors as they take, and back to the nearest.
-inline __m128 singles(__m128i x) { return _mm_cvtepi32_ps(x); }
-inline __m128d low_doubles(__m128i x) { return _mm_cvtepi32_pd(x); }
-inline __m128d high_doubles(__m128i x) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64(x, x)); }
-inline __m128i nearest(__m128 x) { return _mm_cvtps_epi32(x); }
-inline __m128i nearest(__m128d low, __m128d high)
-{
-    return _mm_unpacklo_epi64(_mm_cvtpd_epi32(low), _mm_cvtpd_epi32(high));
-}
-inline __m128i low_bytes(__m128i x, __m128i y) { return _mm_unpacklo_epi8(x, y); }
-inline __m128i high_bytes(__m128i x, __m128i y) { return _mm_unpackhi_epi8(x, y); }
-inline int any_set(__m128i masks) { return _mm_movemask_epi8(masks); }
-#if SIG5D_LEVEL >= 5
-inline __m256 singles(__m256i x) { return _mm256_cvtepi32_ps(x); }
-inline __m256d low_doubles(__m256i x) { return _mm256_cvtepi32_pd(_mm256_castsi256_si128(x)); }
-inline __m256d high_doubles(__m256i x) { return _mm256_cvtepi32_pd(_mm256_extracti128_si256(x, 1)); }
-inline __m256i nearest(__m256 x) { return _mm256_cvtps_epi32(x); }
-inline __m256i nearest(__m256d low, __m256d high)
-{
-    return _mm256_set_m128i(_mm256_cvtpd_epi32(high), _mm256_cvtpd_epi32(low));
-}
-inline __m256i low_bytes(__m256i x, __m256i y) { return _mm256_unpacklo_epi8(x, y); }
-inline __m256i high_bytes(__m256i x, __m256i y) { return _mm256_unpackhi_epi8(x, y); }
-inline int any_set(__m256i masks) { return _mm256_movemask_epi8(masks); }
-#endif
-
 // Within the range of 32-bit integers (nearly, in single precision, but no result is that large).
 template <class F, class V> inline V quotient(V x, V y, F scale)
 {
-    const V least = all<V>(static_cast<F>(lowest_of<i32>)), most = all<V>(sizeof(F) == 4 ? F(0x1p30) : F(highest<i32>));
-    const auto tiny = bits(all<V>(insteadOfZero<F>)) & bits(y == V{}); // zero has no bits of its own
+    const V least = all_lanes<V>(static_cast<F>(lowest_of<i32>)),
+            most = all_lanes<V>(sizeof(F) == 4 ? F(0x1p30) : F(highest<i32>));
+    const auto tiny = bits(all_lanes<V>(insteadOfZero<F>)) & bits(y == V{}); // zero has no bits of its own
     const V q = x * scale / as<V>(bits(y) | tiny);
     return smaller(larger(q, least), most);
 }
@@ -87,19 +62,17 @@ template <class F, class Op, class V, class... W> inline V nearest_of(Op op, V x
 {
     if constexpr (sizeof(Lane<V>) == 1) {
         using H = Vec<i16, sizeof(V) / 2>;
-        const auto zero = bits(V{});
-        const H low = nearest_of<F>(op, as<H>(low_bytes(bits(x), zero)), as<H>(low_bytes(bits(y), zero))...);
-        const H high = nearest_of<F>(op, as<H>(high_bytes(bits(x), zero)), as<H>(high_bytes(bits(y), zero))...);
-        return as<V>(packed_bytes(bits(low), bits(high)));
+        const H low = nearest_of<F>(op, as<H>(interleaved_low(x, V{})), as<H>(interleaved_low(y, V{}))...);
+        const H high = nearest_of<F>(op, as<H>(interleaved_high(x, V{})), as<H>(interleaved_high(y, V{}))...);
+        return packed(low, high);
     } else if constexpr (sizeof(Lane<V>) == 2) {
         const auto p = unpacked(x, x >> 15);
-        return pack_saturated(nearest_of<F>(op, p.low, unpacked(y, y >> 15).low...),
-                              nearest_of<F>(op, p.high, unpacked(y, y >> 15).high...));
+        return packed(nearest_of<F>(op, p.low, unpacked(y, y >> 15).low...),
+                      nearest_of<F>(op, p.high, unpacked(y, y >> 15).high...));
     } else if constexpr (sizeof(F) == 4) {
-        return as<V>(nearest(op(singles(bits(x)), singles(bits(y))...)));
+        return nearest(op(singles(x), singles(y)...));
     } else {
-        return as<V>(nearest(op(low_doubles(bits(x)), low_doubles(bits(y))...),
-                             op(high_doubles(bits(x)), high_doubles(bits(y))...)));
+        return nearest(op(lower_doubles(x), lower_doubles(y)...), op(upper_doubles(x), upper_doubles(y)...));
     }
 }
 
@@ -108,7 +81,7 @@ template <class T, class F> struct Quotient {
     int& zeroDivisors;
     template <class V> V operator()(V x, V y) const
     {
-        zeroDivisors |= any_set(bits(as<V>(y == V{})));
+        zeroDivisors |= byte_signs(bits(as<V>(y == V{})));
         return nearest_of<F>([this](auto a, auto b) { return quotient(a, b, scale); }, x, y);
     }
 };
@@ -132,14 +105,14 @@ template <class T, class F> struct QuotientByValue {
     }
     template <class V> V operator()(V x) const
     {
-        return nearest_of<F>([this](auto a) { return on_grid(a * all<decltype(a)>(reciprocal)); }, x);
+        return nearest_of<F>([this](auto a) { return on_grid(a * all_lanes<decltype(a)>(reciprocal)); }, x);
     }
     template <class V> V on_grid(V q) const
     {
         // Beyond the limits by as much as makes no difference. Single precision gets nothing of 16 bits to scale up.
-        if constexpr (sizeof(T) == 1 || sizeof(F) == 8) q = smaller(q, all<V>(static_cast<F>(highest<T> + 1)));
-        if constexpr (sizeof(F) == 8) q = larger(q, all<V>(static_cast<F>(lowest_of<T> - 1)));
-        return q + all<V>(large) - all<V>(large);
+        if constexpr (sizeof(T) == 1 || sizeof(F) == 8) q = smaller(q, all_lanes<V>(static_cast<F>(highest<T> + 1)));
+        if constexpr (sizeof(F) == 8) q = larger(q, all_lanes<V>(static_cast<F>(lowest_of<T> - 1)));
+        return q + all_lanes<V>(large) - all_lanes<V>(large);
     }
 };
 

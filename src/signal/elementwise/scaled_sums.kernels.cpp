@@ -55,7 +55,7 @@ struct Difference {
             const V down = ((x ^ y) >> 1) - (~x & y);
             return add_saturated(down, down & (x ^ y) & 1);
         } else {
-            const V up = difference_modulo(x & ~y, (x ^ y) >> 1), wrapped = as<V>(up == all<V>(lowest_of<i32>));
+            const V up = difference_modulo(x & ~y, (x ^ y) >> 1), wrapped = as<V>(up == all_lanes<V>(lowest_of<i32>));
             return sum_modulo(ties_to_even(up, x ^ y), wrapped);
         }
     }

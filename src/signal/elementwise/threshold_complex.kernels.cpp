@@ -2,7 +2,7 @@
 #include "frame/entry.h"
 #include "kernel/complex_loop.h"
 #include "kernel/loops.h"
-#include "kernel/minmax.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -13,8 +13,6 @@ struct Below {
 struct Above {
     template <class V> auto operator()(V x, V y) const { return x > y; }
 };
-
-template <class V> inline V all_lanes(f64 x) { return splatn<sizeof(V) / sizeof(f64)>(x); }
 
 // The value instead of elements whose squared magnitude a comparison selects.
 #if SIG5D_LEVEL == 0
@@ -67,7 +65,7 @@ template <class V> struct Scaled {
 template <class V> inline Scaled<V> scaled(Parts<V> x)
 {
     const V zero = all_lanes<V>(0), one = all_lanes<V>(1), infinity = all_lanes<V>(__builtin_inf());
-    const V re = magnitude(x.re), im = magnitude(x.im);
+    const V re = absolute_value(x.re), im = absolute_value(x.im);
     V most = larger(re, im);
     const auto infinite = most == infinity;
     most = larger(most, all_lanes<V>(0x1p-1022));

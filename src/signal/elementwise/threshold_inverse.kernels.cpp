@@ -1,12 +1,10 @@
 // Reciprocals of real arrays that are limited in magnitude.
 #include "frame/entry.h"
 #include "kernel/compact_loop.h"
-#include "kernel/masks.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
-
-template <class V> inline V all_lanes(f64 x) { return splatn<sizeof(V) / sizeof(f64)>(x); }
 
 // The reciprocal of x, or of the level with the sign of x where x is not larger. A NaN stays one.
 struct LimitedReciprocal {

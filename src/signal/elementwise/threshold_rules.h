@@ -4,13 +4,10 @@
 #include "kernel/compact_loop.h"
 #include "kernel/plain_rounding.h"
 #include "kernel/saturate.h"
-#include "kernel/select.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
-
-// A value in all lanes; the value itself in px.
-template <class V, class T> inline V all_lanes(T x) { return splatn<sizeof(V) / sizeof(T)>(x); }
 
 #if SIG5D_LEVEL >= 3
 inline __m128i magnitudes(__m128i x, i16) { return _mm_abs_epi16(x); }
@@ -51,7 +48,7 @@ template <class T, bool toNearest = true> struct LimitMagnitudeBelow {
 #if SIG5D_LEVEL >= 3
         if constexpr (sizeof(T) < 8) {
             const auto magnitude = as<Unsigned<V>>(magnitudes(bits(x), T{}));
-            return as<V>(with_signs(bits(larger(as<Unsigned<V>>(all<V>(level)), magnitude)), bits(x | 1), T{}));
+            return as<V>(with_signs(bits(larger(as<Unsigned<V>>(all_lanes<V>(level)), magnitude)), bits(x | 1), T{}));
         }
 #endif
         const V up = all_lanes<V>(level), down = all_lanes<V>(static_cast<T>(-level));

@@ -1,7 +1,7 @@
 // Complex values in vectors of the variant's width, and the ways they come from memory: as halves of blocks, transposed
 // (lanes from different blocks), and interleaved as users hold them.
 #pragma once
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 #include "signal/processing/fft_plan.h"
 #if SIG5D_LEVEL >= 4
 #include <immintrin.h>

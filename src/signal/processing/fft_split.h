@@ -10,7 +10,7 @@ constexpr f64 cosEighth = 0x1.6a09e667f3bcdp-1;    // of pi / 4
 constexpr f64 cosSixteenth = 0x1.d906bcf328d46p-1; // of pi / 8
 constexpr f64 sinSixteenth = 0x1.87de2a6aea963p-2;
 
-template <class T> SIG5D_INLINE T constant(const f64& c)
+template <class T> SIG5D_INLINE T everyLane(const f64& c)
 {
     if constexpr (sizeof(T) == sizeof(f64))
         return c;
@@ -20,12 +20,12 @@ template <class T> SIG5D_INLINE T constant(const f64& c)
 // a exp(-i pi / 4) and a exp(i pi / 4)
 template <class T> SIG5D_INLINE Complex<T> turnedBack(Complex<T> a)
 {
-    const T c = constant<T>(cosEighth);
+    const T c = everyLane<T>(cosEighth);
     return {(a.re + a.im) * c, (a.im - a.re) * c};
 }
 template <class T> SIG5D_INLINE Complex<T> turned(Complex<T> a)
 {
-    const T c = constant<T>(cosEighth);
+    const T c = everyLane<T>(cosEighth);
     return {(a.re - a.im) * c, (a.im + a.re) * c};
 }
 
@@ -77,7 +77,7 @@ SIG5D_INLINE void split16(const f64* x, const Rows& rows, f64* node, const Rows&
     putBlock(row(node, nodes, 4), a + b);
     putBlock(row(node, nodes, 6), conjugateOdd ? Complex<T>{a.re - b.re, b.im - a.im} : a - b);
 
-    const T c = constant<T>(cosSixteenth), s = constant<T>(sinSixteenth);
+    const T c = everyLane<T>(cosSixteenth), s = everyLane<T>(sinSixteenth);
     quarterPart = {{quarterPart.v[0], timesConj(quarterPart.v[1], {c, s}), turnedBack(quarterPart.v[2]),
                     timesConj(quarterPart.v[3], {s, c})}};
     const Quad<T> four = sums<conjugateOdd>(quarterPart);
@@ -97,7 +97,7 @@ SIG5D_INLINE void join16(f64* x, const Rows& rows, const f64* node, const Rows& 
         const f64* const p = row(node, nodes, 2 * number);
         return Complex<T>{get<T>(p), get<T>(p + 4)};
     };
-    const T c = constant<T>(cosSixteenth), s = constant<T>(sinSixteenth);
+    const T c = everyLane<T>(cosSixteenth), s = everyLane<T>(sinSixteenth);
     Quad<T> quarterPart = parts<conjugateOdd, T>({{at(4), at(5), at(6), at(7)}});
     quarterPart = {{quarterPart.v[0], quarterPart.v[1] * Complex<T>{c, s}, turned(quarterPart.v[2]),
                     quarterPart.v[3] * Complex<T>{s, c}}};
@@ -109,7 +109,7 @@ SIG5D_INLINE void join16(f64* x, const Rows& rows, const f64* node, const Rows& 
 
     const T rest0 = get<T>(rest), rest1 = get<T>(row(rest, nodes, 1));
     const T cyclic[4] = {rest0 + last.re, rest1 - last.im, rest0 - last.re, rest1 + last.im};
-    const T factor = constant<T>(scale);
+    const T factor = everyLane<T>(scale);
     x = opaque(x);
     f64* const upper = opaque(row(x, rows, 8));
     for (int j = 0; j < 4; ++j) {
@@ -146,7 +146,7 @@ template <bool conjugateOdd, class T> SIG5D_INLINE void splitLast(const f64* x, 
 template <bool conjugateOdd, class T>
 SIG5D_INLINE void joinLast(f64* x, Count apart, Count left, const f64* node, const f64& scale)
 {
-    const T factor = constant<T>(scale);
+    const T factor = everyLane<T>(scale);
     auto at = [&](int number) {
         return Complex<T>{get<T>(node + number * blockSize), get<T>(node + number * blockSize + 4)};
     };

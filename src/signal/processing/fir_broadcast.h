@@ -1,6 +1,6 @@
 // One number in all lanes of a vector, by one load; left to itself the compiler takes up to three shuffles.
 #pragma once
-#include "kernel/vec.h"
+#include "kernel/simd.h"
 #if defined(__SSE3__) && SIG5D_LEVEL > 0
 #include <immintrin.h>
 #endif

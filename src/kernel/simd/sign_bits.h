@@ -1,10 +1,6 @@
-// Comparisons, choices and sign bits for single numbers and vectors alike: a comparison gives a bool or a vector of
-// masks, and "mask ? x : y" chooses lane by lane.
+// Doubles as bits: constants, signs, magnitudes, for single numbers and vectors alike.
 #pragma once
-#include "kernel/vec.h"
-#if SIG5D_LEVEL > 0
-#include <immintrin.h>
-#endif
+#include "kernel/simd/vector.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -43,35 +39,7 @@ template <class V> inline V with_sign(V x, V y)
     return BitsOf<V>::back(BitsOf<V>::of(x) | (BitsOf<V>::of(y) & BitsOf<V>::all(signBit)));
 }
 
-// A bit for each lane whose mask is set; all bits.
-inline int lanes_set(bool mask) { return mask; }
-#if SIG5D_LEVEL > 0
-template <class Mask>
-requires(sizeof(Mask) >= 16) inline int lanes_set(Mask mask)
-{
-#if SIG5D_LEVEL >= 4
-    if constexpr (sizeof(Mask) == 32)
-        return _mm256_movemask_pd(reinterpret_cast<__m256d>(mask));
-    else
-#endif
-        return _mm_movemask_pd(reinterpret_cast<__m128d>(mask));
-}
-#endif
-
 template <class V> constexpr int allLanes = (1 << sizeof(V) / sizeof(f64)) - 1;
-
-inline f64 square_root(f64 x) { return __builtin_sqrt(x); }
-#if SIG5D_LEVEL > 0
-template <class V> inline V square_root(V x)
-{
-#if SIG5D_LEVEL >= 4
-    if constexpr (sizeof(V) == 32)
-        return reinterpret_cast<V>(_mm256_sqrt_pd(reinterpret_cast<__m256d>(x)));
-    else
-#endif
-        return reinterpret_cast<V>(_mm_sqrt_pd(reinterpret_cast<__m128d>(x)));
-}
-#endif
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

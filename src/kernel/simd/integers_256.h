@@ -1,0 +1,162 @@
+// Vectors of integers of 32 bytes. Where an instruction works in pieces of 16 bytes, the function gives the order of
+// the elements that its description says.
+#pragma once
+#include "kernel/simd/integers_128.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+inline Vec<u8, 32> add_saturated(Vec<u8, 32> x, Vec<u8, 32> y)
+{
+    return as<Vec<u8, 32>>(_mm256_adds_epu8(bits(x), bits(y)));
+}
+inline Vec<i16, 16> add_saturated(Vec<i16, 16> x, Vec<i16, 16> y)
+{
+    return as<Vec<i16, 16>>(_mm256_adds_epi16(bits(x), bits(y)));
+}
+inline Vec<u8, 32> subtract_saturated(Vec<u8, 32> x, Vec<u8, 32> y)
+{
+    return as<Vec<u8, 32>>(_mm256_subs_epu8(bits(x), bits(y)));
+}
+inline Vec<u16, 16> subtract_saturated(Vec<u16, 16> x, Vec<u16, 16> y)
+{
+    return as<Vec<u16, 16>>(_mm256_subs_epu16(bits(x), bits(y)));
+}
+inline Vec<i16, 16> subtract_saturated(Vec<i16, 16> x, Vec<i16, 16> y)
+{
+    return as<Vec<i16, 16>>(_mm256_subs_epi16(bits(x), bits(y)));
+}
+
+inline Vec<u8, 32> average(Vec<u8, 32> x, Vec<u8, 32> y) { return as<Vec<u8, 32>>(_mm256_avg_epu8(bits(x), bits(y))); }
+inline Vec<u16, 16> average(Vec<u16, 16> x, Vec<u16, 16> y)
+{
+    return as<Vec<u16, 16>>(_mm256_avg_epu16(bits(x), bits(y)));
+}
+
+inline __m256i and_not(__m256i x, __m256i y) { return _mm256_andnot_si256(y, x); }
+
+inline Vec<u16, 16> high_product(Vec<u16, 16> x, Vec<u16, 16> y)
+{
+    return as<Vec<u16, 16>>(_mm256_mulhi_epu16(bits(x), bits(y)));
+}
+inline Vec<i16, 16> high_product(Vec<i16, 16> x, Vec<i16, 16> y)
+{
+    return as<Vec<i16, 16>>(_mm256_mulhi_epi16(bits(x), bits(y)));
+}
+inline Vec<i16, 16> rounded_product(Vec<i16, 16> x, Vec<i16, 16> y)
+{
+    return as<Vec<i16, 16>>(_mm256_mulhrs_epi16(bits(x), bits(y)));
+}
+
+inline Vec<u32, 8> even_and_odd(Vec<u32, 8> even, Vec<u32, 8> odd)
+{
+    return as<Vec<u32, 8>>(_mm256_blend_epi32(bits(even), bits(odd), 0xAA));
+}
+inline Vec<u64, 4> even_products(Vec<u32, 8> x, Vec<u32, 8> y)
+{
+    return as<Vec<u64, 4>>(_mm256_mul_epu32(bits(x), bits(y)));
+}
+inline Vec<i64, 4> even_products(Vec<i32, 8> x, Vec<i32, 8> y)
+{
+    return as<Vec<i64, 4>>(_mm256_mul_epi32(bits(x), bits(y)));
+}
+
+inline Vec<i32, 8> where_negative(Vec<i32, 8> sign, Vec<i32, 8> x, Vec<i32, 8> other)
+{
+    return as<Vec<i32, 8>>(_mm256_blendv_ps(as<__m256>(other), as<__m256>(x), as<__m256>(sign)));
+}
+
+// Of each 16 bytes.
+inline Vec<u16, 16> interleaved_low(Vec<u16, 16> x, Vec<u16, 16> y)
+{
+    return as<Vec<u16, 16>>(_mm256_unpacklo_epi16(bits(x), bits(y)));
+}
+inline Vec<u16, 16> interleaved_high(Vec<u16, 16> x, Vec<u16, 16> y)
+{
+    return as<Vec<u16, 16>>(_mm256_unpackhi_epi16(bits(x), bits(y)));
+}
+inline Vec<i16, 16> packed(Vec<i32, 8> low, Vec<i32, 8> high)
+{
+    return as<Vec<i16, 16>>(_mm256_packs_epi32(bits(low), bits(high)));
+}
+
+template <int n, class V>
+requires(n == 16 && sizeof(V) == 16) inline Vec<i16, 16> widened_to_16(V x)
+{
+    return as<Vec<i16, 16>>(std::is_signed_v<Lane<V>> ? _mm256_cvtepi8_epi16(bits(x)) : _mm256_cvtepu8_epi16(bits(x)));
+}
+template <int n, class V>
+requires(n == 8 && sizeof(V) == 16) inline Vec<i32, 8> widened_to_32(V x)
+{
+    constexpr bool hasSign = std::is_signed_v<Lane<V>>;
+    if constexpr (sizeof(Lane<V>) == 2)
+        return as<Vec<i32, 8>>(hasSign ? _mm256_cvtepi16_epi32(bits(x)) : _mm256_cvtepu16_epi32(bits(x)));
+    else
+        return as<Vec<i32, 8>>(hasSign ? _mm256_cvtepi8_epi32(bits(x)) : _mm256_cvtepu8_epi32(bits(x)));
+}
+template <int n>
+requires(n == 8) inline Vec<i32, 8> widened_to_32(Vec<i32, 8> x) { return x; }
+
+// What packing leaves: the pieces of 8 bytes, or of 4, back in the order of the elements.
+inline __m256i eights_in_order(__m256i packed) { return _mm256_permute4x64_epi64(packed, 0xD8); }
+inline __m256i fours_in_order(__m256i packed)
+{
+    return _mm256_permutevar8x32_epi32(packed, _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7));
+}
+
+template <class D> inline Vec<D, 16> narrowed(Vec<i32, 8> low, Vec<i32, 8> high)
+{
+    const __m256i x = bits(low), y = bits(high);
+    return as<Vec<D, 16>>(eights_in_order(std::is_signed_v<D> ? _mm256_packs_epi32(x, y) : _mm256_packus_epi32(x, y)));
+}
+template <class D> inline Vec<D, 32> narrowed(Vec<i16, 16> low, Vec<i16, 16> high)
+{
+    const __m256i x = bits(low), y = bits(high);
+    return as<Vec<D, 32>>(eights_in_order(std::is_signed_v<D> ? _mm256_packs_epi16(x, y) : _mm256_packus_epi16(x, y)));
+}
+template <class D> inline Vec<D, 32> narrowed(Vec<i32, 8> x0, Vec<i32, 8> x1, Vec<i32, 8> x2, Vec<i32, 8> x3)
+{
+    const __m256i low = _mm256_packs_epi32(bits(x0), bits(x1)), high = _mm256_packs_epi32(bits(x2), bits(x3));
+    const __m256i mixed = std::is_signed_v<D> ? _mm256_packs_epi16(low, high) : _mm256_packus_epi16(low, high);
+    return as<Vec<D, 32>>(fours_in_order(mixed));
+}
+
+inline Vec<u16, 16> shifted_right(Vec<u16, 16> x, int count)
+{
+    return as<Vec<u16, 16>>(_mm256_srl_epi16(bits(x), _mm_cvtsi32_si128(count)));
+}
+inline Vec<i16, 16> shifted_right(Vec<i16, 16> x, int count)
+{
+    return as<Vec<i16, 16>>(_mm256_sra_epi16(bits(x), _mm_cvtsi32_si128(count)));
+}
+
+inline Vec<u8, 32> interleaved_low(Vec<u8, 32> x, Vec<u8, 32> y)
+{
+    return as<Vec<u8, 32>>(_mm256_unpacklo_epi8(bits(x), bits(y)));
+}
+inline Vec<u8, 32> interleaved_high(Vec<u8, 32> x, Vec<u8, 32> y)
+{
+    return as<Vec<u8, 32>>(_mm256_unpackhi_epi8(bits(x), bits(y)));
+}
+inline Vec<u8, 32> packed(Vec<i16, 16> low, Vec<i16, 16> high)
+{
+    return as<Vec<u8, 32>>(_mm256_packus_epi16(bits(low), bits(high)));
+}
+inline u32 byte_signs(__m256i x) { return static_cast<u32>(_mm256_movemask_epi8(x)); }
+// Within each 16 bytes.
+inline __m256i bytes_at(__m256i x, __m256i places) { return _mm256_shuffle_epi8(x, places); }
+template <int n>
+requires(n == 4) inline Vec<i64, 4> widened_to_64(Vec<i16, 8> x)
+{
+    return as<Vec<i64, 4>>(_mm256_cvtepi16_epi64(bits(x)));
+}
+
+inline Vec<i32, 8> high_product(Vec<i32, 8> x, Vec<i32, 8> y)
+{
+    using U = Vec<u32, 8>;
+    const auto odd = [](auto v) { return as<decltype(v)>(as<Vec<u64, 4>>(v) >> 32); };
+    return as<Vec<i32, 8>>(even_and_odd(odd(as<U>(even_products(x, y))), as<U>(even_products(odd(x), odd(y)))));
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
