@@ -2,7 +2,7 @@
 //     fft_peers [smallest order] [largest order] [rounds]
 // Columns: nanoseconds of FFTW; of each body nanoseconds, cycles per point, nominal GFLOP/s (2.5 N log2 N per real
 // transform, twice that for complex ones) and the share of FFTW's time.
-#include "support/fft_body.h"
+#include "signal/processing/fft/body.h"
 #include <algorithm>
 #include <chrono>
 #include <cstdio>

@@ -15,6 +15,9 @@ STD_NAMES = set(
 ELEMENT_TYPES = ["frame/types.h"]
 ENTRY = ELEMENT_TYPES + ["frame/entry.h", "frame/index.h"]
 
+# The rooms of src/signal/processing. The transforms serve all the others, which do not include each other.
+ROOMS = "fft fir iir dct windows generators median statistics sorting correlation sampling companding".split()
+
 # The folder of a file (the longest that fits) -> files and folders of this project that it may include. Besides them,
 # each file may include the generated entries/ of its own name.
 PROJECT = {
@@ -23,10 +26,11 @@ PROJECT = {
     "src/matrix": ["matrix/", "kernel/"] + ENTRY,
     "src/image": ["image/", "kernel/"] + ENTRY,
     "src/signal/elementwise": ["signal/elementwise/", "kernel/"] + ENTRY,
-    "src/signal/processing": ["signal/processing/", "kernel/"] + ENTRY,
     "src/frame": ["frame/*", "sig5d_types.h", "statuses.inc", "status_table.inc", "opaque_types.inc"],
     "src/frame/compat": ["frame/memory.h", "frame/index.h", "frame/compat/", "sig5d.h"] + ELEMENT_TYPES,
 }
+for room in ROOMS:
+    PROJECT[f"src/signal/processing/{room}"] = [f"signal/processing/{r}/" for r in (room, "fft")] + ["kernel/"] + ENTRY
 SYSTEM = {folder: PLAIN | INTRINSICS for folder in PROJECT} | {
     "src/frame": PLAIN | {"atomic", "cpuid.h", "limits.h", "stdlib.h", "time.h", "windows.h", "x86intrin.h"},
     "src/frame/compat": PLAIN | {"stdlib.h"},

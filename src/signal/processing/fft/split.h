@@ -1,6 +1,6 @@
 // The steps of a real signal's reduction, for one column of coefficients at a time.
 #pragma once
-#include "signal/processing/fft_butterfly.h"
+#include "signal/processing/fft/butterfly.h"
 #include <cstdint>
 
 namespace sig5d::SIG5D_VARIANT {

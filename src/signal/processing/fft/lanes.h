@@ -2,7 +2,7 @@
 // (lanes from different blocks), and interleaved as users hold them.
 #pragma once
 #include "kernel/vec.h"
-#include "signal/processing/fft_plan.h"
+#include "signal/processing/fft/layout.h"
 #if SIG5D_LEVEL >= 4
 #include <immintrin.h>
 #endif

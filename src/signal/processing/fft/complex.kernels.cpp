@@ -1,7 +1,7 @@
 // Transforms of complex signals: node 0 of N / 4 blocks, modulo y^L - 1, is quartered without any factors on the way
 // from the user's array; its quarters are nodes like all others.
-#include "signal/processing/fft_butterfly.h"
-#include "signal/processing/fft_passes.h"
+#include "signal/processing/fft/butterfly.h"
+#include "signal/processing/fft/passes.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

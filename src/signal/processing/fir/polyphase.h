@@ -5,8 +5,8 @@
 // zeros, which add nothing to a running sum but to -0.0, which only some rounding directions give; unless an input
 // there is infinite or NaN: then the output becomes NaN and is computed again from its window alone.
 #pragma once
-#include "signal/processing/fir_broadcast.h"
-#include "signal/processing/fir_spec.h"
+#include "signal/processing/fir/broadcast.h"
+#include "signal/processing/fir/spec.h"
 #include <cstddef>
 
 namespace sig5d::SIG5D_VARIANT {

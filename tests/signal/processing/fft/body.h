@@ -1,6 +1,6 @@
 // The transforms of one variant body, which no export shows: fft_body.cpp is compiled once per body.
 #pragma once
-#include "signal/processing/fft.h"
+#include "signal/processing/fft/transforms.h"
 
 namespace support {
 

@@ -1,4 +1,4 @@
-#include "support/fft_body.h"
+#include "signal/processing/fft/body.h"
 
 #define JOIN_(a, b) a##b
 #define JOIN(a, b) JOIN_(a, b)

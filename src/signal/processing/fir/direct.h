@@ -8,7 +8,7 @@
 // and add peak of a Sapphire Rapids core the AVX2 body reaches 81, 92 and 95 % at 16, 64 and 256 taps with 3 x 3, and
 // 78, 84 and 83 % with a load per product.
 #pragma once
-#include "signal/processing/fir_broadcast.h"
+#include "signal/processing/fir/broadcast.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -1,6 +1,6 @@
 // The one butterfly that all passes share: a cubic at the four points t, -t, -i t, i t, and back.
 #pragma once
-#include "signal/processing/fft_lanes.h"
+#include "signal/processing/fft/lanes.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -1,6 +1,6 @@
 // Fourier transforms of every body: accuracy against transforms in extended precision, products against convolutions,
 // equal bits in all bodies and on all platforms, and nothing touched that is not theirs.
-#include "support/fft_body.h"
+#include "signal/processing/fft/body.h"
 #include <cmath>
 #include <complex>
 #include <cstdint>
