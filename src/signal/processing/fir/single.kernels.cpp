@@ -1,5 +1,6 @@
 // Single-rate FIR filters: y[n] = sum over k of taps[k] * x[n - k].
 #include "frame/entry.h"
+#include "signal/processing/fft/transforms.h"
 #include "signal/processing/fir/direct.h"
 #include "signal/processing/fir/history.h"
 #include "signal/processing/fir/single.h"

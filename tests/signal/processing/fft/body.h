@@ -1,6 +1,9 @@
-// The transforms of one variant body, which no export shows: fft_body.cpp is compiled once per body.
+// The transforms of each variant body, which no export shows: body.cpp is compiled once per body.
 #pragma once
-#include "signal/processing/fft/transforms.h"
+#include "signal/processing/fft/plan.h"
+#include "variants.h"
+#include <cstring>
+#include <vector>
 
 namespace support {
 
@@ -17,6 +20,21 @@ struct FftBody {
     FftFunctions<sig5d::c64f> complex;
 };
 
-extern const FftBody fftBody_px, fftBody_w7, fftBody_g9;
+// Where each body puts itself before main runs.
+inline std::vector<const FftBody*>& allFftBodies()
+{
+    static std::vector<const FftBody*> all;
+    return all;
+}
+
+// Those that this processor can run, px first.
+inline std::vector<const FftBody*> fftBodies()
+{
+    std::vector<const FftBody*> found;
+    for (const registry::Variant& v : registry::supported())
+        for (const FftBody* body : allFftBodies())
+            if (!std::strcmp(body->name, v.code)) found.push_back(body);
+    return found;
+}
 
 } // namespace support
