@@ -2,7 +2,7 @@
 //     fft_peers [smallest order] [largest order] [rounds]
 // Columns: nanoseconds of FFTW; of each body nanoseconds, cycles per point, nominal GFLOP/s (2.5 N log2 N per real
 // transform, twice that for complex ones) and the share of FFTW's time.
-#include "support/fft_body.h"
+#include "signal/processing/fft/body.h"
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -184,8 +184,7 @@ int main(int argc, char** argv)
 {
     const int from = argc > 1 ? std::atoi(argv[1]) : 4, to = argc > 2 ? std::atoi(argv[2]) : 17;
     const int rounds = argc > 3 ? std::atoi(argv[3]) : 41;
-    std::vector<const support::FftBody*> bodies = {&support::fftBody_px, &support::fftBody_w7};
-    if (__builtin_cpu_supports("avx")) bodies.push_back(&support::fftBody_g9);
+    const std::vector<const support::FftBody*> bodies = support::fftBodies();
     const double clock = coreClock();
     std::printf("core clock %.2f GHz; per body: ns, cycles per point, nominal GFLOP/s, share of FFTW's time\n",
                 clock / 1e9);

@@ -33,7 +33,7 @@ foreach(
     frame/detected.cpp
     kernel/libm_trig.cpp
     kernel/libm_exp.cpp
-    signal/processing/fft_plan.cpp)
+    signal/processing/fft/plan.cpp)
     list(APPEND frame_sources ${CMAKE_SOURCE_DIR}/src/${source})
 endforeach()
 list(REMOVE_DUPLICATES frame_sources)

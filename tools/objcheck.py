@@ -141,7 +141,7 @@ class Report:
         self.faults = []
 
     def add(self, path, text):
-        self.faults.append(f"{path.name}: {text}")
+        self.faults.append(f"{path.parent.name}/{path.name}: {text}")
 
 
 def with_cold_parts(bodies):

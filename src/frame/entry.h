@@ -1,5 +1,5 @@
-// How a body of one processor variant is named. A kernel file is compiled once per body, with SIG5D_VARIANT (px, w7,
-// s8, p8, g9 or h9) and SIG5D_LEVEL (0 to 5) defined by the build.
+// How a body of one processor variant is named. A kernel file is compiled once per body, with SIG5D_VARIANT (its
+// code: px, ...) and SIG5D_LEVEL (its number) defined by the build; src/variants.txt lists the variants.
 #pragma once
 #include "frame/types.h"
 #include "opaque_types.inc" // struct IppsFIRSpec_64f; ... generated from api/types.api

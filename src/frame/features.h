@@ -36,7 +36,7 @@ enum Feature : u64 {
 
 // What the rule decides for a requested feature word.
 struct Selection {
-    int variant; // 0 px, 1 w7, 2 s8, 3 p8, 4 g9, 5 h9
+    int variant; // its number in frame/variants.h
     u64 enabled; // what was requested and what the variant needs; bit 63 is clear
     Status status;
 };

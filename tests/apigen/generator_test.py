@@ -47,6 +47,18 @@ class Generator(unittest.TestCase):
             with self.subTest(file=name):
                 self.assertMultiLineEqual(text, expected[name])
 
+    def test_kernels_of_each_variant_call_the_nearest_body(self):
+        header = generated()["bodies/signal/inner.h"]
+
+        def preprocessed(*options):
+            command = ["c++", "-E", "-P", "-x", "c++", *options, "-"]
+            return subprocess.run(command, input=header, capture_output=True, text=True)
+
+        for level, (variant, body) in enumerate(zip("px w7 s8 p8 g9 h9".split(), "px w7 w7 w7 g9 g9".split())):
+            seen = preprocessed(f"-DSIG5D_LEVEL={level}", f"-DSIG5D_VARIANT={variant}").stdout
+            self.assertIn(f"namespace {variant} {{ using namespace {body}; }}", seen)
+        self.assertNotEqual(preprocessed().returncode, 0)
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -14,19 +14,24 @@ STD_NAMES = set(
 )
 ELEMENT_TYPES = ["frame/types.h"]
 ENTRY = ELEMENT_TYPES + ["frame/entry.h", "frame/index.h"]
+TABLES_OF_FRAME = ["statuses.inc", "status_table.inc", "variant_table.inc", "opaque_types.inc"]  # generated
+
+# The rooms of src/signal/processing. The transforms serve all the others, which do not include each other.
+ROOMS = "fft fir iir dct windows generators median statistics sorting correlation sampling companding".split()
 
 # The folder of a file (the longest that fits) -> files and folders of this project that it may include. Besides them,
-# each file may include the generated entries/ of its own name.
+# each file may include the generated entries/ of its own name and bodies/ of its own folder.
 PROJECT = {
     "src/kernel": ["kernel/", "frame/cache.h"] + ELEMENT_TYPES,
     "src/vector": ["vector/", "kernel/"] + ENTRY,
     "src/matrix": ["matrix/", "kernel/"] + ENTRY,
     "src/image": ["image/", "kernel/"] + ENTRY,
     "src/signal/elementwise": ["signal/elementwise/", "kernel/"] + ENTRY,
-    "src/signal/processing": ["signal/processing/", "kernel/"] + ENTRY,
-    "src/frame": ["frame/*", "sig5d_types.h", "statuses.inc", "status_table.inc", "opaque_types.inc"],
+    "src/frame": ["frame/*", "sig5d_types.h", *TABLES_OF_FRAME],
     "src/frame/compat": ["frame/memory.h", "frame/index.h", "frame/compat/", "sig5d.h"] + ELEMENT_TYPES,
 }
+for room in ROOMS:
+    PROJECT[f"src/signal/processing/{room}"] = [f"signal/processing/{r}/" for r in (room, "fft")] + ["kernel/"] + ENTRY
 SYSTEM = {folder: PLAIN | INTRINSICS for folder in PROJECT} | {
     "src/frame": PLAIN | {"atomic", "cpuid.h", "limits.h", "stdlib.h", "time.h", "windows.h", "x86intrin.h"},
     "src/frame/compat": PLAIN | {"stdlib.h"},
@@ -78,11 +83,11 @@ def project_includes(root):
         if not folder:
             found.append(f"{file} lies in no folder of the architecture")
             continue
-        entries = "entries/" + re.sub(r"(\.kernels)?\.\w+$", ".inc", file.removeprefix("src/"))
+        place = file.removeprefix("src/")
+        generated = ["entries/" + re.sub(r"(\.kernels)?\.\w+$", ".inc", place), f"bodies/{place.rpartition('/')[0]}.h"]
         for include in includes(path)[0]:
-            if include.endswith(".kernels.cpp") or (
-                include != entries and not any(fits(include, allowed) for allowed in PROJECT[folder])
-            ):
+            fitting = any(fits(include, allowed) for allowed in PROJECT[folder] + generated)
+            if not fitting or include.endswith(".kernels.cpp"):
                 found.append(f"{file} includes {include}")
     return found
 

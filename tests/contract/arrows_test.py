@@ -69,8 +69,12 @@ class BadTrees(unittest.TestCase):
             ("src/vector/a.cpp", "frame/selection.h"),
             ("src/vector/a.cpp", "sig5d.h"),  # only compat calls exports
             ("src/matrix/a.cpp", "frame/compat/fir_handles.h"),
-            ("src/signal/elementwise/a.cpp", "signal/processing/fft.h"),
-            ("src/signal/processing/a.cpp", "signal/elementwise/threshold_rules.h"),
+            ("src/signal/elementwise/a.cpp", "signal/processing/fft/transforms.h"),
+            ("src/signal/processing/fir/a.cpp", "signal/elementwise/threshold_rules.h"),
+            ("src/signal/processing/iir/a.cpp", "signal/processing/fir/history.h"),
+            ("src/signal/processing/fft/a.cpp", "signal/processing/fir/history.h"),
+            ("src/signal/processing/iir/a.cpp", "bodies/signal/processing/fft.h"),  # the transforms' own header says it
+            ("src/signal/processing/a.cpp", "signal/processing/a.h"),  # in no room
             ("src/frame/a.cpp", "kernel/vec.h"),
             ("src/frame/a.cpp", "frame/compat/fir_handles.h"),
             ("src/frame/compat/a.cpp", "frame/selection.h"),
@@ -84,6 +88,10 @@ class BadTrees(unittest.TestCase):
         allowed = '#include "kernel/vec.h"\n#include "frame/entry.h"\n#include "vector/b.h"\n#include "entries/vector/a.inc"'
         self.assertEqual(self.faults(arrows.project_includes, {"src/vector/a.cpp": allowed}), [])
         self.assertEqual(self.faults(arrows.project_includes, {"src/vector/a.cpp": '// #include "sig5d.h"'}), [])
+        allowed = '#include "signal/processing/dct/b.h"\n#include "signal/processing/fft/transforms.h"'
+        self.assertEqual(self.faults(arrows.project_includes, {"src/signal/processing/dct/a.cpp": allowed}), [])
+        allowed = '#include "bodies/signal/processing/fft.h"'
+        self.assertEqual(self.faults(arrows.project_includes, {"src/signal/processing/fft/a.h": allowed}), [])
 
     def test_system_includes(self):
         for file, include in [("src/vector/a.cpp", "algorithm"), ("src/kernel/a.cpp", "string.h"), ("src/frame/a.cpp", "mutex")]:

@@ -20,7 +20,7 @@ FILES = {
     "shapes.api": "shape unary (const T pSrc[len], T pDst[len], int len)\n    checks null; size\n    in_place pDst=pSrc\n"
     "    form _I (inout T pSrcDst[len], int len) runs (pSrcDst, pSrcDst, len)\n",
     "ordinals.txt": "F_64f\nF_64f_Idx\nF_64f_I\nF_64f_I_Idx\nF_16s\nF_16s_Idx\nF\nF_Idx\n",
-    "variants.txt": "variant px 0x3 -O\nvariant w7 0x7\nbodies a.kernels.cpp px w7\n",
+    "variants.txt": 'variant px 0x3 "A" -O\nvariant w7 0x7 "B"\nbodies a.kernels.cpp px w7\n',
 }
 # What stands above the families of each case: their first line is the fourth.
 HEAD = 'half ipp\ntopic one "One"\nsource a.kernels.cpp\n'
@@ -167,11 +167,27 @@ MISTAKES = [
     ("opaque twice", HEAD + "opaque Spec_64f\n", "a.api:4: Spec_64f a second time"),
     # kernel files
     ("file without bodies", HEAD + "source b.kernels.cpp\n", "a.api:4: b.kernels.cpp has no bodies in variants.txt"),
-    ("unknown variant", {"variants.txt": "variant px 0x3\nbodies a.kernels.cpp px w8\n"}, "variants.txt:2: no variants in"),
-    ("order of variants", {"variants.txt": "variant px 0x3\nvariant w7 7\nbodies a.kernels.cpp w7 px\n"}, "variants.txt:3: no variants"),
-    ("no lowest body", {"variants.txt": "variant px 0x3\nvariant w7 7\nbodies a.kernels.cpp w7\n"}, "variants.txt:3: without px"),
-    ("bodies twice", {"variants.txt": FILES["variants.txt"] + "bodies a.kernels.cpp px\n"}, "variants.txt:4: a.kernels.cpp a second"),
+    ("internal file with exports", {"variants.txt": FILES["variants.txt"] + "internal x px : b\n", "a.api": HEAD + "source x/b.kernels.cpp\n"},
+     "a.api:4: x/b.kernels.cpp is internal in variants.txt"),
 ]
+# (what is wrong, what follows the third line of variants.txt, the message)
+MISTAKES += [(what, {"variants.txt": FILES["variants.txt"] + text}, f"variants.txt:{message}") for what, text, message in [
+    ("statement of variants", "body b.kernels.cpp px", "4: none of variant, bodies, internal: body"),
+    ("variant without a title", "variant s8 0x1F -mssse3", "4: no variant NAME FEATURES"),
+    ("variant twice", 'variant px 0x1F "C"', "4: variant px a second time"),
+    ("bodies of no kernel", "bodies b.cpp px", "4: b.cpp is no .kernels.cpp file"),
+    ("no bodies", "bodies b.kernels.cpp", "4: no bodies FILE NAME"),
+    ("unknown variant", "bodies b.kernels.cpp px w8", "4: no variants in"),
+    ("order of variants", "bodies b.kernels.cpp w7 px", "4: no variants in"),
+    ("no lowest body", "bodies b.kernels.cpp w7", "4: without px"),
+    ("bodies twice", "bodies a.kernels.cpp px", "4: a.kernels.cpp a second time"),
+    ("internal without files", "internal x px w7", "4: no internal FOLDER NAME"),
+    ("internal without bodies", "internal x : b", "4: no internal FOLDER NAME"),
+    ("unknown internal variant", "internal x px w8 : b", "4: no variants in"),
+    ("internal file twice", "internal x px : b c b", "4: x/b.kernels.cpp a second time"),
+    ("internal and not", "internal x px : b\nbodies x/b.kernels.cpp px", "5: x/b.kernels.cpp a second time"),
+    ("internal folders of one name", "internal x/y px : b\ninternal z/y px : b", "5: z/y: x/y has the same name"),
+]]  # fmt: skip
 
 
 class Mistakes(unittest.TestCase):
@@ -215,7 +231,7 @@ class Mistakes(unittest.TestCase):
         kernels = [line.split()[1] for line in lines if line.startswith("source ")]
         files = {name: (ROOT / "api" / name).read_text() for name in ("status.api", "types.api", "shapes.api")}
         files |= {"ordinals.txt": "\n".join(names) + "\n", "families.api": "\n".join(lines) + "\n"}
-        files["variants.txt"] = "variant px 0x3\n" + "".join(f"bodies {k} px\n" for k in kernels)
+        files["variants.txt"] = 'variant px 0x3 "A"\n' + "".join(f"bodies {k} px\n" for k in kernels)
         api = read(files)
         f = {f.name: f for f in api.functions}
 
@@ -243,10 +259,12 @@ class Mistakes(unittest.TestCase):
             self.assertEqual((done.returncode, done.stderr), (1, "a.api:5: unknown clause cheks\n"))
             self.assertFalse(Path(folder, "out").exists())
 
-    def test_every_kernel_file_has_bodies(self):
-        listed = Parser(ROOT / "api", ROOT / "src/variants.txt").api.variants.bodies
+    def test_every_kernel_file_has_exports_or_is_internal(self):
+        api = Parser(ROOT / "api", ROOT / "src/variants.txt").read()
         there = {str(p.relative_to(ROOT / "src")) for p in (ROOT / "src").rglob("*.kernels.cpp")}
-        self.assertEqual(set(listed), there)
+        internal = {file for files in api.variants.internal.values() for file in files}
+        self.assertEqual(set(api.variants.bodies), there)
+        self.assertEqual({s for s in api.sources if s.endswith(".kernels.cpp")}, there - internal)
 
 
 if __name__ == "__main__":

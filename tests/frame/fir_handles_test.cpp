@@ -1,4 +1,4 @@
-#include "signal/fir_filters.h"
+#include "signal/processing/fir/filters.h"
 #include "support/heap.h"
 #include <gtest/gtest.h>
 

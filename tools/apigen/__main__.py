@@ -8,6 +8,7 @@ A mistake in the description is told with file and line, and nothing is written.
 import argparse
 from pathlib import Path
 
+import emit_bodies
 import emit_cpp
 import emit_docs
 import emit_frame
@@ -40,6 +41,7 @@ def main():
         raise SystemExit(str(mistake))
     if given.out:
         files = emit_frame.frame_files(api)
+        files |= emit_bodies.files(api)
         files |= emit_cpp.entries(api)
         files |= {"dispatch.S": emit_cpp.dispatch(api), "adapters.cpp": emit_cpp.adapters(api)}
         files |= emit_link.definition_files(api)

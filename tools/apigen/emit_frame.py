@@ -1,4 +1,4 @@
-"""Writes the small tables of the frame: status codes and messages, opaque records, the list of sources for the build."""
+"""Writes the small tables of the frame: statuses and their texts, variants, opaque records; and the build's sources."""
 from variants import KERNELS
 
 
@@ -21,9 +21,12 @@ def frame_files(api):
     for path, bodies in api.variants.bodies.items():
         sources.append(f'list(APPEND SIG5D_KERNEL_SOURCES "{path}")\n')
         sources.append(f'set(SIG5D_BODIES_{path.replace("/", "_")} {" ".join(bodies)})\n')
+    for folder, paths in api.variants.internal.items():
+        sources.append(f'set(SIG5D_BODIES_{folder.replace("/", "_")} {" ".join(api.variants.bodies[paths[0]])})\n')
     return {
         "statuses.inc": codes,
         "status_table.inc": "".join(rows),
+        "variant_table.inc": "".join(f'{{"{v.name}", {v.features}, "{v.title}"}},\n' for v in api.variants.all),
         "opaque_types.inc": "".join(f"struct {name};\n" for name in api.opaque),
         "sources.cmake": "".join(sources),
     }

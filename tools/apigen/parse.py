@@ -114,6 +114,8 @@ class Parser:
             raise Mistake("functions of kernel files are dispatched in any case")
         if kernels and self.source not in self.api.variants.bodies:
             raise Mistake(f"{self.source} has no bodies in variants.txt")
+        if any(self.source in files for files in self.api.variants.internal.values()):
+            raise Mistake(f"{self.source} is internal in variants.txt: it has no exports")
         self.api.sources[self.source] = kernels or bool(m[2])
 
     def shape(self, statement):

@@ -91,5 +91,17 @@ inline Vec<i32, 4> nearest(Vec<f64, 2> low, Vec<f64, 2> high)
     return as<Vec<i32, 4>>(_mm_unpacklo_epi64(_mm_cvtpd_epi32(low), _mm_cvtpd_epi32(high)));
 }
 
+// The number at an address in all n lanes, by one load where there is one: left to itself the compiler loads neighbours
+// together and takes up to three shuffles.
+template <int n>
+requires(n == 2) inline Vec<f64, 2> broadcast(const f64* p)
+{
+#if SIG5D_LEVEL >= 2
+    return _mm_loaddup_pd(p);
+#else
+    return splatn<2>(*p);
+#endif
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -62,5 +62,10 @@ inline Vec<i32, 8> nearest(Vec<f64, 4> low, Vec<f64, 4> high)
     return as<Vec<i32, 8>>(_mm256_set_m128i(_mm256_cvtpd_epi32(high), _mm256_cvtpd_epi32(low)));
 }
 
+inline Vec<f64, 2> lower_half(Vec<f64, 4> v) { return _mm256_castpd256_pd128(v); }
+inline Vec<f64, 2> upper_half(Vec<f64, 4> v) { return _mm256_extractf128_pd(v, 1); }
+template <int n>
+requires(n == 4) inline Vec<f64, 4> broadcast(const f64* p) { return _mm256_broadcast_sd(p); }
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -65,5 +65,10 @@ inline Vec<i32, 16> nearest(Vec<f64, 8> low, Vec<f64, 8> high)
     return as<Vec<i32, 16>>(_mm512_inserti64x4(lower, _mm512_cvtpd_epi32(high), 1));
 }
 
+inline Vec<f64, 4> lower_half(Vec<f64, 8> v) { return _mm512_castpd512_pd256(v); }
+inline Vec<f64, 4> upper_half(Vec<f64, 8> v) { return _mm512_extractf64x4_pd(v, 1); }
+template <int n>
+requires(n == 8) inline Vec<f64, 8> broadcast(const f64* p) { return _mm512_set1_pd(*p); }
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

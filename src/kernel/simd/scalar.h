@@ -16,5 +16,9 @@ inline bool any(bool condition) { return condition; }
 // Truncated to a signed 32-bit integer, -2^31 where it does not fit, as the processor's conversion does.
 inline f64 truncated_to_32(f64 x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
 
+// The number at an address, in one lane.
+template <int n>
+requires(n == 1) inline f64 broadcast(const f64* p) { return *p; }
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

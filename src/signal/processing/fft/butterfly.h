@@ -1,6 +1,6 @@
 // The one butterfly that all passes share: a cubic at the four points t, -t, -i t, i t, and back.
 #pragma once
-#include "signal/processing/fft_lanes.h"
+#include "signal/processing/fft/lanes.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -16,9 +16,9 @@ template <class T> struct Powers {
 SIG5D_INLINE Powers<Vector> powersOfNode(const f64* table, Count node)
 {
     const f64* const p = table + (node >> 2) * groupSize + (node & 3);
-    return {{broadcast(p), broadcast(p + 4)},
-            {broadcast(p + 8), broadcast(p + 12)},
-            {broadcast(p + 16), broadcast(p + 20)}};
+    return {{broadcast<width>(p), broadcast<width>(p + 4)},
+            {broadcast<width>(p + 8), broadcast<width>(p + 12)},
+            {broadcast<width>(p + 16), broadcast<width>(p + 20)}};
 }
 // Those of four neighbours (or of `width` of them) are vectors.
 SIG5D_INLINE Powers<Vector> powersOfGroup(const f64* entries)
@@ -91,13 +91,14 @@ SIG5D_INLINE Quad<Vector> getLanes(const f64* const* blocks)
 {
     const f64* imaginary[width];
     for (int i = 0; i < width; ++i) imaginary[i] = blocks[i] + 4;
-    const Four re = getTransposed(blocks), im = getTransposed(imaginary);
+    const Four<Vector> re = getTransposed<Vector>(blocks), im = getTransposed<Vector>(imaginary);
     return {{{re.v[0], im.v[0]}, {re.v[1], im.v[1]}, {re.v[2], im.v[2]}, {re.v[3], im.v[3]}}};
 }
 SIG5D_INLINE void putLanes(f64* const* blocks, const Quad<Vector>& a)
 {
-    putTransposed(blocks, {{a.v[0].re, a.v[1].re, a.v[2].re, a.v[3].re}},
-                  {{a.v[0].im, a.v[1].im, a.v[2].im, a.v[3].im}});
+    const Four<Vector> re = {{a.v[0].re, a.v[1].re, a.v[2].re, a.v[3].re}};
+    const Four<Vector> im = {{a.v[0].im, a.v[1].im, a.v[2].im, a.v[3].im}};
+    putTransposed(blocks, re, im);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The passes of a transform from nodes down to single blocks and back up. Vectors only compute several elements at
 // once: each element sees the same operations in every variant.
-#include "signal/processing/fft_butterfly.h"
-#include "signal/processing/fft_passes.h"
+#include "signal/processing/fft/butterfly.h"
+#include "signal/processing/fft/passes.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

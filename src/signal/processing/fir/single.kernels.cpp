@@ -1,8 +1,9 @@
 // Single-rate FIR filters: y[n] = sum over k of taps[k] * x[n - k].
 #include "frame/entry.h"
-#include "signal/processing/fir_direct.h"
-#include "signal/processing/fir_history.h"
-#include "signal/processing/fir_single.h"
+#include "signal/processing/fft/transforms.h"
+#include "signal/processing/fir/direct.h"
+#include "signal/processing/fir/history.h"
+#include "signal/processing/fir/single.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -148,5 +149,5 @@ void filterSingleRate(const c64f* src, c64f* dst, int n, const FirSpec* spec, co
     filter(src, dst, n, spec, dlySrc, dlyDst, work);
 }
 
-#include "entries/signal/processing/fir_single.inc"
+#include "entries/signal/processing/fir/single.inc"
 } // namespace sig5d::SIG5D_VARIANT

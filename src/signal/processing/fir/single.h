@@ -1,6 +1,6 @@
 // The single-rate filter, as the multi-rate filter uses it when both its factors are 1.
 #pragma once
-#include "signal/processing/fir_spec.h"
+#include "signal/processing/fir/spec.h"
 
 namespace sig5d::SIG5D_VARIANT {
 

@@ -1,7 +1,7 @@
 // Block 0 of a real signal: the values at y = 1 and y = -1, which are real, so that lane j of them is a coefficient of
 // a real polynomial modulo z^4 - 1 or z^4 + 1. In an unordered spectrum they stay that, in lane 0 of the first group.
 #pragma once
-#include "signal/processing/fft_plan.h"
+#include "signal/processing/fft/layout.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

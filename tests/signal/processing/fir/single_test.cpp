@@ -1,5 +1,5 @@
-#include "signal/fir_filters.h"
-#include "signal/fir_memory.h"
+#include "signal/processing/fir/filters.h"
+#include "signal/processing/fir/memory.h"
 #include <cmath>
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // the Init functions use the same layout; all sizes are computed in 64 bits and refused when they are no int.
 #pragma once
 #include "frame/types.h"
-#include "signal/processing/fft.h"
+#include "signal/processing/fft/plan.h"
 
 namespace sig5d::SIG5D_VARIANT {
 

@@ -5,8 +5,8 @@
 // zeros, which add nothing to a running sum but to -0.0, which only some rounding directions give; unless an input
 // there is infinite or NaN: then the output becomes NaN and is computed again from its window alone.
 #pragma once
-#include "signal/processing/fir_broadcast.h"
-#include "signal/processing/fir_spec.h"
+#include "kernel/simd.h"
+#include "signal/processing/fir/spec.h"
 #include <cstddef>
 
 namespace sig5d::SIG5D_VARIANT {
@@ -80,10 +80,10 @@ template <class T, int doubles, int count> struct Sums {
     using V = Vec<f64, v>;
     V sum[count][vectors];
 
-    static V product(const f64* row, int k, const f64& x) { return loadn<v>(row + k * v) * broadcast<v>(x); }
+    static V product(const f64* row, int k, const f64& x) { return loadn<v>(row + k * v) * broadcast<v>(&x); }
     static V product(const f64* row, int k, const c64f& x)
     {
-        return loadn<v>(row + k * v) * broadcast<v>(x.re) + loadn<v>(row + doubles + k * v) * broadcast<v>(x.im);
+        return loadn<v>(row + k * v) * broadcast<v>(&x.re) + loadn<v>(row + doubles + k * v) * broadcast<v>(&x.im);
     }
 
     [[gnu::always_inline]] void clear()
@@ -110,13 +110,7 @@ template <class T, int doubles, int count> struct Sums {
         for (int r = 0; r < count; ++r)
 #pragma GCC unroll 4
             for (int k = 0; k < vectors; ++k) nan |= sum[r][k] != sum[r][k];
-        if constexpr (v == 1) {
-            return nan;
-        } else {
-            i64 any = 0;
-            for (int i = 0; i < v; ++i) any |= nan[i];
-            return any;
-        }
+        return any(nan);
     }
     [[gnu::always_inline]] void put(T* y, ptrdiff_t step) const
     {

@@ -1,8 +1,8 @@
 // The butterfly across the lanes for unordered spectra, and products of such spectra. A group of four blocks becomes
 // the values at z = t, -t, -i t, i t: four blocks again, with one lane per block of the group.
-#include "signal/processing/fft_butterfly.h"
-#include "signal/processing/fft_ends.h"
-#include "signal/processing/fft_passes.h"
+#include "signal/processing/fft/butterfly.h"
+#include "signal/processing/fft/ends.h"
+#include "signal/processing/fft/passes.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

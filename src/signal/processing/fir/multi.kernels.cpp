@@ -1,8 +1,8 @@
 // Multi-rate FIR filters: up-sampling, filtering and down-sampling in one pass.
 #include "frame/entry.h"
-#include "signal/processing/fir_history.h"
-#include "signal/processing/fir_polyphase.h"
-#include "signal/processing/fir_single.h"
+#include "signal/processing/fir/history.h"
+#include "signal/processing/fir/polyphase.h"
+#include "signal/processing/fir/single.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -144,5 +144,5 @@ Status multiRateInit(const T* pTaps, int tapsLen, int upFactor, int upPhase, int
 }
 
 } // namespace
-#include "entries/signal/processing/fir_multi.inc"
+#include "entries/signal/processing/fir/multi.inc"
 } // namespace sig5d::SIG5D_VARIANT

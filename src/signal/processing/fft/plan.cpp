@@ -1,5 +1,5 @@
 // Plans of Fourier transforms: sizes and tables. Compiled once; every variant reads the same plan.
-#include "signal/processing/fft_plan.h"
+#include "signal/processing/fft/layout.h"
 #include "kernel/libm.h"
 
 namespace sig5d {

@@ -1,6 +1,7 @@
 // What the files of the transform share within a variant.
 #pragma once
-#include "signal/processing/fft_plan.h"
+#include "signal/processing/fft/layout.h"
+#include "signal/processing/fft/transforms.h"
 
 namespace sig5d::SIG5D_VARIANT {
 

@@ -5,9 +5,9 @@
 // the eighth that remains is real and is split again until nothing is left but the values at y = 1 and y = -1. There is
 // no pass that separates the halves of a complex transform, nor one that brings the result into order: the last
 // butterfly takes its columns from where they are.
-#include "signal/processing/fft_ends.h"
-#include "signal/processing/fft_passes.h"
-#include "signal/processing/fft_split.h"
+#include "signal/processing/fft/ends.h"
+#include "signal/processing/fft/passes.h"
+#include "signal/processing/fft/split.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

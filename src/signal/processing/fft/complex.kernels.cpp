@@ -1,7 +1,7 @@
 // Transforms of complex signals: node 0 of N / 4 blocks, modulo y^L - 1, is quartered without any factors on the way
 // from the user's array; its quarters are nodes like all others.
-#include "signal/processing/fft_butterfly.h"
-#include "signal/processing/fft_passes.h"
+#include "signal/processing/fft/butterfly.h"
+#include "signal/processing/fft/passes.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -20,7 +20,7 @@ void uniteSignal(const f64* work, f64* x, Count blocks)
 {
     const Count apart = blocks / 4 * blockSize;
     const f64 scale = 0.25 / static_cast<f64>(blocks);
-    const Vector factor = broadcast(&scale);
+    const Vector factor = broadcast<width>(&scale);
     for (Count c = 0; c < apart; c += blockSize)
         for (int h = 0; h < 4; h += width) {
             const Quad<Vector> a = parts<false>(getBlocks(work + c + h, apart));

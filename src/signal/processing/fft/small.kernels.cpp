@@ -1,7 +1,7 @@
 // Transforms of at most 16 real or 8 complex points, in straight scalar code: the first steps of the large ones do it
 // all when a vector has one element.
-#include "signal/processing/fft_passes.h"
-#include "signal/processing/fft_split.h"
+#include "signal/processing/fft/passes.h"
+#include "signal/processing/fft/split.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

@@ -12,7 +12,7 @@
 // addressed by b alone. Entry b holds t, t^2, t^3 with t^4 = root; four entries are interleaved, so that they are
 // vectors too.
 #pragma once
-#include "signal/processing/fft.h"
+#include "signal/processing/fft/plan.h"
 #include <cstddef>
 
 namespace sig5d {

@@ -1,6 +1,6 @@
 // The steps of a real signal's reduction, for one column of coefficients at a time.
 #pragma once
-#include "signal/processing/fft_butterfly.h"
+#include "signal/processing/fft/butterfly.h"
 #include <cstdint>
 
 namespace sig5d::SIG5D_VARIANT {
@@ -12,10 +12,7 @@ constexpr f64 sinSixteenth = 0x1.87de2a6aea963p-2;
 
 template <class T> SIG5D_INLINE T everyLane(const f64& c)
 {
-    if constexpr (sizeof(T) == sizeof(f64))
-        return c;
-    else
-        return broadcast(&c);
+    return broadcast<sizeof(T) / sizeof(f64)>(&c);
 }
 // a exp(-i pi / 4) and a exp(i pi / 4)
 template <class T> SIG5D_INLINE Complex<T> turnedBack(Complex<T> a)

@@ -1,0 +1,16 @@
+sig5d_test(fir signal/processing/fir/single_test.cpp signal/processing/fir/multi_test.cpp frame/fir_handles_test.cpp
+           support/heap.cpp)
+
+# The transforms of each body, which no export shows.
+add_library(sig5d_fft_bodies INTERFACE)
+target_include_directories(sig5d_fft_bodies INTERFACE . ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/include
+                                                      ${CMAKE_SOURCE_DIR}/tools/registry ${SIG5D_GENERATED})
+foreach(body ${SIG5D_BODIES_signal_processing_fft})
+    list(FIND SIG5D_VARIANTS ${body} level)
+    add_library(sig5d_fft_${body} OBJECT signal/processing/fft/body.cpp)
+    target_include_directories(sig5d_fft_${body} PRIVATE $<TARGET_PROPERTY:sig5d_fft_bodies,INTERFACE_INCLUDE_DIRECTORIES>)
+    target_compile_definitions(sig5d_fft_${body} PRIVATE SIG5D_VARIANT=${body} SIG5D_LEVEL=${level})
+    target_link_libraries(sig5d_fft_bodies INTERFACE $<TARGET_OBJECTS:sig5d_fft_${body}>)
+endforeach()
+sig5d_internal_test(fft signal/processing/fft/transforms_test.cpp)
+target_link_libraries(fft_test PRIVATE sig5d_fft_bodies)
