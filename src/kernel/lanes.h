@@ -1,20 +1,11 @@
 // Vectors of one element type made of vectors of another. "low" means the low end of a register of 16 bytes.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/partial.h"
 #include <type_traits>
 #if SIG5D_LEVEL > 0
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
-
-// n elements, in a register of 16 bytes at least.
-template <int n, class T> inline auto load_lanes(const T* p)
-{
-    if constexpr (n * sizeof(T) > 16)
-        return loadn<n>(p);
-    else
-        return load_part<static_cast<int>(n * sizeof(T))>(p);
-}
 
 template <class V> inline __m128i bits128(V v) { return reinterpret_cast<__m128i>(v); }
 
@@ -28,6 +19,7 @@ inline __m128i low_32(__m128i x, i8) { return _mm_srai_epi32(low_32(_mm_unpacklo
 inline __m128i low_32(__m128i x, u8) { return low_32(low_16(x, u8{}), u16{}); }
 #else
 inline __m128i low_16(__m128i x, i8) { return _mm_cvtepi8_epi16(x); }
+inline __m128i low_16(__m128i x, u8) { return _mm_cvtepu8_epi16(x); }
 inline __m128i low_32(__m128i x, i16) { return _mm_cvtepi16_epi32(x); }
 inline __m128i low_32(__m128i x, u16) { return _mm_cvtepu16_epi32(x); }
 inline __m128i low_32(__m128i x, i8) { return _mm_cvtepi8_epi32(x); }
@@ -35,6 +27,7 @@ inline __m128i low_32(__m128i x, u8) { return _mm_cvtepu8_epi32(x); }
 #endif
 #if SIG5D_LEVEL >= 5
 inline __m256i all_16(__m128i x, i8) { return _mm256_cvtepi8_epi16(x); }
+inline __m256i all_16(__m128i x, u8) { return _mm256_cvtepu8_epi16(x); }
 inline __m256i all_32(__m128i x, i16) { return _mm256_cvtepi16_epi32(x); }
 inline __m256i all_32(__m128i x, u16) { return _mm256_cvtepu16_epi32(x); }
 inline __m256i all_32(__m128i x, i8) { return _mm256_cvtepi8_epi32(x); }

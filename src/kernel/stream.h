@@ -3,14 +3,15 @@
 #pragma once
 #include "frame/cache.h"
 #include "kernel/vec.h"
-#if SIG5D_LEVEL > 0
+#if SIG5D_LEVEL >= 4
 #include <immintrin.h>
+#else
+#include <emmintrin.h>
 #endif
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL > 0
 // p: aligned to the size of the vector.
 template <class V> inline void stream(void* p, V v)
 {
@@ -24,14 +25,6 @@ template <class V> inline void stream(void* p, V v)
 inline void stream_end() { _mm_sfence(); }
 
 inline bool aligned(const void* p, uintptr_t bytes) { return reinterpret_cast<uintptr_t>(p) % bytes == 0; }
-#endif
-
-// Two arrays of so many bytes have none in common.
-inline bool apart(const void* p, const void* q, size_t bytes)
-{
-    const uintptr_t a = reinterpret_cast<uintptr_t>(p), b = reinterpret_cast<uintptr_t>(q);
-    return a - b >= bytes && b - a >= bytes;
-}
 
 // An array that no cache holds is walked in three sections side by side, this many bytes of each in turn: memory
 // delivers several streams faster than one.
