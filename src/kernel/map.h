@@ -37,8 +37,8 @@ template <class Shape = Light, class D, class Op, class... A>
         constexpr size_t fewVectors = 512 / Shape::vectorSize;
         const D last = d + (n - L);
         const auto tail = op(load_lanes<L>(a + (n - L))...);
-        if (n > fewVectors * L) n = map_long<Shape>(n, d, op, a...);
-        for (size_t i = 0; i + L < n; i += L) store_lanes<L>(Ordinary{}, d + i, op(elements_of<Shape, L>(a + i)...));
+        size_t i = n > fewVectors * L ? n - map_long<Shape>(n, d, op, a...) : 0;
+        for (; i + L < n; i += L) store_lanes<L>(Ordinary{}, d + i, op(elements_of<Shape, L>(a + i)...));
         store_lanes<L>(Ordinary{}, last, tail);
     }
 }

@@ -19,7 +19,6 @@ template <int vectors, bool shortInOne, int bytes = vectorBytes> struct InFlight
 using Light = InFlight<4, false>;
 using Medium = InFlight<2, false>;
 template <int vectors> using Heavy = InFlight<vectors, true>;
-template <int bytes> using MediumOf = InFlight<2, false, bytes>;
 
 // A vector that stays in its register: compilers load it again from memory for a second use.
 template <class V> inline V in_register(V v)
@@ -80,7 +79,7 @@ template <class Shape, class D, class Write, class Op, class... A>
 
 // As many groups as there are. Returns the elements that are left.
 template <class Shape, class D, class Write, class Op, class... A>
-[[gnu::always_inline]] inline size_t map_groups(size_t n, D& d, Write write, Op op, A&... a)
+[[gnu::always_inline]] inline size_t map_groups(size_t n, D d, Write write, Op op, A... a)
 {
     constexpr size_t all = Shape::group * Shape::template lanesFor<D>;
     if constexpr (std::is_same_v<Shape, Light>)
@@ -91,6 +90,17 @@ template <class Shape, class D, class Write, class Op, class... A>
 #pragma GCC unroll 1
     for (; n >= all; n -= all) map_group<Shape>(d, write, op, a...);
     return n;
+}
+
+// The same, run by run.
+template <class Shape, class D, class Write, class Op, class... A>
+[[gnu::always_inline]] inline size_t map_runs(Runs run, D d, Write write, Op op, A... a)
+{
+    size_t left;
+    do {
+        left = map_groups<Shape>(run.length, d + run.begin, write, op, a + run.begin...);
+    } while (run.next());
+    return left;
 }
 
 // How a large array d is written. In sections: where every source is d itself or has no byte in common with it. Past
@@ -141,33 +151,21 @@ template <size_t L, class D> inline size_t to_alignment(D d)
     return L - reinterpret_cast<uintptr_t>(address_of(d)) % (L * each) / each;
 }
 
-// A large array whose vectors are aligned. Returns the elements that are left.
-template <class Shape, class D, class Op, class... A>
-[[gnu::always_inline]] inline size_t map_sections(size_t n, D& d, LargeArray write, Op op, A&... a)
+// How an array whose vectors are aligned is walked: large ones in sections. Up to the beginning of a line some elements
+// may be computed twice, but where a source is the destination.
+template <class Shape, class D> inline Runs runs_of(size_t n, D d, LargeArray large)
 {
-    constexpr size_t L = Shape::template lanesFor<D>, turn = bytesInTurn / Shape::vectorSize * L;
-    static_assert(turn % (Shape::group * L) == 0);
-    for (; !aligned(address_of(d), 64) && n >= L; n -= L) { // in turns of whole cache lines
-        store_lanes<L>(Ordinary{}, d, op(load_lanes<L>(a)...));
-        d = d + L;
-        (void(a = a + L), ...);
-    }
-    const auto map_turn = [ write, op ](D to, A... from) __attribute__((always_inline))
-    {
-#pragma GCC unroll 1
-        for (size_t i = 0; i < turn; i += Shape::group * L) map_group<Shape>(to, write, op, from...);
-    };
-    const size_t done = in_sections(n, turn, [&](size_t i) { map_turn(d + i, a + i...); });
-    stream_end(); // in any case, so that a check of the built code finds it
-    d = d + done;
-    (void(a = a + done), ...);
-    return n - done;
+    constexpr size_t L = Shape::template lanesFor<D>, group = Shape::group * L,
+                     turn = bytesInTurn / Shape::vectorSize * L;
+    static_assert(turn % group == 0);
+    if (!large.inSections) return Runs(n);
+    const size_t toLine = to_alignment<64 / Shape::vectorSize * L>(d) % (64 / Shape::vectorSize * L);
+    return Runs(n, large.pastCaches ? toLine : 0, group, turn);
 }
 
-// More than 512 bytes: whole groups of vectors, as many as there are. Moves d and the sources there and
-// returns how many are left.
+// More than 512 bytes: whole groups of vectors, as many as there are. Returns how many elements are left.
 template <class Shape, class D, class Op, class... A>
-[[gnu::always_inline]] inline size_t map_long(size_t n, D& d, Op op, A&... a)
+[[gnu::always_inline]] inline size_t map_long(size_t n, D d, Op op, A... a)
 {
     constexpr size_t L = Shape::template lanesFor<D>;
     const D first = d;
@@ -175,12 +173,18 @@ template <class Shape, class D, class Op, class... A>
     size_t skip = to_alignment<L>(d);
     // A value that is repeated in a vector of bytes must begin anew there.
     if constexpr (requires { op.period; }) skip &= ~(op.period - 1);
-    const LargeArray large = large_array(n, d, a...);
+    LargeArray large = large_array(n, d, a...);
     d = d + skip;
     (void(a = a + skip), ...);
     n -= skip;
-    if (large.inSections && vectors_aligned(d, Shape::vectorSize)) n = map_sections<Shape>(n, d, large, op, a...);
-    n = map_groups<Shape>(n, d, Ordinary{}, op, a...);
+    if (!vectors_aligned(d, Shape::vectorSize)) large = {false, false};
+    const Runs runs = runs_of<Shape>(n, d, large);
+    if constexpr (std::is_same_v<Shape, Light>)
+        n = large.pastCaches ? map_runs<Shape>(runs, d, PastCaches{}, op, a...)
+                             : map_runs<Shape>(runs, d, Ordinary{}, op, a...);
+    else // in one place, since more is made of the operation than of the question at each store
+        n = map_runs<Shape>(runs, d, large, op, a...);
+    if (large.pastCaches) stream_end();
     store_lanes<L>(Ordinary{}, first, head);
     return n;
 }

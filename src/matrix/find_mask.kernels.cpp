@@ -101,7 +101,7 @@ template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i3
 #pragma GCC ivdep
             for (size_t k = 0; k < n; ++k) mask[k] = values[k];
         } else {
-            map(n, mask, Same{}, values);
+            map<Medium>(n, mask, Same{}, values);
         }
     };
     with_comparison(code, y, n, write);

@@ -42,11 +42,9 @@ inline void copy_bytes(size_t n, const u8* a, u8* d) { map(n, d, Same{}, a); }
 {
     const size_t skip = to_alignment<vectorBytes>(d) + vectorBytes;
     copy_bytes(skip, a, d);
-    const u8* from = a + skip;
-    u8* to = d + skip;
-    const size_t left = map_groups<Light>(n - skip, to, PastCaches{}, Same{}, from);
+    const size_t left = map_groups<Light>(n - skip, d + skip, PastCaches{}, Same{}, a + skip);
     stream_end();
-    copy_bytes(left, from, to);
+    copy_bytes(left, a + (n - left), d + (n - left));
 }
 
 // The order of elements shows only where the destination begins inside the source. A run goes past the caches if the
