@@ -1,6 +1,6 @@
 // The angle of a point, for numbers and vectors of numbers, the same bits for both.
 #pragma once
-#include "kernel/parts.h"
+#include "kernel/complex.h"
 #include "kernel/polynomial.h"
 
 namespace sig5d::SIG5D_VARIANT {

@@ -1,19 +1,11 @@
 // Vectors of one element type made of vectors of another.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/partial.h"
+#include <type_traits>
 #if SIG5D_LEVEL > 0
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
-
-// n elements, in a register of 16 bytes at least.
-template <int n, class T> inline auto load_lanes(const T* p)
-{
-    if constexpr (n * sizeof(T) > 16)
-        return loadn<n>(p);
-    else
-        return load_part<static_cast<int>(n * sizeof(T))>(p);
-}
 
 // n elements as 16-bit or 32-bit integers.
 template <int n, class S> inline auto load_as_16(const S* p) { return widened_to_16<n>(load_lanes<n>(p)); }

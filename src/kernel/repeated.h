@@ -1,7 +1,7 @@
-// One value as an array that has it everywhere: what map takes for a source, so that an operation with a value is the
-// operation of two arrays. A complex value is its two parts in turn.
+// One value as an array that has it everywhere, so that an operation with a value is the operation of two arrays. A
+// complex value is its two parts in turn, and then the arrays beside it are those of the parts.
 #pragma once
-#include "kernel/compact_loop.h"
+#include "kernel/map.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -18,38 +18,33 @@ template <class T> struct Repeated {
     {
         return {sizeof(T) == 4 && n % 2 ? pattern << 32 | pattern >> 32 : pattern};
     }
-    void operator+=(size_t n) { *this = *this + n; }
 };
-
+template <class T> inline Span span(Repeated<T>, size_t) { return nowhere; }
+template <int n, class T> inline auto load_lanes(Repeated<T> a)
+{
+#if SIG5D_LEVEL == 0
+    return static_cast<T>(a.pattern);
+#else
+    constexpr int bytes = n * sizeof(T) < 16 ? 16 : static_cast<int>(n * sizeof(T));
+    return reinterpret_cast<Vec<T, bytes / static_cast<int>(sizeof(T))>>(splatn<bytes / 8>(a.pattern));
+#endif
+}
 #if SIG5D_LEVEL > 0
-
-template <int L, class T> inline Vec<T, L> loadn(Repeated<T> a)
+template <int L, class T> [[gnu::always_inline]] inline Vec<T, L> load_ends(Repeated<T> a, size_t)
 {
-    return reinterpret_cast<Vec<T, L>>(splatn<L * sizeof(T) / 8>(a.pattern));
+    return load_lanes<L>(a);
 }
-template <int bytes, class T> inline Vec<T, 16 / sizeof(T)> load_part(Repeated<T> a)
-{
-    return loadn<16 / sizeof(T)>(a);
-}
-template <class T> [[gnu::always_inline]] inline Vec<T> load_ends(Repeated<T> a, size_t) { return loadn<lanes<T>>(a); }
-
-// It lies in no memory that a destination could overlap.
-struct Nowhere {
-};
-template <class T> inline Nowhere lowest(Repeated<T>, size_t) { return {}; }
-inline bool apart(const void*, Nowhere, size_t) { return true; }
-
 #endif
 
 template <class T> inline Repeated<T> repeated(T v) { return {repeated_bits(v)}; }
 inline Repeated<i32> repeated(c32s v) { return {repeated_bits(v)}; }
 
-// Arrays of complex numbers as arrays of their parts.
-inline size_t count(const void*, int n) { return static_cast<size_t>(n); }
-inline size_t count(const c32s*, int n) { return 2 * static_cast<size_t>(n); }
-template <class T> inline T* parts(T* p) { return p; }
-inline i32* parts(c32s* p) { return &p->re; }
-inline const i32* parts(const c32s* p) { return &p->re; }
+// Arrays of complex integers as arrays of their parts, and how many elements those have.
+inline size_t part_count(const void*, int n) { return static_cast<size_t>(n); }
+inline size_t part_count(const c32s*, int n) { return 2 * static_cast<size_t>(n); }
+template <class T> inline T* parts_of(T* p) { return p; }
+inline i32* parts_of(c32s* p) { return &p->re; }
+inline const i32* parts_of(const c32s* p) { return &p->re; }
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

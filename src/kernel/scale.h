@@ -8,7 +8,7 @@
 //     quick<T, s>, quickly<s>(x...)  optional, for vectors: there is a shorter way to the result with scale factor s, 1
 //                      or 15.
 #pragma once
-#include "kernel/compact_loop.h"
+#include "kernel/map.h"
 #include "kernel/lane_shifts.h"
 #include "kernel/saturate.h"
 
@@ -46,7 +46,7 @@ template <class T, class Op> struct Scaled {
 // d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
 template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
 {
-    map_compact<2>(n, d, Scaled<T, Op>{op, s}, a...);
+    map<Heavy<2>>(n, d, Scaled<T, Op>{op, s}, a...);
 }
 
 #else
@@ -251,15 +251,15 @@ template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, 
 {
     constexpr int light = sizeof(T) < 4 ? 4 : 2; // vectors in flight where operations on them are few
     if constexpr (hasQuick<Op, T, 1>)
-        if (s == 1) return map_compact<light>(n, d, Quick<Op, 1>{op}, a...);
+        if (s == 1) return map<Heavy<light>>(n, d, Quick<Op, 1>{op}, a...);
     if constexpr (hasQuick<Op, T, 15>)
-        if (s == 15) return map_compact<light>(n, d, Quick<Op, 15>{op}, a...);
+        if (s == 15) return map<Heavy<light>>(n, d, Quick<Op, 15>{op}, a...);
     if (s == 0)
-        map_compact<light>(n, d, Saturated<Op>{op}, a...);
+        map<Heavy<light>>(n, d, Saturated<Op>{op}, a...);
     else if (s < 0)
-        map_compact<2>(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
+        map<Heavy<2>>(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
     else if (s <= Op::template bits<T>)
-        map_compact<2>(n, d, Scaled<Op>{op, s}, a...);
+        map<Heavy<2>>(n, d, Scaled<Op>{op, s}, a...);
     else
         clear(n * sizeof(D), reinterpret_cast<u8*>(d));
 }

@@ -2,7 +2,7 @@
 // others go to the library's scalar functions one by one.
 #pragma once
 #include "kernel/libm.h"
-#include "kernel/parts.h"
+#include "kernel/complex.h"
 #include "kernel/polynomial.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -40,7 +40,7 @@ template <class V> inline ReducedAngle<V> reduced_angle(V x)
 
 // Of rest - below in [-pi/4, pi/4]. The first terms of both series are added last, with what their rounding lost; the
 // others are minimax polynomials in rest^2 with errors of 2^-58 (sine) and 2^-64 (cosine).
-template <class V> inline Parts<V> near_zero_cos_sin(V rest, V below)
+template <class V> inline Complex<V> near_zero_cos_sin(V rest, V below)
 {
     static constexpr f64 sine[] = {0x1.5555555555549p-3,   -0x1.111111110f8a6p-7, 0x1.a01a019c16191p-13,
                                    -0x1.71de357b1a5cap-19, 0x1.ae5e689d17ad5p-26, -0x1.5d93a3b6fc2d0p-33};
@@ -54,10 +54,10 @@ template <class V> inline Parts<V> near_zero_cos_sin(V rest, V below)
 }
 
 // (cos, sin) of x, |x| <= 2^15. The sine of -0 is -0.
-template <class V> inline Parts<V> moderate_cos_sin(const ReducedAngle<V>& angle)
+template <class V> inline Complex<V> moderate_cos_sin(const ReducedAngle<V>& angle)
 {
     using Bits = BitsOf<V>;
-    const Parts<V> a = near_zero_cos_sin(angle.rest, angle.below);
+    const Complex<V> a = near_zero_cos_sin(angle.rest, angle.below);
     const auto quadrant = angle.quadrant, one = Bits::all(1), sign = Bits::all(signBit);
     // Odd multiples of pi/2 exchange the two.
     const auto cosine = Bits::of(a.re), sine = Bits::of(a.im);
@@ -66,12 +66,12 @@ template <class V> inline Parts<V> moderate_cos_sin(const ReducedAngle<V>& angle
             Bits::back(sine ^ exchange ^ ((quadrant << 62) & sign))};
 }
 
-inline void replace_far(Parts<f64>& w, int, f64 x)
+inline void replace_far(Complex<f64>& w, int, f64 x)
 {
     const libm::CosSin a = libm::cosSin(x);
     w = {a.cos, a.sin};
 }
-template <class V> inline void replace_far(Parts<V>& w, int far, V x)
+template <class V> inline void replace_far(Complex<V>& w, int far, V x)
 {
     for (int i = 0; i < static_cast<int>(sizeof(V) / sizeof(f64)); ++i) {
         if (!(far >> i & 1)) continue;
@@ -82,9 +82,9 @@ template <class V> inline void replace_far(Parts<V>& w, int far, V x)
 }
 
 // (cos, sin) of any x; infinities and NaN give NaN.
-template <class V> [[gnu::always_inline]] inline Parts<V> cos_sin(const ReducedAngle<V>& angle)
+template <class V> [[gnu::always_inline]] inline Complex<V> cos_sin(const ReducedAngle<V>& angle)
 {
-    Parts<V> w = moderate_cos_sin(angle);
+    Complex<V> w = moderate_cos_sin(angle);
     if (__builtin_expect(angle.far, 0)) replace_far(w, angle.far, angle.x);
     return w;
 }

@@ -7,7 +7,6 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL > 0
 // p: aligned to the size of the vector.
 template <class V> inline void stream(void* p, V v)
 {
@@ -21,29 +20,45 @@ template <class V> inline void stream(void* p, V v)
 inline void stream_end() { _mm_sfence(); }
 
 inline bool aligned(const void* p, uintptr_t bytes) { return reinterpret_cast<uintptr_t>(p) % bytes == 0; }
-#endif
-
-// Two arrays of so many bytes have none in common.
-inline bool apart(const void* p, const void* q, size_t bytes)
-{
-    const uintptr_t a = reinterpret_cast<uintptr_t>(p), b = reinterpret_cast<uintptr_t>(q);
-    return a - b >= bytes && b - a >= bytes;
-}
 
 // An array that no cache holds is walked in three sections side by side, this many bytes of each in turn: memory
 // delivers several streams faster than one.
 constexpr size_t sections = 3, bytesInTurn = 512;
 
-// Calls step(i), for pieces of `turn` elements from index i on, until fewer than three pieces are left. Returns how
-// many elements that took, from the beginning on.
-template <class Step> inline size_t in_sections(size_t n, size_t turn, Step step)
+// The runs of elements in which an array of n is walked, one after the other. As it stands: in one. In sections: "lead"
+// elements up to the beginning of a cache line, then `turn` of each section in turn, then what is left. The lead is
+// rounded up to whole groups, so that some elements belong to two runs.
+class Runs
 {
-    const size_t section = n / sections / turn * turn;
-    for (size_t i = 0; i < section; i += turn)
-#pragma GCC unroll 1
-        for (size_t k = 0; k < sections; ++k) step(i + k * section);
-    return sections * section;
-}
+public:
+    size_t begin = 0, length; // of the first run, and after next() of the next one
+
+    explicit Runs(size_t n) : length(n), end_(n) {}
+    Runs(size_t n, size_t lead, size_t group, size_t turn) : length(n), end_(n), lead_(lead), turn_(turn)
+    {
+        if (n < lead + sections * turn) return;
+        section_ = (n - lead) / sections / turn * turn;
+        length = (lead + group - 1) / group * group;
+        if (lead == 0) next();
+    }
+    bool next()
+    {
+        if (begin + length == end_) return false;
+        begin = lead_ + done_ + section_ * which_;
+        length = turn_;
+        if (done_ == section_) {
+            begin = lead_ + sections * section_;
+            length = end_ - begin;
+        } else if (++which_ == sections) {
+            which_ = 0;
+            done_ += turn_;
+        }
+        return true;
+    }
+
+private:
+    size_t end_, lead_ = 0, turn_ = 0, section_ = 0, done_ = 0, which_ = 0;
+};
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

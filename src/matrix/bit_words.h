@@ -1,6 +1,6 @@
 // 32 elements and the word of their bits: bit i of the word is a[i] != 0.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/map.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -54,7 +54,7 @@ inline void unpack_word(u32 word, u8* d)
     const __m256i byte = _mm256_setr_epi64x(0, 0x0101010101010101, 0x0202020202020202, 0x0303030303030303);
     const __m256i bit = _mm256_set1_epi64x(static_cast<long long>(0x8040201008040201));
     const __m256i x = _mm256_and_si256(_mm256_shuffle_epi8(_mm256_set1_epi32(static_cast<int>(word)), byte), bit);
-    put(d, _mm256_min_epu8(x, _mm256_set1_epi8(1)));
+    store_at(d, _mm256_min_epu8(x, _mm256_set1_epi8(1)));
 }
 inline void unpack_word(u32 word, i16* d)
 {
@@ -63,13 +63,13 @@ inline void unpack_word(u32 word, i16* d)
         const __m256i byte = _mm256_setr_m128i(_mm_set1_epi16(static_cast<short>(0x8000 + 2 * k)),
                                                _mm_set1_epi16(static_cast<short>(0x8001 + 2 * k)));
         const __m256i x = _mm256_shuffle_epi8(_mm256_set1_epi32(static_cast<int>(word)), byte);
-        put(d + 16 * k, _mm256_min_epi16(_mm256_and_si256(x, _mm256_setr_m128i(bit, bit)), _mm256_set1_epi16(1)));
+        store_at(d + 16 * k, _mm256_min_epi16(_mm256_and_si256(x, _mm256_setr_m128i(bit, bit)), _mm256_set1_epi16(1)));
     }
 }
 inline void unpack_word(u32 word, i32* d)
 {
     const Vec<u32> lane = {0, 1, 2, 3, 4, 5, 6, 7};
-    for (u32 k = 0; k < 4; ++k) put(d + 8 * k, splat(word) >> (lane + 8 * k) & 1);
+    for (u32 k = 0; k < 4; ++k) store_at(d + 8 * k, splat(word) >> (lane + 8 * k) & 1);
 }
 
 #else
@@ -93,8 +93,8 @@ inline void unpack_word(u32 word, u8* d)
     __m128i x = _mm_cvtsi32_si128(static_cast<int>(word));
     x = _mm_unpacklo_epi8(x, x);
     x = _mm_unpacklo_epi16(x, x); // each byte four times
-    put(d, _mm_min_epu8(_mm_and_si128(_mm_shuffle_epi32(x, 0x50), bit), one));
-    put(d + 16, _mm_min_epu8(_mm_and_si128(_mm_shuffle_epi32(x, 0xFA), bit), one));
+    store_at(d, _mm_min_epu8(_mm_and_si128(_mm_shuffle_epi32(x, 0x50), bit), one));
+    store_at(d + 16, _mm_min_epu8(_mm_and_si128(_mm_shuffle_epi32(x, 0xFA), bit), one));
 }
 inline void unpack_word(u32 word, i16* d)
 {
@@ -102,8 +102,8 @@ inline void unpack_word(u32 word, i16* d)
     const auto half = [&](i16* to, __m128i x) { // shifts to the sign the bit of each lane, then to the lowest
         const __m128i low = _mm_setr_epi16(-32768, 16384, 8192, 4096, 2048, 1024, 512, 256);
         const __m128i high = _mm_setr_epi16(128, 64, 32, 16, 8, 4, 2, 1);
-        put(to, _mm_srli_epi16(_mm_mullo_epi16(x, low), 15));
-        put(to + 8, _mm_srli_epi16(_mm_mullo_epi16(x, high), 15));
+        store_at(to, _mm_srli_epi16(_mm_mullo_epi16(x, low), 15));
+        store_at(to + 8, _mm_srli_epi16(_mm_mullo_epi16(x, high), 15));
     };
     half(d, _mm_shuffle_epi32(twice, 0x00));
     half(d + 16, _mm_shuffle_epi32(twice, 0x55));
@@ -113,7 +113,7 @@ inline void unpack_word(u32 word, i32* d)
     const __m128i all = _mm_set1_epi32(static_cast<int>(word));
     __m128i bit = _mm_setr_epi32(1, 2, 4, 8);
     for (int k = 0; k < 8; ++k) {
-        put(d + 4 * k, _mm_srli_epi32(_mm_cmpeq_epi32(_mm_and_si128(all, bit), bit), 31));
+        store_at(d + 4 * k, _mm_srli_epi32(_mm_cmpeq_epi32(_mm_and_si128(all, bit), bit), 31));
         bit = _mm_slli_epi32(bit, 4);
     }
 }

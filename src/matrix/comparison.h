@@ -57,11 +57,10 @@ template <> constexpr bool findsInfinities<BothInfinite> = true;
 template <> constexpr bool findsInfinities<EqualByKind> = true;
 
 // One value that is compared with all elements, in place of an array.
-template <class T> struct Repeated {
+template <class T> struct OneValue {
     T value;
     T operator[](size_t) const { return value; }
-    Repeated operator+(size_t) const { return *this; }
-    Repeated& operator+=(size_t) { return *this; }
+    OneValue operator+(size_t) const { return *this; }
 };
 
 inline bool all_finite(const f64* y, size_t n)
@@ -107,7 +106,7 @@ template <class Act> inline void with_comparison(u32 code, const f64* y, size_t 
     if (code >= 4 && n <= cached && all_finite(y, n)) return with_equality<Equal>(code, act);
     with_equality<EqualByKind>(code, act);
 }
-template <class T, class Act> inline void with_comparison(u32 code, Repeated<T> y, size_t, Act act)
+template <class T, class Act> inline void with_comparison(u32 code, OneValue<T> y, size_t, Act act)
 {
     // The kind of a single value is known beforehand.
     if constexpr (sizeof(T) == sizeof(f64)) {

@@ -53,7 +53,7 @@ template <class T, class Y> void find_indexes_by_code(u32 code, const T* x, Y y,
 }
 template <class T> void find_indexes(u32 code, const T* x, T y, u32* indexes, u32 n, u32* count)
 {
-    find_indexes_by_code(code, x, Repeated<T>{y}, indexes, n, count);
+    find_indexes_by_code(code, x, OneValue<T>{y}, indexes, n, count);
 }
 template <class T> void find_indexes(u32 code, const T* x, const T* y, u32* indexes, u32 n, u32* count)
 {

@@ -19,14 +19,18 @@ template <class T, class Y, class Test> struct MaskValues {
             return holds;
     }
     MaskValues operator+(size_t k) const { return {x + k, y + k, test}; }
-    MaskValues& operator+=(size_t k) { return *this = *this + k; }
 };
-template <class T, class Y, class Test> inline const void* lowest(const MaskValues<T, Y, Test>& m, size_t)
+
+template <class T, class Y, class Test> inline Span span(const MaskValues<T, Y, Test>& m, size_t n)
 {
-    return m.x;
+    return span(m.x, n);
 }
 
-#if SIG5D_LEVEL > 0
+#if SIG5D_LEVEL == 0
+
+template <int n, class T, class Y, class Test> inline i32 load_lanes(const MaskValues<T, Y, Test>& m) { return m[0]; }
+
+#else
 
 // Lanes of 64 bits of which either half will do, as lanes of 32.
 inline Vec<i32, 4> halves(Vec<i64, 2> a, Vec<i64, 2> b)
@@ -72,18 +76,17 @@ template <int L, class T, class Y, class Test> inline Vec<i32, L> lanes_of(const
 struct IsNegativeInfinity {
     auto operator()(auto x, auto) const { return x == -infinity; }
 };
-template <int L, class T, class Y, class Test> inline Vec<i32, L> loadn(const MaskValues<T, Y, Test>& m)
+template <int n, class T, class Y, class Test> inline auto load_lanes(const MaskValues<T, Y, Test>& m)
 {
-    if constexpr (findsInfinities<Test>)
-        return lanes_of<L>(m) & (lanes_of<L>(MaskValues<T, Y, IsNegativeInfinity>{m.x, m.y, {}}) | 1);
-    else
-        return lanes_of<L>(m) & 1;
-}
-template <int bytes, class T, class Y, class Test> inline Vec<i32, 4> load_part(const MaskValues<T, Y, Test>& m)
-{
-    Vec<i32, 4> v = {};
-    for (int i = 0; i < bytes / 4; ++i) v[i] = m[static_cast<size_t>(i)];
-    return v;
+    if constexpr (n < lanes<i32>) {
+        Vec<i32, 4> v = {};
+        for (int i = 0; i < n; ++i) v[i] = m[static_cast<size_t>(i)];
+        return v;
+    } else if constexpr (findsInfinities<Test>) {
+        return lanes_of<n>(m) & (lanes_of<n>(MaskValues<T, Y, IsNegativeInfinity>{m.x, m.y, {}}) | 1);
+    } else {
+        return lanes_of<n>(m) & 1;
+    }
 }
 
 #endif
@@ -98,14 +101,14 @@ template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i3
 #pragma GCC ivdep
             for (size_t k = 0; k < n; ++k) mask[k] = values[k];
         } else {
-            map(n, mask, Same{}, values);
+            map<Medium>(n, mask, Same{}, values);
         }
     };
     with_comparison(code, y, n, write);
 }
 template <class T> void find_mask(u32 code, const T* x, T y, i32* mask, u32 n)
 {
-    find_mask_by_code(code, x, Repeated<T>{y}, mask, n);
+    find_mask_by_code(code, x, OneValue<T>{y}, mask, n);
 }
 template <class T> void find_mask(u32 code, const T* x, const T* y, i32* mask, u32 n)
 {

@@ -1,6 +1,6 @@
 // The elements of an array for which a comparison holds: as bits, or as lanes of a mask.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/map.h"
 #include "matrix/comparison.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -9,10 +9,10 @@ namespace {
 #if SIG5D_LEVEL > 0
 // What a comparison's other side looks like in vectors of n elements.
 template <int n, class T> inline auto vector_of(const T* y) { return loadn<n>(y); }
-template <int n, class T> inline auto vector_of(Repeated<T> y) { return splatn<n>(y.value); }
+template <int n, class T> inline auto vector_of(OneValue<T> y) { return splatn<n>(y.value); }
 // The same, of so many bytes in the low end of a register.
 template <int bytes, class T> inline auto part_of(const T* y) { return load_part<bytes>(y); }
-template <int bytes, class T> inline auto part_of(Repeated<T> y) { return splatn<16 / sizeof(T)>(y.value); }
+template <int bytes, class T> inline auto part_of(OneValue<T> y) { return splatn<16 / sizeof(T)>(y.value); }
 #endif
 
 // Elements x[k] for which the test with y[k] holds.

@@ -142,7 +142,7 @@ inline bool disjoint(const void* p, size_t bytesP, const void* q, size_t bytesQ)
 // From how many of 1024 on elements move by eights: sooner where one shuffle moves all of them.
 template <class T> constexpr size_t many = SIG5D_LEVEL >= 2 && sizeof(T) <= 2 ? 8 : 32;
 
-inline auto positive(const i32* mask) { return Holding<i32, Repeated<i32>, Greater>{mask, {0}, {}}; }
+inline auto positive(const i32* mask) { return Holding<i32, OneValue<i32>, Greater>{mask, {0}, {}}; }
 
 template <class T> u32 pack_mask_counted(u32 n, const T* a, T* d, const i32* mask)
 {

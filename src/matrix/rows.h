@@ -1,6 +1,6 @@
 // Runs of elements within rows: copied, exchanged, set to zero. Matrices are walked row by row around them.
 #pragma once
-#include "kernel/loops.h"
+#include "kernel/map.h"
 #include "matrix/overlap.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -40,14 +40,11 @@ inline void copy_bytes(size_t n, const u8* a, u8* d) { map(n, d, Same{}, a); }
 // The runs have nothing in common.
 [[gnu::noinline]] void copy_bytes_past_caches(size_t n, const u8* a, u8* d)
 {
-    const size_t skip = misalignment(d) + vectorBytes;
+    const size_t skip = to_alignment<vectorBytes>(d) + vectorBytes;
     copy_bytes(skip, a, d);
-    const u8* from = a + skip;
-    u8* to = d + skip;
-    const size_t left = map_blocks(
-        n - skip, to, [](u8* p, auto v) { stream(p, v); }, Same{}, from);
+    const size_t left = map_groups<Light>(n - skip, d + skip, PastCaches{}, Same{}, a + skip);
     stream_end();
-    copy_bytes(left, from, to);
+    copy_bytes(left, a + (n - left), d + (n - left));
 }
 
 // The order of elements shows only where the destination begins inside the source. A run goes past the caches if the
@@ -58,16 +55,8 @@ template <class T> inline void copy_run(const T* a, T* d, size_t n, bool pastCac
     const auto from = reinterpret_cast<const u8*>(a);
     const auto to = reinterpret_cast<u8*>(d);
     if (distance < bytes && distance) return copy_in_order(a, d, n);
-    if (pastCaches && bytes >= 4096 && apart(a, d, bytes)) return copy_bytes_past_caches(bytes, from, to);
+    if (pastCaches && bytes >= 4096 && apart(span(a, n), span(d, n))) return copy_bytes_past_caches(bytes, from, to);
     copy_bytes(bytes, from, to);
-}
-
-template <int bytes> inline auto piece(const u8* p)
-{
-    if constexpr (bytes > 16)
-        return loadn<bytes>(p);
-    else
-        return load_part<bytes>(p);
 }
 
 // Rows of at most two vectors, for which a call each would cost more than the copy. The matrices have nothing in
@@ -77,7 +66,7 @@ template <int bytes> void copy_short_rows(size_t rows, size_t n, const u8* a, u8
     if constexpr (bytes > 1)
         if (n < bytes) return copy_short_rows<bytes / 2>(rows, n, a, d, aStep, dStep);
     for (; rows; --rows) {
-        const auto head = piece<bytes>(a), tail = piece<bytes>(a + (n - bytes));
+        const auto head = load_lanes<bytes>(a), tail = load_lanes<bytes>(a + (n - bytes));
         store_part<bytes>(d, head);
         store_part<bytes>(d + (n - bytes), tail);
         a += aStep;
@@ -108,18 +97,18 @@ inline void exchange_bytes(size_t n, u8* a, u8* b)
     size_t k = 0;
     for (; k + 2 * L <= n; k += 2 * L) {
         const Vec<u8> a0 = load(a + k), a1 = load(a + k + L), b0 = load(b + k), b1 = load(b + k + L);
-        put(a + k, b0);
-        put(a + k + L, b1);
-        put(b + k, a0);
-        put(b + k + L, a1);
+        store_at(a + k, b0);
+        store_at(a + k + L, b1);
+        store_at(b + k, a0);
+        store_at(b + k + L, a1);
     }
     if (k + L <= n) {
         const Vec<u8> a0 = load(a + k);
-        put(a + k, load(b + k));
-        put(b + k, a0);
+        store_at(a + k, load(b + k));
+        store_at(b + k, a0);
     }
-    put(a + (n - L), bTail);
-    put(b + (n - L), aTail);
+    store_at(a + (n - L), bTail);
+    store_at(b + (n - L), aTail);
 }
 
 template <class T> inline void exchange_runs(T* a, T* b, size_t n)

@@ -1,6 +1,6 @@
 // Extremes of bytes, with the places where they come first, and sums.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "kernel/map.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -246,7 +246,7 @@ inline __m256i fours(__m256i x)
     size_t n = len;
     u32 total = 0;
     if (n >= 16 * bytes) {
-        const size_t skip = misalignment(p);
+        const size_t skip = to_alignment<bytes>(p) % bytes;
         total = plain_sum(p, skip);
         p += skip;
         n -= skip;

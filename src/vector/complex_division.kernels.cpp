@@ -1,14 +1,14 @@
 // Quotients by complex numbers: (a * conj(b)) * (1 / |b|^2), the textbook formula without scaling, every step rounded
 // to 53 bits with exponents that neither overflow nor underflow. docs/decisions/complex-division.md tells why.
 #include "frame/entry.h"
-#include "vector/map_numbers.h"
+#include "kernel/complex.h"
 #include "vector/wide.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // The definition, for one quotient.
-Parts<f64> wide_quotient(Parts<f64> dividend, Parts<f64> divisor)
+Complex<f64> wide_quotient(Complex<f64> dividend, Complex<f64> divisor)
 {
     const Wide ar = wide(dividend.re), ai = wide(dividend.im), br = wide(divisor.re), bi = wide(divisor.im);
     const Wide t = reciprocal(br * br + bi * bi);
@@ -18,7 +18,7 @@ Parts<f64> wide_quotient(Parts<f64> dividend, Parts<f64> divisor)
 #if SIG5D_LEVEL == 0
 
 template <class... V> inline bool ordinary(V...) { return false; }
-inline Parts<f64> quotient(Parts<f64> a, Parts<f64> b, bool) { return wide_quotient(a, b); }
+inline Complex<f64> quotient(Complex<f64> a, Complex<f64> b, bool) { return wide_quotient(a, b); }
 
 #else
 
@@ -49,26 +49,26 @@ template <class V, class... W> inline bool ordinary(V x, W... y)
 }
 
 // Lane by lane, where numbers are not ordinary.
-template <class V> [[gnu::noinline]] void wide_quotients(Parts<V>* a, const Parts<V>* b)
+template <class V> [[gnu::noinline]] void wide_quotients(Complex<V>* a, const Complex<V>* b)
 {
     constexpr size_t L = sizeof(V) / sizeof(f64);
     const auto *br = reinterpret_cast<const f64*>(&b->re), *bi = reinterpret_cast<const f64*>(&b->im);
     auto *ar = reinterpret_cast<f64*>(&a->re), *ai = reinterpret_cast<f64*>(&a->im);
     for (size_t i = 0; i < L; ++i) {
-        const Parts<f64> q = wide_quotient({ar[i], ai[i]}, {br[i], bi[i]});
+        const Complex<f64> q = wide_quotient({ar[i], ai[i]}, {br[i], bi[i]});
         ar[i] = q.re;
         ai[i] = q.im;
     }
 }
 
-template <class V> inline Parts<V> quotient(Parts<V> a, Parts<V> b, bool isOrdinary)
+template <class V> inline Complex<V> quotient(Complex<V> a, Complex<V> b, bool isOrdinary)
 {
     if (__builtin_expect(isOrdinary, 1)) {
         const V t = constant<V>(1) / (b.re * b.re + b.im * b.im);
         return {(a.re * b.re + b.im * a.im) * t, t * (a.im * b.re - a.re * b.im)};
     }
-    Parts<V> result = a;
-    const Parts<V> divisor = b;
+    Complex<V> result = a;
+    const Complex<V> divisor = b;
     wide_quotients(&result, &divisor);
     return result;
 }
@@ -76,40 +76,40 @@ template <class V> inline Parts<V> quotient(Parts<V> a, Parts<V> b, bool isOrdin
 #endif
 
 struct Quotient {
-    template <class V> Parts<V> operator()(Parts<V> a, Parts<V> b) const
+    template <class V> Complex<V> operator()(Complex<V> a, Complex<V> b) const
     {
         return quotient(a, b, ordinary(a.re, a.im, b.re, b.im));
     }
-    template <class V> Parts<V> operator()(V a, Parts<V> b) const
+    template <class V> Complex<V> operator()(V a, Complex<V> b) const
     {
-        return quotient(Parts<V>{a, V{}}, b, ordinary(a, b.re, b.im));
+        return quotient(Complex<V>{a, V{}}, b, ordinary(a, b.re, b.im));
     }
 };
 struct ValueOver {
     f64 re, im;
     bool isOrdinary;
     ValueOver(f64 x, f64 y) : re(x), im(y), isOrdinary(ordinary(x, y)) {}
-    template <class V> Parts<V> operator()(Parts<V> b) const
+    template <class V> Complex<V> operator()(Complex<V> b) const
     {
-        return quotient(Parts<V>{constant<V>(re), constant<V>(im)}, b, isOrdinary && ordinary(b.re, b.im));
+        return quotient(Complex<V>{constant<V>(re), constant<V>(im)}, b, isOrdinary && ordinary(b.re, b.im));
     }
 };
 
 [[gnu::noinline]] void divide_value(size_t n, const c64f* b, c64f* d, f64 re, f64 im)
 {
-    map_numbers(n, folded(d), ValueOver(re, im), folded(b));
+    map<Medium>(n, folded(d), ValueOver(re, im), folded(b));
 }
 void divide_value(const c64f* b, c64f* d, const c64f* v, u32 n) { divide_value(n, b, d, v->re, v->im); }
 void divide_value(const c64f* b, c64f* d, f64 v, u32 n) { divide_value(n, b, d, v, 0.0); }
 
 [[gnu::noinline]] void divide(const c64f* a, const c64f* b, c64f* d, u32 n)
 {
-    map_numbers(n, folded(d), Quotient{}, folded(a), folded(b));
+    map<Medium>(n, folded(d), Quotient{}, folded(a), folded(b));
 }
 
 [[gnu::noinline]] void divide(const f64* a, const c64f* b, c64f* d, u32 n)
 {
-    map_numbers(n, folded(d), Quotient{}, FoldedReals{a}, folded(b));
+    map<Medium>(n, folded(d), Quotient{}, FoldedReals{a}, folded(b));
 }
 
 } // namespace

@@ -43,7 +43,7 @@ inline Moved* moved(c64f* d) { return reinterpret_cast<Moved*>(d); }
 
 template <class Op> [[gnu::noinline]] void each(size_t n, const c64f* a, c64f* d)
 {
-    map_pairs_of(n, moved(d), Op{}, moved(a));
+    map_pairs(n, moved(d), Op{}, moved(a));
 }
 
 void multiply_by_i(const c64f* a, c64f* d, u32 n) { each<TimesI>(n, a, d); }
@@ -54,11 +54,12 @@ void flip_conj(const c64f* a, c64f* d, u32 n) { each<SwappedConjugate>(n, a, d);
 struct Backwards {
     const Moved* end;
     Backwards operator+(size_t n) const { return {end - n}; }
-    void operator+=(size_t n) { end -= n; }
-    Moved operator[](size_t i) const { return *(end - 1 - i); }
 };
+inline Span span(Backwards a, size_t n) { return span(a.end - n, n); }
 
 #if SIG5D_LEVEL == 0
+
+template <int n> inline Moved load_lanes(Backwards a) { return a.end[-1]; }
 
 [[gnu::noinline]] void reverse_in_place(size_t n, Moved* d)
 {
@@ -76,9 +77,7 @@ inline Vec<f64, 2> reversed(Vec<f64, 2> v) { return v; }
 inline Vec<f64, 4> reversed(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 2, 3, 0, 1); }
 #endif
 
-template <int L> inline auto loadn(Backwards a) { return reversed(loadn<2 * L>(&(a.end - L)->re)); }
-template <int bytes> inline Vec<f64, 2> load_part(Backwards a) { return loadn<1>(a); }
-inline const Moved* lowest(Backwards a, size_t n) { return a.end - n; }
+template <int n> inline auto load_lanes(Backwards a) { return reversed(loadn<2 * n>(&(a.end - n)->re)); }
 
 // From both ends towards the middle, a vector at a time.
 [[gnu::noinline]] void reverse_in_place(size_t n, Moved* d)
@@ -86,9 +85,9 @@ inline const Moved* lowest(Backwards a, size_t n) { return a.end - n; }
     constexpr size_t L = lanes<c64f>;
     Moved *p = d, *q = d + n;
     for (; static_cast<size_t>(q - p) >= 2 * L; p += L, q -= L) {
-        const auto x = loadn<L>(Backwards{q}), y = loadn<L>(Backwards{p + L});
-        put(p, x);
-        put(q - L, y);
+        const auto x = load_lanes<L>(Backwards{q}), y = load_lanes<L>(Backwards{p + L});
+        store_at(p, x);
+        store_at(q - L, y);
     }
     if (const size_t left = static_cast<size_t>(q - p); left > 1) map(left, p, Same{}, Backwards{q});
 }

@@ -56,17 +56,17 @@ template <class T> struct BothOfValue {
 template <class T> [[gnu::noinline]] void quotients_of_value(const T* b, T v, T* q, u32 n)
 {
     if (n < fewElements) return plain_quotients(Constant<T>{v}, b, q, n);
-    map_compact<1>(n, q, QuotientOfValue<T>{v}, b);
+    map<Heavy<1>>(n, q, QuotientOfValue<T>{v}, b);
 }
 template <class T> [[gnu::noinline]] void quotients_and_remainders_of_value(const T* b, T* q, T* r, T v, u32 n)
 {
     if (n < fewElements || !independent(n, q, r, b)) return plain_both(Constant<T>{v}, b, q, r, n);
-    map_division(n, q, r, BothOfValue<T>{v}, b);
+    map<Heavy<1>>(n, TwoArrays{q, r}, BothOfValue<T>{v}, b);
 }
 template <class T> [[gnu::noinline]] void both_by_array(const T* a, const T* b, T* q, T* r, u32 n)
 {
     if (n < fewElements || !independent(n, q, r, a) || !independent(n, q, r, b)) return plain_both(a, b, q, r, n);
-    map_division(n, q, r, Both<T>{}, a, b);
+    map<Heavy<1>>(n, TwoArrays{q, r}, Both<T>{}, a, b);
 }
 
 #endif

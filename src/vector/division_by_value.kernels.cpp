@@ -61,7 +61,7 @@ template <class T> [[gnu::noinline]] void remainders(const T* a, T v, T* r, u32 
 template <class T> [[gnu::noinline]] void quotients_and_remainders(const T* a, T* q, T* r, T v, u32 n)
 {
     if (n < fewElements || !independent(n, q, r, a)) return plain_both(a, q, r, v, n);
-    map_division(n, q, r, Both<T>{Reciprocal<T>(v)}, a);
+    map<Heavy<1>>(n, TwoArrays{q, r}, Both<T>{Reciprocal<T>(v)}, a);
 }
 
 #endif

@@ -1,7 +1,7 @@
 // Arrays of which one is real and one complex, and the product with a conjugate. A real operand has the imaginary part
 // +0.0, which takes part in sums and differences, but not in products and quotients.
 #include "frame/entry.h"
-#include "vector/map_numbers.h"
+#include "kernel/complex.h"
 #include "vector/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -9,7 +9,7 @@ namespace {
 
 template <class Op, class A, class B> [[gnu::noinline]] void each(size_t n, A a, B b, c64f* d)
 {
-    map_pairs_of(n, d, Op{}, a, b);
+    map_pairs(n, d, Op{}, a, b);
 }
 
 void add(const c64f* a, const f64* b, c64f* d, u32 n) { each<Sum>(n, a, with_zeros(b), d); }
@@ -19,14 +19,14 @@ void mul(const c64f* a, const f64* b, c64f* d, u32 n) { each<PartsProduct>(n, a,
 void divide(const c64f* a, const f64* b, c64f* d, u32 n) { each<PartsQuotient>(n, a, twice(b), d); }
 
 struct ConjugateProduct {
-    template <class V> Parts<V> operator()(Parts<V> a, Parts<V> b) const
+    template <class V> Complex<V> operator()(Complex<V> a, Complex<V> b) const
     {
         return {a.im * b.im + a.re * b.re, a.im * b.re - a.re * b.im};
     }
 };
 [[gnu::noinline]] void conj_mul(const c64f* a, const c64f* b, c64f* d, u32 n)
 {
-    map_numbers(n, folded(d), ConjugateProduct{}, folded(a), folded(b));
+    map<Medium>(n, folded(d), ConjugateProduct{}, folded(a), folded(b));
 }
 
 } // namespace

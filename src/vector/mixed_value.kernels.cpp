@@ -7,7 +7,7 @@ namespace {
 
 // An operation whose second operand is the same number for all elements; with the operands exchanged.
 template <class Op, class T> struct WithValue {
-    Repeated<T> value;
+    Operand<T> value;
     template <class V> V operator()(V x) const { return Op{}(x, value.template as<V>()); }
 };
 template <class Op> struct Reversed {
@@ -20,11 +20,11 @@ struct ComplexProduct {
 
 template <class Op> [[gnu::noinline]] void each(size_t n, const f64* a, f64* d, f64 v)
 {
-    map(n, d, WithValue<Op, f64>{Repeated(v)}, a);
+    map(n, d, WithValue<Op, f64>{Operand(v)}, a);
 }
 template <class Op, class A> [[gnu::noinline]] void each(size_t n, A a, c64f* d, c64f v)
 {
-    map_pairs_of(n, d, WithValue<Op, c64f>{Repeated(v)}, a);
+    map_pairs(n, d, WithValue<Op, c64f>{Operand(v)}, a);
 }
 
 void add_value(const f64* a, f64* d, f64 v, u32 n) { each<Sum>(n, a, d, v); }
@@ -42,7 +42,7 @@ void scale_by_value(const f64* a, f64* d, f64 v, u32 n) { each<PartsProduct>(n, 
 void scale_by_value(const c64f* a, c64f* d, f64 v, u32 n) { each<PartsProduct>(size_t{2} * n, &a->re, &d->re, v); }
 [[gnu::noinline]] void scale_by_value(const c64f* a, c64f* d, const c64f* v, u32 n)
 {
-    map_pairs_of(n, d, ComplexProduct{Factor(*v)}, a);
+    map_pairs(n, d, ComplexProduct{Factor(*v)}, a);
 }
 void scale_by_value(const f64* a, c64f* d, const c64f* v, u32 n) { each<PartsProduct>(n, twice(a), d, *v); }
 

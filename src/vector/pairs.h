@@ -1,25 +1,20 @@
-// Loops over complex numbers as pairs of parts, in which arrays of real numbers take part as complex ones.
+// Arrays of real numbers that take part in loops over pairs as complex ones.
 #pragma once
-#include "kernel/complex.h"
+#include "kernel/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// Real numbers with the imaginary part +0.0; real numbers for either part. Offsets count parts, and are even.
+// Real numbers with the imaginary part +0.0; real numbers for either part. Offsets count parts, and are even (in px
+// they count numbers).
 enum class Imaginary { zero, same };
 template <Imaginary part> struct Reals {
     const f64* p;
-    Reals operator+(size_t n) const { return {p + n / 2}; }
-    void operator+=(size_t n) { p += n / 2; }
-    c64f operator[](size_t i) const // the number, in px
-    {
-        f64 im = part == Imaginary::zero ? 0.0 : p[i];
-        asm("" : "+x"(im)); // to subtract zero is not nothing where the thread flushes denormal numbers
-        return {p[i], im};
-    }
+    Reals operator+(size_t n) const { return {p + n / (lanes<u8> == 1 ? 1 : 2)}; }
 };
 inline Reals<Imaginary::zero> with_zeros(const f64* a) { return {a}; }
 inline Reals<Imaginary::same> twice(const f64* a) { return {a}; }
+template <Imaginary part> inline Span span(Reals<part> a, size_t n) { return span(a.p, n / 2); }
 
 // Part by part.
 struct Sum {
@@ -40,6 +35,13 @@ struct PartsQuotient {
     c64f operator()(c64f x, c64f y) const { return {x.re / y.re, x.im / y.im}; }
 };
 
+template <int n, Imaginary part> inline c64f load_lanes(Reals<part> a)
+{
+    f64 im = part == Imaginary::zero ? 0.0 : *a.p;
+    asm("" : "+x"(im)); // to subtract zero is not nothing where the thread flushes denormal numbers
+    return {*a.p, im};
+}
+
 #else
 
 struct PartsProduct {
@@ -49,7 +51,7 @@ struct PartsQuotient {
     template <class V> V operator()(V x, V y) const { return x / y; }
 };
 
-template <int L, Imaginary part> inline Vec<f64, L> loadn(Reals<part> a)
+template <int L, Imaginary part> inline Vec < f64, L<2 ? 2 : L> load_lanes(Reals<part> a)
 {
     constexpr bool zeros = part == Imaginary::zero;
 #if SIG5D_LEVEL >= 4
@@ -59,32 +61,11 @@ template <int L, Imaginary part> inline Vec<f64, L> loadn(Reals<part> a)
         return zeros ? _mm256_blend_pd(pairs, _mm256_setzero_pd(), 10) : pairs;
     }
 #endif
-    if constexpr (L == 2) return zeros ? _mm_load_sd(a.p) : _mm_load1_pd(a.p);
+    if constexpr (L <= 2) return zeros ? _mm_load_sd(a.p) : _mm_load1_pd(a.p);
+    if constexpr (L > 4) return joined<L / 2>(load_lanes<L / 2>(a), load_lanes<L / 2>(a + L / 2));
 }
-template <int bytes, Imaginary part> inline Vec<f64, 2> load_part(Reals<part> a) { return loadn<2>(a); }
-template <Imaginary part> inline const f64* lowest(Reals<part> a, size_t) { return a.p; }
-
-// The address may be null, with no elements.
-inline const f64* parts_of(const c64f* a) { return reinterpret_cast<const f64*>(a); }
-inline f64* parts_of(c64f* d) { return reinterpret_cast<f64*>(d); }
-template <class A> inline A parts_of(A a) { return a; }
 
 #endif
-
-// An operation on pairs: only at even offsets may it begin anew.
-template <class Op> struct OnPairs : Op {
-    static constexpr size_t period = 2;
-};
-
-// d[i] = op(a[i], ...) for 0 <= i < n.
-template <class C, class Op, class... A> [[gnu::always_inline]] inline void map_pairs_of(size_t n, C* d, Op op, A... a)
-{
-#if SIG5D_LEVEL == 0
-    map(n, d, op, a...);
-#else
-    map(2 * n, parts_of(d), OnPairs<Op>{op}, parts_of(a)...);
-#endif
-}
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -2,7 +2,7 @@
 // increasing i; partial products that have an element are then joined, k with k + 16, k + 8, ... k + 1. So many that a
 // processor can load two vectors a cycle while products are under way.
 #include "frame/entry.h"
-#include "kernel/parts.h"
+#include "kernel/complex.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -58,14 +58,14 @@ template <size_t all> size_t multiply_blocks(size_t n, const c64f* a, c64f* part
     constexpr size_t group = chains < 4 ? chains : 4;
     const size_t end = n - n % all;
     for (size_t first = 0; first < chains; first += group) {
-        Parts<Vec<f64>> p[group];
-        for (size_t k = 0; k < group; ++k) p[k] = loadn<L>(folded(partial + (first + k) * L));
+        Complex<Vec<f64>> p[group];
+        for (size_t k = 0; k < group; ++k) p[k] = load_lanes<L>(folded(partial + (first + k) * L));
         for (size_t i = first * L; i < end; i += all)
             for (size_t k = 0; k < group; ++k) {
-                const Parts<Vec<f64>> x = loadn<L>(folded(a + i + k * L));
+                const Complex<Vec<f64>> x = load_lanes<L>(folded(a + i + k * L));
                 p[k] = {x.re * p[k].re - x.im * p[k].im, x.im * p[k].re + x.re * p[k].im};
             }
-        for (size_t k = 0; k < group; ++k) store_numbers(Ordinary{}, folded(partial + (first + k) * L), p[k]);
+        for (size_t k = 0; k < group; ++k) store_lanes<L>(Ordinary{}, folded(partial + (first + k) * L), p[k]);
     }
     return end;
 }

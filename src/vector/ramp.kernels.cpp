@@ -9,23 +9,24 @@ namespace {
 #if SIG5D_LEVEL == 0
 
 template <int parts> struct Indexes {
-    auto operator[](size_t i) const
-    {
-        const f64 x = static_cast<f64>(static_cast<u32>(i));
-        if constexpr (parts == 1)
-            return x;
-        else
-            return c64f{x, x};
-    }
+    size_t i;
+    Indexes operator+(size_t n) const { return {i + n}; }
 };
-template <int parts> inline Indexes<parts> indexes() { return {}; }
+template <int parts> inline Indexes<parts> indexes() { return {0}; }
+template <int n, int parts> inline auto load_lanes(Indexes<parts> a)
+{
+    const f64 x = static_cast<f64>(static_cast<u32>(a.i));
+    if constexpr (parts == 1)
+        return x;
+    else
+        return c64f{x, x};
+}
 
 #else
 
 template <int parts> struct Indexes {
     Vec<f64> at;
     Indexes operator+(size_t n) const { return {at + splat(static_cast<f64>(static_cast<u32>(n / parts)))}; }
-    void operator+=(size_t n) { *this = *this + n; }
 };
 template <int parts> inline Indexes<parts> indexes()
 {
@@ -33,14 +34,13 @@ template <int parts> inline Indexes<parts> indexes()
     for (int i = 0; i < lanes<f64>; ++i) v[i] = i / parts;
     return {v};
 }
-template <int L, int parts> inline Vec<f64, L> loadn(Indexes<parts> a) { return a.at; }
-template <int bytes, int parts> inline Vec<f64, 2> load_part(Indexes<parts> a) { return Vec<f64, 2>{a.at[0], a.at[1]}; }
-template <int parts> inline const void* lowest(Indexes<parts>, size_t) { return nullptr; }
+template <int n, int parts> inline auto load_lanes(Indexes<parts> a) { return low_end < Vec<f64, n<2 ? 2 : n>>(a.at); }
 
 #endif
+template <int parts> inline Span span(Indexes<parts>, size_t) { return nowhere; }
 
 template <class T> struct Line {
-    Repeated<T> offset, step;
+    Operand<T> offset, step;
     template <class V> V operator()(V i) const
     {
         return Sum{}(offset.template as<V>(), PartsProduct{}(step.template as<V>(), i));
@@ -49,11 +49,11 @@ template <class T> struct Line {
 
 [[gnu::noinline]] void ramp(f64* d, u32 n, f64 offset, f64 step)
 {
-    map(size_t{n}, d, Line<f64>{Repeated(offset), Repeated(step)}, indexes<1>());
+    map(size_t{n}, d, Line<f64>{Operand(offset), Operand(step)}, indexes<1>());
 }
 [[gnu::noinline]] void ramp(c64f* d, u32 n, const c64f* offset, const c64f* step)
 {
-    map_pairs_of(n, d, Line<c64f>{Repeated(*offset), Repeated(*step)}, indexes<2>());
+    map_pairs(n, d, Line<c64f>{Operand(*offset), Operand(*step)}, indexes<2>());
 }
 
 } // namespace

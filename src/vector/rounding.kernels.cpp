@@ -1,6 +1,6 @@
 // Rounding to integers that stay doubles, and remainders of quotients that are truncated to 32 bits.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "kernel/map.h"
 #include "vector/masks.h"
 
 namespace sig5d::SIG5D_VARIANT {

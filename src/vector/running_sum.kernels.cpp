@@ -1,6 +1,6 @@
 // Running sums, of all elements or of every lag-th.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "kernel/map.h"
 #include "vector/prefix_sum.h"
 
 namespace sig5d::SIG5D_VARIANT {

@@ -278,5 +278,20 @@ inline Vec<i32, 4> high_product(Vec<i32, 4> x, Vec<i32, 4> y)
 #endif
 }
 
+// The lower pieces, of so many bytes each, of two vectors in turn.
+template <int bytes> inline __m128i interleaved_pieces(__m128i x, __m128i y)
+{
+    if constexpr (bytes == 8)
+        return _mm_unpacklo_epi64(x, y);
+    else if constexpr (bytes == 4)
+        return _mm_unpacklo_epi32(x, y);
+    else if constexpr (bytes == 2)
+        return _mm_unpacklo_epi16(x, y);
+    else
+        return _mm_unpacklo_epi8(x, y);
+}
+// What stands from so many bytes on, at the low end.
+template <int bytes> inline __m128i bytes_from(__m128i x) { return _mm_srli_si128(x, bytes); }
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

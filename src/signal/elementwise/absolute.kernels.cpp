@@ -1,6 +1,6 @@
 // Absolute values of integers; that of the lowest, which does not fit, is the highest.
 #include "frame/entry.h"
-#include "kernel/compact_loop.h"
+#include "kernel/map.h"
 #include "kernel/saturate.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -25,7 +25,7 @@ struct Absolute {
 
 template <class T> [[gnu::noinline]] void absolute(const T* a, T* d, int n)
 {
-    map_compact<4>(static_cast<size_t>(n), d, Absolute{}, a);
+    map<Heavy<4>>(static_cast<size_t>(n), d, Absolute{}, a);
 }
 
 } // namespace

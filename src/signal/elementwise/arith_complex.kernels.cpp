@@ -1,38 +1,34 @@
 // Products of complex numbers, squares, conjugates.
 #include "frame/entry.h"
-#include "kernel/complex.h"
+#include "kernel/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-struct OnPairs {
-    static constexpr size_t period = 2;
-};
-struct Product : OnPairs {
+struct Product {
     template <class V> V operator()(V x, V y) const { return product(x, y); }
 };
-struct SumWithProduct : OnPairs {
+struct SumWithProduct {
     template <class V> V operator()(V d, V x, V y) const { return d + product(x, y); }
 };
-struct Square : OnPairs {
+struct Square {
     template <class V> V operator()(V x) const { return product(x, x); }
 };
-struct Conjugate : OnPairs {
+struct Conjugate {
     template <class V> V operator()(V x) const { return conjugate(x); }
 };
-struct ProductWithValue : OnPairs {
+struct ProductWithValue {
     Factor value;
-    explicit ProductWithValue(c64f v) : value(v) {}
     template <class V> V operator()(V x) const { return value.times(x); }
 };
 
 [[gnu::noinline]] void mul(const c64f* a, const c64f* b, c64f* d, int n)
 {
-    map_complex(static_cast<size_t>(n), d, Product{}, a, b);
+    map_pairs(static_cast<size_t>(n), d, Product{}, a, b);
 }
 [[gnu::noinline]] void mul(const c64f* a, c64f v, c64f* d, int n)
 {
-    map_complex(static_cast<size_t>(n), d, ProductWithValue{v}, a);
+    map_pairs(static_cast<size_t>(n), d, ProductWithValue{Factor(v)}, a);
 }
 // 1 / v. A power of two keeps the squares in range.
 c64f reciprocal(c64f v)
@@ -45,10 +41,10 @@ c64f reciprocal(c64f v)
 void div(const c64f* a, c64f v, c64f* d, int n) { mul(a, reciprocal(v), d, n); }
 void add_product(const c64f* a, const c64f* b, c64f* d, int n)
 {
-    map_complex(static_cast<size_t>(n), d, SumWithProduct{}, static_cast<const c64f*>(d), a, b);
+    map_pairs(static_cast<size_t>(n), d, SumWithProduct{}, static_cast<const c64f*>(d), a, b);
 }
-[[gnu::noinline]] void sqr(const c64f* a, c64f* d, int n) { map_complex(static_cast<size_t>(n), d, Square{}, a); }
-[[gnu::noinline]] void conj(const c64f* a, c64f* d, int n) { map_complex(static_cast<size_t>(n), d, Conjugate{}, a); }
+[[gnu::noinline]] void sqr(const c64f* a, c64f* d, int n) { map_pairs(static_cast<size_t>(n), d, Square{}, a); }
+[[gnu::noinline]] void conj(const c64f* a, c64f* d, int n) { map_pairs(static_cast<size_t>(n), d, Conjugate{}, a); }
 
 } // namespace
 #include "entries/signal/elementwise/arith_complex.inc"

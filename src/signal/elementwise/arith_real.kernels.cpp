@@ -1,6 +1,6 @@
 // Sums and differences, real and complex; products of real numbers.
 #include "frame/entry.h"
-#include "kernel/complex.h"
+#include "kernel/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -29,19 +29,18 @@ struct Absolute {
 
 // An operation whose second operand is the same number for all elements.
 template <class Op, class T> struct WithValue {
-    Repeated<T> value;
-    static constexpr size_t period = sizeof(T) / sizeof(f64);
+    Operand<T> value;
     template <class V> V operator()(V x) const { return Op{}(x, value.template as<V>()); }
 };
 
 template <class Op> [[gnu::noinline]] void each(size_t n, const f64* a, const f64* b, f64* d) { map(n, d, Op{}, a, b); }
 template <class Op> [[gnu::noinline]] void each(size_t n, const f64* a, f64 v, f64* d)
 {
-    map(n, d, WithValue<Op, f64>{Repeated(v)}, a);
+    map(n, d, WithValue<Op, f64>{Operand(v)}, a);
 }
 template <class Op> [[gnu::noinline]] void each(size_t n, const c64f* a, c64f v, c64f* d)
 {
-    map_complex(n, d, WithValue<Op, c64f>{Repeated(v)}, a);
+    map_pairs(n, d, WithValue<Op, c64f>{Operand(v)}, a);
 }
 // Complex arrays are arrays of their parts.
 template <class Op> void each(size_t n, const c64f* a, const c64f* b, c64f* d)

@@ -1,7 +1,7 @@
 // Copies of bit strings that begin and end anywhere in a byte.
 #include "frame/entry.h"
 #include "kernel/lane_shifts.h"
-#include "kernel/loops.h"
+#include "kernel/map.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

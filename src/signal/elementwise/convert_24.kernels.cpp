@@ -1,7 +1,7 @@
 // Integers of 24 bits, packed in three bytes each, least significant first: to 32 bits and single precision, and from
 // them with scaling, rounding and saturation.
 #include "frame/entry.h"
-#include "kernel/convert_loop.h"
+#include "kernel/map.h"
 #include "kernel/rescale.h"
 #include "kernel/rounding.h"
 
@@ -69,9 +69,18 @@ struct ToSingle {
 #endif
 };
 
-template <class S> void convert(const S* a, u32* d, int n) { convert_all(static_cast<size_t>(n), a, d, ToInteger{}); }
-template <class S> void convert(const S* a, i32* d, int n) { convert_all(static_cast<size_t>(n), a, d, ToInteger{}); }
-template <class S> void convert(const S* a, f32* d, int n) { convert_all(static_cast<size_t>(n), a, d, ToSingle{}); }
+template <class S> void convert(const S* a, u32* d, int n)
+{
+    map(static_cast<size_t>(n), d, Same{}, converted(a, ToInteger{}));
+}
+template <class S> void convert(const S* a, i32* d, int n)
+{
+    map(static_cast<size_t>(n), d, Same{}, converted(a, ToInteger{}));
+}
+template <class S> void convert(const S* a, f32* d, int n)
+{
+    map(static_cast<size_t>(n), d, Same{}, converted(a, ToSingle{}));
+}
 
 // Into 24 bits: to<n>(p) gives 32-bit integers within the limits, "one" a single one.
 #if SIG5D_LEVEL == 0
@@ -94,7 +103,7 @@ inline void store_four(u8* d, Vec<i32, 4> x)
 {
     const __m128i v = squeezed(x);
     _mm_storel_epi64(reinterpret_cast<__m128i_u*>(d), v);
-    put(d + 8, reinterpret_cast<Vec<i32, 4>>(v)[2]);
+    store_at(d + 8, reinterpret_cast<Vec<i32, 4>>(v)[2]);
 }
 
 #if SIG5D_LEVEL >= 5
@@ -109,7 +118,7 @@ template <int... i> inline __m256i moved(__m256i x) { return _mm256_permutevar8x
 inline void store_vector(u8* d, Vec<i32> x)
 {
     const __m256i v = moved<0, 1, 2, 4, 5, 6, 3, 3>(squeezed(x));
-    put(d, _mm256_castsi256_si128(v));
+    store_at(d, _mm256_castsi256_si128(v));
     _mm_storel_epi64(reinterpret_cast<__m128i_u*>(d + 16), _mm256_extracti128_si256(v, 1));
 }
 
@@ -175,7 +184,7 @@ template <class D, class S, class Op>
             n = pack_vectors(n, a, d, op, [](u8* p, auto v) { stream(p, v); });
             stream_end();
         } else {
-            n = pack_vectors(n, a, d, op, [](u8* p, auto v) { put(p, v); });
+            n = pack_vectors(n, a, d, op, [](u8* p, auto v) { store_at(p, v); });
         }
     }
     for (; n >= W; n -= W) {

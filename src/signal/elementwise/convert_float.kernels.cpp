@@ -1,7 +1,7 @@
 // Conversions between single and double precision and of 32-bit integers to either, rounded to the nearest where the
 // number does not fit.
 #include "frame/entry.h"
-#include "kernel/convert_loop.h"
+#include "kernel/map.h"
 #include "kernel/lanes.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -34,8 +34,14 @@ struct ToDouble {
 #endif
 };
 
-template <class S> void convert(const S* a, f32* d, int n) { convert_all(static_cast<size_t>(n), a, d, ToSingle{}); }
-template <class S> void convert(const S* a, f64* d, int n) { convert_all(static_cast<size_t>(n), a, d, ToDouble{}); }
+template <class S> void convert(const S* a, f32* d, int n)
+{
+    map(static_cast<size_t>(n), d, Same{}, converted(a, ToSingle{}));
+}
+template <class S> void convert(const S* a, f64* d, int n)
+{
+    map(static_cast<size_t>(n), d, Same{}, converted(a, ToDouble{}));
+}
 
 } // namespace
 #include "entries/signal/elementwise/convert_float.inc"

@@ -1,7 +1,7 @@
 // Half precision: five bits of exponent, ten of significand. By integers, or where AVX2 is by the processor's own
 // conversions, which no mode of the thread influences.
 #include "frame/entry.h"
-#include "kernel/convert_loop.h"
+#include "kernel/map.h"
 #include "kernel/rounding.h"
 #include "kernel/saturate.h"
 
@@ -69,7 +69,7 @@ struct FromHalf {
 
 #endif
 
-void convert(const f16* a, f32* d, int n) { convert_all(static_cast<size_t>(n), a, d, FromHalf{}); }
+void convert(const f16* a, f32* d, int n) { map(static_cast<size_t>(n), d, Same{}, converted(a, FromHalf{})); }
 
 #if SIG5D_LEVEL >= 5
 
@@ -118,7 +118,7 @@ template <Rounding mode> struct ToHalf {
 
 template <Rounding mode> void to_half(const f32* a, f16* d, int n)
 {
-    convert_compact(static_cast<size_t>(n), a, reinterpret_cast<i16*>(d), ToHalf<mode>{});
+    map<Medium>(static_cast<size_t>(n), reinterpret_cast<i16*>(d), Same{}, converted(a, ToHalf<mode>{}));
 }
 
 void convert(const f32* a, f16* d, int n, int mode)
@@ -199,11 +199,11 @@ void convert(const f32* a, f16* d, int n, int mode)
 #if SIG5D_LEVEL > 0
     i16* const to = reinterpret_cast<i16*>(d);
     if (mode == NearestEven && rounds_to_nearest())
-        return convert_compact(static_cast<size_t>(n), a, to, ToHalf<true>{0xFFF, 0});
+        return map<Medium>(static_cast<size_t>(n), to, Same{}, converted(a, ToHalf<true>{0xFFF, 0}));
     if (mode != NearestEven && rounds_to_nearest())
-        return convert_compact(
-            static_cast<size_t>(n), a, to,
-            ToHalf<false>{mode == NearestAway ? 0x1000 : 0, mode == NearestAway ? belowHalf<f32> : 0});
+        return map<Medium>(
+            static_cast<size_t>(n), to, Same{},
+            converted(a, ToHalf<false>{mode == NearestAway ? 0x1000 : 0, mode == NearestAway ? belowHalf<f32> : 0}));
 #endif
     to_half_plain(a, d, n, mode);
 }

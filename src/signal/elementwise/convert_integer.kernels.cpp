@@ -1,6 +1,6 @@
 // Conversions of integers to longer ones, to shorter ones with saturation, and to single precision.
 #include "frame/entry.h"
-#include "kernel/convert_loop.h"
+#include "kernel/map.h"
 #include "kernel/lanes.h"
 #include "kernel/rescale.h"
 
@@ -28,9 +28,12 @@ struct ToSingle {
 #endif
 };
 
-void convert(const i8* a, i16* d, int n) { convert_all(static_cast<size_t>(n), a, d, To16{}); }
-void convert(const i16* a, i32* d, int n) { convert_all(static_cast<size_t>(n), a, d, To32{}); }
-template <class S> void convert(const S* a, f32* d, int n) { convert_all(static_cast<size_t>(n), a, d, ToSingle{}); }
+void convert(const i8* a, i16* d, int n) { map(static_cast<size_t>(n), d, Same{}, converted(a, To16{})); }
+void convert(const i16* a, i32* d, int n) { map(static_cast<size_t>(n), d, Same{}, converted(a, To32{})); }
+template <class S> void convert(const S* a, f32* d, int n)
+{
+    map(static_cast<size_t>(n), d, Same{}, converted(a, ToSingle{}));
+}
 
 // Saturation, with a scale factor before it.
 template <class D, class Rescale> struct Narrow {
@@ -46,7 +49,8 @@ template <class D, class Rescale> struct Narrow {
 
 template <class D, class S> [[gnu::noinline]] void convert(const S* a, D* d, int n, int s)
 {
-    with_scale<S>(s, [=](auto op) { convert_compact(static_cast<size_t>(n), a, d, Narrow<D, decltype(op)>{op}); });
+    with_scale<S>(
+        s, [=](auto op) { map<Medium>(static_cast<size_t>(n), d, Same{}, converted(a, Narrow<D, decltype(op)>{op})); });
 }
 void convert(const i32* a, i16* d, int n) { convert(a, d, n, 0); }
 

@@ -1,7 +1,7 @@
 // Conversions between integers of 64 bits and double precision, for which there are no instructions before AVX-512, and
 // in 32-bit code none but those of the old floating-point unit.
 #include "frame/entry.h"
-#include "kernel/convert_loop.h"
+#include "kernel/map.h"
 #include "kernel/rounding.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -28,7 +28,7 @@ struct ToDouble {
 #endif
 };
 
-void convert(const i64* a, f64* d, int n) { convert_all(static_cast<size_t>(n), a, d, ToDouble{}); }
+void convert(const i64* a, f64* d, int n) { map(static_cast<size_t>(n), d, Same{}, converted(a, ToDouble{})); }
 
 // The nearest integer by the bits of a double: its significand moved to where the units are.
 constexpr f64 limit = 0x1p63;
@@ -94,8 +94,9 @@ template <bool even> struct RoundedLong {
     const Scale scale(s, mostScaled<f64>);
     if (scale.simple() && rounds_to_nearest()) {
         const size_t count = static_cast<size_t>(n);
-        if (mode == NearestEven) return convert_compact(count, a, d, RoundedLong<true>(scale.first, 0));
-        return convert_compact(count, a, d, RoundedLong<false>(scale.first, mode == NearestAway ? belowHalf<f64> : 0));
+        if (mode == NearestEven) return map<Medium>(count, d, Same{}, converted(a, RoundedLong<true>(scale.first, 0)));
+        return map<Medium>(count, d, Same{},
+                           converted(a, RoundedLong<false>(scale.first, mode == NearestAway ? belowHalf<f64> : 0)));
     }
 #endif
     convert_plain(a, d, n, mode, Scale(s));

@@ -1,6 +1,6 @@
 // Conversions of floating-point numbers to integers of 8, 16 and 32 bits: scaled, rounded, saturated.
 #include "frame/entry.h"
-#include "kernel/convert_loop.h"
+#include "kernel/map.h"
 #include "kernel/rounding.h"
 #include "kernel/saturate.h"
 
@@ -28,8 +28,9 @@ template <Rounding mode, bool scaled, class S, class D> void convert_vectors(con
 {
     // Doubles become integers in 16 bytes: to join those to longer vectors takes more than to store them.
     constexpr int bytes = sizeof(S) == 8 ? 16 : vectorBytes;
+    using Shape = InFlight<sizeof(S) / sizeof(D) >= 4 ? 1 : 2, false, bytes>; // each has as many conversions under way
     using Integers = Rounded<S, LimitsOf<D>, mode, scaled>;
-    convert_compact<bytes>(static_cast<size_t>(n), a, d, Narrow<D, Integers>{Integers(static_cast<S>(factor))});
+    map<Shape>(static_cast<size_t>(n), d, Same{}, converted(a, Narrow<D, Integers>{Integers(static_cast<S>(factor))}));
 }
 
 #endif

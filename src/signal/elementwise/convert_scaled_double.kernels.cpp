@@ -1,6 +1,6 @@
 // Integers times a power of two in double precision.
 #include "frame/entry.h"
-#include "kernel/convert_loop.h"
+#include "kernel/map.h"
 #include "kernel/lanes.h"
 #include "kernel/rounding.h"
 
@@ -49,9 +49,9 @@ template <class S> [[gnu::noinline]] void convert(const S* a, f64* d, int n, int
     // Rounding downward, a difference of zero would be -0.
     if constexpr (sizeof(S) == 2)
         if (s > -900 && s < 900 && rounds_to_nearest())
-            return convert_all(count, a, d, ScaledShort{0x1.8p52 * scale.first});
+            return map(count, d, Same{}, converted(a, ScaledShort{0x1.8p52 * scale.first}));
 #endif
-    convert_all(count, a, d, Scaled{scale.first});
+    map(count, d, Same{}, converted(a, Scaled{scale.first}));
 }
 
 } // namespace

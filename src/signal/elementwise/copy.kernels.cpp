@@ -1,12 +1,12 @@
 // Copy, move, set, zero.
 #include "frame/entry.h"
 #include "frame/index.h"
-#include "kernel/loops.h"
+#include "kernel/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T> void copy(const T* a, T* d, int n) { map_bits(n, d, Same{}, a); }
+template <class T> void copy(const T* a, T* d, int n) { map_as_bytes(n, d, Same{}, a); }
 
 // The mirror image of copy: for a destination that overlaps its source and begins behind it.
 #if SIG5D_LEVEL == 0
@@ -18,10 +18,25 @@ template <class T> void copy_backwards(size_t n, const T* a, T* d)
 
 #else
 
+// At most four vectors, all loaded before any is stored.
+void copy_few(size_t n, const u8* a, u8* d)
+{
+    constexpr size_t L = lanes<u8>;
+    if (n < L) return map_bytes(n, d, Same{}, a);
+    const Vec<u8> head = load(a), tail = load(a + (n - L));
+    if (n > 2 * L) {
+        const Vec<u8> second = load(a + L), third = load(a + (n - 2 * L));
+        store_at(d + L, second);
+        store_at(d + (n - 2 * L), third);
+    }
+    store_at(d, head);
+    store_at(d + (n - L), tail);
+}
+
 [[gnu::noinline]] void copy_backwards(size_t n, const u8* a, u8* d)
 {
     constexpr size_t L = lanes<u8>;
-    if (n <= 4 * L) return map_bytes(n, d, Same{}, a); // loads everything before it stores
+    if (n <= 4 * L) return copy_few(n, a, d);
     const Vec<u8> head = load(a), tail = load(a + (n - L));
     const size_t skip = reinterpret_cast<uintptr_t>(d + n) % L;
     size_t left = n - skip;
@@ -29,20 +44,20 @@ template <class T> void copy_backwards(size_t n, const T* a, T* d)
     a += left;
     for (; left >= 4 * L; left -= 4 * L) {
         const Vec<u8> v0 = load(a - L), v1 = load(a - 2 * L), v2 = load(a - 3 * L), v3 = load(a - 4 * L);
-        put(p - L, v0);
-        keep(p);
-        put(p - 2 * L, v1);
-        keep(p);
-        put(p - 3 * L, v2);
-        keep(p);
-        put(p - 4 * L, v3);
+        store_at(p - L, v0);
+        pin(p);
+        store_at(p - 2 * L, v1);
+        pin(p);
+        store_at(p - 3 * L, v2);
+        pin(p);
+        store_at(p - 4 * L, v3);
         p -= 4 * L;
         a -= 4 * L;
-        keep(p);
+        pin(p);
     }
-    for (; left > L; left -= L) put(p -= L, load(a -= L));
-    put(d, head);
-    put(d + (n - L), tail);
+    for (; left > L; left -= L) store_at(p -= L, load(a -= L));
+    store_at(d, head);
+    store_at(d + (n - L), tail);
 }
 
 template <class T> void copy_backwards(size_t n, const T* a, T* d)
@@ -64,26 +79,21 @@ template <class T> void move(const T* a, T* d, int n)
 // What map stores again and again: an element, or a vector of them.
 #if SIG5D_LEVEL == 0
 
-template <class T> T repeated(T v) { return v; }
+template <class T> T in_every_lane(T v) { return v; }
 
 #else
 
-template <class T> auto repeated(T v) { return splat(v); }
-Vec<u64> repeated(c32s v) { return splat(static_cast<u64>(static_cast<u32>(v.im)) << 32 | static_cast<u32>(v.re)); }
-Vec<f64> repeated(c64f v)
+template <class T> Vec<T> in_every_lane(T v) { return splat(v); }
+Vec<u64> in_every_lane(c32s v)
 {
-    // Each part for itself: a caller stores them one by one, and to load both at once right after that takes long.
-    asm("" : "+x"(v.re), "+x"(v.im));
-    Vec<f64> all;
-    for (int i = 0; i < lanes<f64>; ++i) all[i] = i % 2 ? v.im : v.re;
-    return all;
+    return splat(static_cast<u64>(static_cast<u32>(v.im)) << 32 | static_cast<u32>(v.re));
 }
 
 #endif
 
 template <class T> [[gnu::noinline]] void fill(size_t n, T* d, T v)
 {
-    const auto all = repeated(v);
+    const auto all = in_every_lane(v);
     map(n, d, [all] { return all; });
 }
 

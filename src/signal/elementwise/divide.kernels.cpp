@@ -1,6 +1,6 @@
 // Quotients of arrays. A divisor of zero is a warning, after all elements have been computed.
 #include "frame/entry.h"
-#include "kernel/parts.h"
+#include "kernel/complex.h"
 #include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -32,11 +32,11 @@ struct RealQuotient {
 
 struct ComplexQuotient {
     int& zeroDivisors;
-    template <class V> Parts<V> operator()(Parts<V> b, Parts<V> a) const
+    template <class V> Complex<V> operator()(Complex<V> b, Complex<V> a) const
     {
         const V d = b.re * b.re + b.im * b.im;
         const V r = constant<V>(1) / d;
-        const Parts<V> q = {(a.re * b.re + a.im * b.im) * r, (a.im * b.re - a.re * b.im) * r};
+        const Complex<V> q = {(a.re * b.re + a.im * b.im) * r, (a.im * b.re - a.re * b.im) * r};
         const auto none = d == V{};
         if (!any(lanes_set(none), zeroDivisors)) return q;
         const V nan = from_bits<V>(indefiniteBits);
@@ -49,14 +49,14 @@ Status warning(int zeroDivisors) { return zeroDivisors ? StsDivByZero : StsNoErr
 [[gnu::noinline]] Status divide(const f64* b, const f64* a, f64* d, int n)
 {
     int zeroDivisors = 0;
-    map_parts(static_cast<size_t>(n), d, RealQuotient{zeroDivisors}, b, a);
+    map<Medium>(static_cast<size_t>(n), d, RealQuotient{zeroDivisors}, b, a);
     return warning(zeroDivisors);
 }
 
 [[gnu::noinline]] Status divide(const c64f* b, const c64f* a, c64f* d, int n)
 {
     int zeroDivisors = 0;
-    map_parts(static_cast<size_t>(n), folded(d), ComplexQuotient{zeroDivisors}, folded(b), folded(a));
+    map<Medium>(static_cast<size_t>(n), folded(d), ComplexQuotient{zeroDivisors}, folded(b), folded(a));
     return warning(zeroDivisors);
 }
 

@@ -1,6 +1,6 @@
 // Flip: arrays in reverse order, complex ones also conjugated.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "kernel/map.h"
 #include <utility>
 
 namespace sig5d::SIG5D_VARIANT {
@@ -10,9 +10,8 @@ namespace {
 template <class T> struct Backwards {
     const T* end;
     Backwards operator+(size_t n) const { return {end - n}; }
-    void operator+=(size_t n) { end -= n; }
-    T operator[](size_t i) const { return *(end - 1 - i); }
 };
+template <class T> inline Span span(Backwards<T> a, size_t n) { return span(a.end - n, n); }
 
 // What becomes of the elements.
 struct Conjugate {
@@ -30,6 +29,8 @@ struct Conjugate {
 };
 
 #if SIG5D_LEVEL == 0
+
+template <int n, class T> inline T load_lanes(Backwards<T> a) { return a.end[-1]; }
 
 template <class Op, class T> void flip_apart(size_t n, const T* a, T* d) { map(n, d, Op{}, Backwards<T>{a + n}); }
 template <class Op, class T> void flip_in_place(size_t n, T* d)
@@ -84,51 +85,64 @@ template <int bytes, class V> inline V reversed(V v)
     }
 }
 
-template <int L, class T> inline Vec<u8, L * sizeof(T)> loadn(Backwards<T> a)
+template <int n, class T> inline auto load_lanes(Backwards<T> a)
 {
-    return reversed<sizeof(T)>(loadn<L * sizeof(T)>(reinterpret_cast<const u8*>(a.end - L)));
+    constexpr int bytes = n * static_cast<int>(sizeof(T));
+    const auto v = reversed<sizeof(T)>(load_lanes<bytes>(reinterpret_cast<const u8*>(a.end - n)));
+    if constexpr (bytes >= 16)
+        return v;
+    else // reversed, they stand at the upper end
+        return reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(v), 16 - bytes));
 }
-
-template <int bytes, class T> inline Vec<u8, 16> load_part(Backwards<T> a)
-{
-    const auto v = reversed<sizeof(T)>(load_part<bytes>(reinterpret_cast<const u8*>(a.end) - bytes));
-    return reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(v), 16 - bytes));
-}
-
-template <class T> inline const T* lowest(Backwards<T> a, size_t n) { return a.end - n; }
 
 template <class Op, class T> [[gnu::noinline]] void flip_apart(size_t n, const T* a, T* d)
 {
     map(n, d, Op{}, Backwards<T>{a + n});
 }
 
-// From both ends towards the middle. As in map, the outermost vectors are computed first and stored last; and up to
-// four vectors map loads before it stores, so that it serves for short arrays and for the middle of long ones.
+// An array of at most four vectors, all loaded before any is stored: a short array, or the middle of a longer one.
+template <class Op, class T> void flip_few(size_t n, T* d)
+{
+    constexpr size_t L = lanes<T>;
+    const Op op;
+    const Backwards<T> a{d + n};
+    if (n < L) return map(n, d, op, a);
+    const auto head = op(load_lanes<L>(a)), tail = op(load_lanes<L>(a + (n - L)));
+    if (n > 2 * L) {
+        const auto second = op(load_lanes<L>(a + L)), third = op(load_lanes<L>(a + (n - 2 * L)));
+        store_at(d + L, second);
+        store_at(d + (n - 2 * L), third);
+    }
+    store_at(d, head);
+    store_at(d + (n - L), tail);
+}
+
+// From both ends towards the middle. As in map, the outermost vectors are computed first and stored last.
 template <class Op, class T> [[gnu::noinline]] void flip_in_place(size_t n, T* d)
 {
     constexpr size_t L = lanes<T>;
     const Op op;
-    if (n <= 4 * L) return flip_apart<Op>(n, d, d);
+    if (n <= 4 * L) return flip_few<Op>(n, d);
     T* const last = d + (n - L);
-    const auto head = op(loadn<L>(Backwards<T>{d + n})), tail = op(loadn<L>(Backwards<T>{d + L}));
-    const size_t skip = misalignment(d);
+    const auto head = op(load_lanes<L>(Backwards<T>{d + n})), tail = op(load_lanes<L>(Backwards<T>{d + L}));
+    const size_t skip = to_alignment<L>(d);
     T *p = d + skip, *q = d + (n - skip);
     size_t left = n - 2 * skip;
     for (; left > 4 * L; left -= 4 * L) { // two at each end: stores to one cache line go together
-        const auto x0 = op(loadn<L>(Backwards<T>{q})), x1 = op(loadn<L>(Backwards<T>{q - L}));
-        const auto y0 = op(loadn<L>(Backwards<T>{p + L})), y1 = op(loadn<L>(Backwards<T>{p + 2 * L}));
-        put(p, x0);
-        put(p + L, x1);
-        keep(p);
-        put(q - L, y0);
-        put(q - 2 * L, y1);
+        const auto x0 = op(load_lanes<L>(Backwards<T>{q})), x1 = op(load_lanes<L>(Backwards<T>{q - L}));
+        const auto y0 = op(load_lanes<L>(Backwards<T>{p + L})), y1 = op(load_lanes<L>(Backwards<T>{p + 2 * L}));
+        store_at(p, x0);
+        store_at(p + L, x1);
+        pin(p);
+        store_at(q - L, y0);
+        store_at(q - 2 * L, y1);
         p += 2 * L;
         q -= 2 * L;
-        keep(q);
+        pin(q);
     }
-    flip_apart<Op>(left, p, p);
-    put(d, head);
-    put(last, tail);
+    flip_few<Op>(left, p);
+    store_at(d, head);
+    store_at(last, tail);
 }
 
 #endif

@@ -1,6 +1,6 @@
 // And, or, exclusive or of two arrays or of an array and a value; complement.
 #include "frame/entry.h"
-#include "kernel/loops.h"
+#include "kernel/map.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -33,13 +33,13 @@ template <class Op> struct WithValue {
     }
 };
 
-template <class T> void bit_and(const T* a, const T* b, T* d, int n) { map_bits(n, d, And{}, a, b); }
-template <class T> void bit_or(const T* a, const T* b, T* d, int n) { map_bits(n, d, Or{}, a, b); }
-template <class T> void bit_xor(const T* a, const T* b, T* d, int n) { map_bits(n, d, Xor{}, a, b); }
+template <class T> void bit_and(const T* a, const T* b, T* d, int n) { map_as_bytes(n, d, And{}, a, b); }
+template <class T> void bit_or(const T* a, const T* b, T* d, int n) { map_as_bytes(n, d, Or{}, a, b); }
+template <class T> void bit_xor(const T* a, const T* b, T* d, int n) { map_as_bytes(n, d, Xor{}, a, b); }
 
-template <class T> void bit_and(const T* a, T v, T* d, int n) { map_bits(n, d, WithValue<And>(v), a); }
-template <class T> void bit_or(const T* a, T v, T* d, int n) { map_bits(n, d, WithValue<Or>(v), a); }
-template <class T> void bit_xor(const T* a, T v, T* d, int n) { map_bits(n, d, WithValue<Xor>(v), a); }
+template <class T> void bit_and(const T* a, T v, T* d, int n) { map_as_bytes(n, d, WithValue<And>(v), a); }
+template <class T> void bit_or(const T* a, T v, T* d, int n) { map_as_bytes(n, d, WithValue<Or>(v), a); }
+template <class T> void bit_xor(const T* a, T v, T* d, int n) { map_as_bytes(n, d, WithValue<Xor>(v), a); }
 
 template <class T> void complement(const T* a, T* d, int n) { bit_xor(a, static_cast<T>(~T{}), d, n); }
 

@@ -1,6 +1,6 @@
 // Square roots, real and complex.
 #include "frame/entry.h"
-#include "kernel/pipelined_loop.h"
+#include "kernel/complex.h"
 #include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -42,7 +42,7 @@ template <class V> inline HalfRoot<V> half_root(V x, V y)
 
 // (t, v) for 2^-480 <= max(x, y) <= 2^500, x and y >= 0. One step of Newton's iteration for w^2 = z, with the residual
 // z - w^2 computed exactly but for its last bits, makes both parts correct but for 0.001 of the last place.
-template <class V> inline Parts<V> root_parts(const HalfRoot<V>& h)
+template <class V> inline Complex<V> root_parts(const HalfRoot<V>& h)
 {
     const V x = h.x, y = h.y, t = h.t, t2 = t + t;
     const V v = y / t2;
@@ -61,12 +61,12 @@ template <class V> inline Parts<V> root_parts(const HalfRoot<V>& h)
 }
 
 // The same for all other magnitudes but x = y = 0.
-[[gnu::noinline, gnu::cold]] Parts<f64> unusual_root_parts(f64 x, f64 y)
+[[gnu::noinline, gnu::cold]] Complex<f64> unusual_root_parts(f64 x, f64 y)
 {
     constexpr f64 infinity = __builtin_inf();
     const auto scaled = [=](f64 by, f64 back) {
-        const Parts<f64> w = root_parts(half_root(x * by, y * by));
-        return Parts<f64>{w.re * back, w.im * back};
+        const Complex<f64> w = root_parts(half_root(x * by, y * by));
+        return Complex<f64>{w.re * back, w.im * back};
     };
     if (y == infinity) return {y, y};
     if (x == infinity) return {x, y - y};
@@ -81,19 +81,19 @@ template <class V> inline Parts<V> root_parts(const HalfRoot<V>& h)
 
 struct ComplexRoot {
     template <class V> struct Half : HalfRoot<V> {
-        Parts<V> z;
+        Complex<V> z;
         int others; // lanes that are not usual: they are computed as if of 1
     };
-    template <class V> Half<V> first(Parts<V> z) const
+    template <class V> Half<V> first(Complex<V> z) const
     {
         const V x = absolute_value(z.re), y = absolute_value(z.im), larger = x > y ? x : y;
         const auto usual = (larger >= constant<V>(0x1p-480)) & (larger <= constant<V>(0x1p500));
         const V one = constant<V>(1);
         return {half_root(usual ? x : one, usual ? y : one), z, lanes_set(usual) ^ allLanes<V>};
     }
-    template <class V> Parts<V> second(const Half<V>& h) const
+    template <class V> Complex<V> second(const Half<V>& h) const
     {
-        Parts<V> w = root_parts(h);
+        Complex<V> w = root_parts(h);
         if (int others = h.others; __builtin_expect(others, 0)) {
             // Runs of zeros are ordinary.
             const V x = absolute_value(h.z.re), y = absolute_value(h.z.im);
@@ -106,13 +106,13 @@ struct ComplexRoot {
         return {negative ? w.im : w.re, with_sign(negative ? w.re : w.im, h.z.im)};
     }
 
-    static void replace(Parts<f64>& w, int, f64 x, f64 y) { w = unusual_root_parts(x, y); }
-    template <class V> static void replace(Parts<V>& w, int others, V x, V y)
+    static void replace(Complex<f64>& w, int, f64 x, f64 y) { w = unusual_root_parts(x, y); }
+    template <class V> static void replace(Complex<V>& w, int others, V x, V y)
     {
         constexpr int L = sizeof(V) / sizeof(f64);
         for (int i = 0; i < L; ++i) {
             if (!(others >> i & 1)) continue;
-            const Parts<f64> one = unusual_root_parts(x[i], y[i]);
+            const Complex<f64> one = unusual_root_parts(x[i], y[i]);
             w.re[i] = one.re;
             w.im[i] = one.im;
         }
@@ -122,13 +122,13 @@ struct ComplexRoot {
 [[gnu::noinline]] Status root(const f64* a, f64* d, int n)
 {
     int negatives = 0;
-    map_parts(static_cast<size_t>(n), d, RealRoot{negatives}, a);
+    map<Medium>(static_cast<size_t>(n), d, RealRoot{negatives}, a);
     return negatives ? StsSqrtNegArg : StsNoErr;
 }
 
 [[gnu::noinline]] void root(const c64f* a, c64f* d, int n)
 {
-    map_pipelined(static_cast<size_t>(n), folded(d), ComplexRoot{}, folded(a));
+    map_overlapped(static_cast<size_t>(n), folded(d), ComplexRoot{}, folded(a));
 }
 
 } // namespace

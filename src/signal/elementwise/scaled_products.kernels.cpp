@@ -89,11 +89,11 @@ struct ComplexProduct {
 
 template <class T> void multiply(const T* a, const T* b, T* d, int n, int s)
 {
-    run_scaled<Product>(count(d, n), d, s, a, b);
+    run_scaled<Product>(part_count(d, n), d, s, a, b);
 }
 template <class T> void multiply(const T* a, T v, T* d, int n, int s)
 {
-    run_scaled<Product>(count(d, n), d, s, a, repeated(v));
+    run_scaled<Product>(part_count(d, n), d, s, a, repeated(v));
 }
 
 // -2^31 (1 + i) x: without the factor 2^31, which goes into the scale factor.
@@ -118,7 +118,7 @@ void multiply_by_lowest(const c32s* a, c32s* d, int n, int s)
 
 void add_product(const i32* a, const i32* b, i32* d, int n, int s)
 {
-    run_scaled<ProductSum>(count(d, n), d, s, a, b, d);
+    run_scaled<ProductSum>(part_count(d, n), d, s, a, b, d);
 }
 
 } // namespace

@@ -119,12 +119,12 @@ template <class T, class F> struct QuotientByValue {
 template <class F, class T, class... A> [[gnu::noinline]] Status run(size_t n, T* d, int s, A... a)
 {
     int zeroDivisors = 0;
-    map_compact<2>(n, d, Quotient<T, F>{scale_of<F>(s), zeroDivisors}, a...);
+    map<Heavy<2>>(n, d, Quotient<T, F>{scale_of<F>(s), zeroDivisors}, a...);
     return zeroDivisors ? StsDivByZero : StsNoErr;
 }
 template <class F, class T> [[gnu::noinline]] void run_by_value(size_t n, const T* a, T v, T* d, int s)
 {
-    map_compact<2>(n, d, QuotientByValue<T, F>{v, s}, a);
+    map<Heavy<2>>(n, d, QuotientByValue<T, F>{v, s}, a);
 }
 
 // Single precision is enough.
@@ -137,17 +137,18 @@ template <class T> Status divide(const T* a, const T* b, T* d, int n, int s)
 {
 #if SIG5D_LEVEL > 0
     if (rounds_to_nearest())
-        return isShort<T>(s) ? run<f32>(count(d, n), d, s, b, a) : run<f64>(count(d, n), d, s, b, a);
+        return isShort<T>(s) ? run<f32>(part_count(d, n), d, s, b, a) : run<f64>(part_count(d, n), d, s, b, a);
 #endif
-    return run_plain(count(d, n), d, s, b, a);
+    return run_plain(part_count(d, n), d, s, b, a);
 }
 template <class T> void divide(const T* a, T v, T* d, int n, int s)
 {
 #if SIG5D_LEVEL > 0
     if (rounds_to_nearest())
-        return isShort<T>(s) ? run_by_value<f32>(count(d, n), a, v, d, s) : run_by_value<f64>(count(d, n), a, v, d, s);
+        return isShort<T>(s) ? run_by_value<f32>(part_count(d, n), a, v, d, s)
+                             : run_by_value<f64>(part_count(d, n), a, v, d, s);
 #endif
-    run_plain(count(d, n), d, s, a, repeated(v));
+    run_plain(part_count(d, n), d, s, a, repeated(v));
 }
 
 } // namespace

@@ -71,25 +71,25 @@ struct DifferenceFrom : Difference {
 
 template <class T> void add(const T* a, const T* b, T* d, int n, int s)
 {
-    run_scaled<Sum>(count(d, n), parts(d), s, parts(a), parts(b));
+    run_scaled<Sum>(part_count(d, n), parts_of(d), s, parts_of(a), parts_of(b));
 }
 template <class T> void add(const T* a, T v, T* d, int n, int s)
 {
-    run_scaled<Sum>(count(d, n), parts(d), s, parts(a), repeated(v));
+    run_scaled<Sum>(part_count(d, n), parts_of(d), s, parts_of(a), repeated(v));
 }
 
 // b - a: the subtrahend comes first.
 template <class T> void subtract(const T* a, const T* b, T* d, int n, int s)
 {
-    run_scaled<Difference>(count(d, n), parts(d), s, parts(b), parts(a));
+    run_scaled<Difference>(part_count(d, n), parts_of(d), s, parts_of(b), parts_of(a));
 }
 template <class T> void subtract(const T* a, T v, T* d, int n, int s)
 {
-    run_scaled<Difference>(count(d, n), parts(d), s, parts(a), repeated(v));
+    run_scaled<Difference>(part_count(d, n), parts_of(d), s, parts_of(a), repeated(v));
 }
 template <class T> void subtract_reversed(const T* a, T v, T* d, int n, int s)
 {
-    run_scaled<DifferenceFrom>(count(d, n), parts(d), s, repeated(v), parts(a));
+    run_scaled<DifferenceFrom>(part_count(d, n), parts_of(d), s, repeated(v), parts_of(a));
 }
 
 } // namespace

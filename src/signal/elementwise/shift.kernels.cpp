@@ -1,7 +1,7 @@
 // Shifts by a count that is the same for all elements.
 #include "frame/entry.h"
 #include "kernel/lane_shifts.h"
-#include "kernel/loops.h"
+#include "kernel/map.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -61,11 +61,11 @@ template <class T> constexpr int width = 8 * sizeof(T);
 template <class T> void shift_left(const T* a, int count, T* d, int n)
 {
     if (count == 0)
-        map_bits(n, d, Same{}, a);
+        map_as_bytes(n, d, Same{}, a);
     else if (count < width<T>)
         map(static_cast<size_t>(n), d, Left<T>{count}, a);
     else
-        map_bits(n, d, Cleared{}, a);
+        map_as_bytes(n, d, Cleared{}, a);
 }
 
 // Logical for unsigned types, arithmetic for the others: there a count of the width or more leaves the sign.
@@ -76,11 +76,11 @@ template <class T> void shift_right(const T* a, int count, T* d, int n)
     if constexpr (isSigned && sizeof(T) == 2)
         if (count == 1) return map(static_cast<size_t>(n), d, Halved{}, a);
     if (count == 0)
-        map_bits(n, d, Same{}, a);
+        map_as_bytes(n, d, Same{}, a);
     else if (count < width<T>)
         map(static_cast<size_t>(n), d, Right<T>{count}, a);
     else
-        map_bits(n, d, Cleared{}, a);
+        map_as_bytes(n, d, Cleared{}, a);
 }
 
 } // namespace

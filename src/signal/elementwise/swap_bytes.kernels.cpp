@@ -1,6 +1,6 @@
 // Reversal of the bytes of each element.
 #include "frame/entry.h"
-#include "kernel/compact_loop.h"
+#include "kernel/map.h"
 #include <utility>
 
 namespace sig5d::SIG5D_VARIANT {
@@ -78,11 +78,11 @@ inline void swap_few(size_t n, const u24* a, u24* d)
     auto v0 = loadn<16>(p);
     for (; left >= step + 16; left -= step) { // every window is loaded before its first byte is stored
         const auto next = loadn<16>(p += step);
-        put(q, swapped_window(v0));
+        store_at(q, swapped_window(v0));
         q += step;
         v0 = next;
     }
-    put(q, swapped_window(v0));
+    store_at(q, swapped_window(v0));
     store_part<8>(last, tail);
     store_part<8>(last + 7, reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(tail), 7)));
 }
@@ -117,7 +117,7 @@ template <int k> inline Bytes chosen(Bytes behind, Bytes here, Bytes before)
 }
 inline Group swapped_group(const u8* p)
 {
-    const Bytes x0 = held(loadn<L>(p)), x1 = held(loadn<L>(p + L)), x2 = held(loadn<L>(p + 2 * L));
+    const Bytes x0 = in_register(loadn<L>(p)), x1 = in_register(loadn<L>(p + L)), x2 = in_register(loadn<L>(p + 2 * L));
     // Nothing outside the group: in place that would wait for the store just before.
     const Bytes before = reinterpret_cast<Bytes>(_mm_slli_si128(reinterpret_cast<__m128i>(x0), 2));
     const Bytes behind = reinterpret_cast<Bytes>(_mm_srli_si128(reinterpret_cast<__m128i>(x2), 2));
@@ -169,7 +169,7 @@ template <int k, size_t... j> inline Bytes swapped_vector(Bytes here, Bytes othe
 }
 inline Group swapped_group(const u8* p)
 {
-    const Bytes x0 = held(loadn<L>(p)), x1 = held(loadn<L>(p + L)), x2 = held(loadn<L>(p + 2 * L));
+    const Bytes x0 = in_register(loadn<L>(p)), x1 = in_register(loadn<L>(p + L)), x2 = in_register(loadn<L>(p + 2 * L));
     const Group other = neighbours(x0, x1, x2);
     constexpr auto all = std::make_index_sequence<L>{};
     return {swapped_vector<0>(x0, other.v[0], all), swapped_vector<1>(x1, other.v[1], all),
@@ -186,7 +186,7 @@ template <class Store> inline size_t swap_groups(size_t n, const u8*& p, u8*& q,
         for (int k = 0; k < 3; ++k) write(q + k * L, group.v[k]);
         p += 3 * L;
         q += 3 * L;
-        keep(q);
+        pin(q);
     }
     return n;
 }
@@ -201,11 +201,11 @@ void swap_bytes(const u24* a, u24* d, int n)
         const u8* p = reinterpret_cast<const u8*>(a + skip);
         u8* q = reinterpret_cast<u8*>(d + skip);
         left -= skip;
-        if (streamingPays(3 * left) && apart(d, a, 3 * static_cast<size_t>(n))) {
+        if (streamingPays(3 * left) && apart(span(d, static_cast<size_t>(n)), span(a, static_cast<size_t>(n)))) {
             left = swap_groups(left, p, q, [](u8* to, Bytes v) { stream(to, v); });
             stream_end();
         } else {
-            left = swap_groups(left, p, q, [](u8* to, Bytes v) { put(to, v); });
+            left = swap_groups(left, p, q, [](u8* to, Bytes v) { store_at(to, v); });
         }
         a = reinterpret_cast<const u24*>(p);
         d = reinterpret_cast<u24*>(q);

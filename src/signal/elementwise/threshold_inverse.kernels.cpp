@@ -1,6 +1,6 @@
 // Reciprocals of real arrays that are limited in magnitude.
 #include "frame/entry.h"
-#include "kernel/compact_loop.h"
+#include "kernel/map.h"
 #include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -24,7 +24,7 @@ struct LimitedReciprocal {
     bool zeros = false;
     if (level == 0) level = 0;                  // not -0
     const f64 one = level != level ? level : 1; // nothing is larger than NaN
-    map_compact<2>(static_cast<size_t>(n), d, LimitedReciprocal{level, one, zeros}, a);
+    map<Heavy<2>>(static_cast<size_t>(n), d, LimitedReciprocal{level, one, zeros}, a);
     return zeros && level == 0 ? StsInvZero : StsNoErr;
 }
 

@@ -1,7 +1,7 @@
 // Thresholds of real arrays, of integers and doubles alike: elements beyond a level become the level or another value.
 // Comparisons are written so that a NaN meets none of them and passes.
 #pragma once
-#include "kernel/compact_loop.h"
+#include "kernel/map.h"
 #include "kernel/plain_rounding.h"
 #include "kernel/saturate.h"
 #include "kernel/simd.h"
@@ -125,7 +125,7 @@ template <class T>
 {
     // An element is inside if it is neither below the one level nor above the other: none is if one of them is NaN.
     if (levelLT != levelLT) levelGT = levelLT;
-    map_compact<2>(static_cast<size_t>(n), d, ReplaceOutside<T>{levelLT, valueLT, levelGT, valueGT}, a);
+    map<Heavy<2>>(static_cast<size_t>(n), d, ReplaceOutside<T>{levelLT, valueLT, levelGT, valueGT}, a);
 }
 
 } // namespace

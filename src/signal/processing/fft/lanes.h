@@ -64,7 +64,7 @@ template <class V> struct Four {
 template <class V> SIG5D_INLINE V getHalves(const f64* first, [[maybe_unused]] const f64* second)
 {
     if constexpr (sizeof(V) == 32)
-        return joined(loadn<2>(first), loadn<2>(second));
+        return joined(loadn<sizeof(V) / 16>(first), loadn<sizeof(V) / 16>(second));
     else
         return load(first);
 }
@@ -136,7 +136,7 @@ template <int step, class V = Vector> SIG5D_INLINE Complex<V> getInterleaved(con
         return {firsts(a, b), seconds(a, b)};
     }
 }
-template <int step, class V> SIG5D_INLINE void putInterleaved(f64* p, Complex<V> a)
+template <int step, class V = Vector> SIG5D_INLINE void putInterleaved(f64* p, Complex<V> a)
 {
     if constexpr (sizeof(V) == sizeof(f64)) {
         p[0] = a.re;

@@ -1,0 +1,85 @@
+// The loop of element-wise work: d[i] = op(a[i], ...) for 0 <= i < n. What d and the a are, kernel/sources.h tells. An
+// operation is a record with a templated call operator, so that one expression serves single elements (in px) and
+// vectors of any width.
+#pragma once
+#include "kernel/map_long.h"
+#include "kernel/map_short.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+struct Same {
+    template <class V> V operator()(V x) const { return x; }
+};
+
+// A source may be d itself, or overlap it and begin behind it.
+//
+// The last vector overlaps those before it, so that no element is left over: it is computed before anything is stored
+// and stored at the end. Up to 512 bytes the vectors before it begin with the array. In longer ones the stores are
+// aligned, since stores that cross a cache line take twice as long: then the first vector, too, overlaps those that
+// follow it and is stored after them.
+//
+// Always inlined, so that an operation may hold vectors: as arguments of a real function those of 32 bytes would leave
+// the upper halves of registers in use, which slows down all code after it.
+template <class Shape = Light, class D, class Op, class... A>
+[[gnu::always_inline]] inline void map(size_t n, D d, Op op, A... a)
+{
+    constexpr size_t L = Shape::template lanesFor<D>;
+    if constexpr (lanes<u8> == 1) {
+        for (size_t i = 0; i < n; ++i) store_lanes<1>(Ordinary{}, d + i, op(load_lanes<1>(a + i)...));
+    } else {
+        if (n < L) {
+            if constexpr (Shape::shortInOneVector)
+                return map_ends<L>(n, d, op, a...);
+            else
+                return map_halves<L / 2>(n, d, op, a...);
+        }
+        constexpr size_t fewVectors = 512 / Shape::vectorSize;
+        const D last = d + (n - L);
+        const auto tail = op(load_lanes<L>(a + (n - L))...);
+        size_t i = n > fewVectors * L ? n - map_long<Shape>(n, d, op, a...) : 0;
+        for (; i + L < n; i += L) store_lanes<L>(Ordinary{}, d + i, op(elements_of<Shape, L>(a + i)...));
+        store_lanes<L>(Ordinary{}, last, tail);
+    }
+}
+
+// The same for operations of dozens of steps, each of which waits for the one before: op.second(op.first(a[i], ...)).
+// The first half for the next vector is computed between the halves for this one: so the processor, whose view ahead
+// ends within one vector's steps, always finds some that wait for nothing. The loop stands in one place only, or
+// operations so long would fill the instruction cache.
+template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_overlapped(size_t n, D d, Op op, A... a)
+{
+    constexpr size_t L = lanesOf<D>;
+    const auto whole = [op](auto... x) { return op.second(op.first(x...)); };
+    if constexpr (lanes<u8> == 1) {
+        map(n, d, whole, a...);
+    } else {
+        if (n < L) return map_ends<L>(n, d, whole, a...);
+        const size_t last = n - L;
+        auto half_done = op.first(load_lanes<L>(a)...);
+        for (size_t i = 0;;) {
+            const size_t next = i + L < last ? i + L : last;
+            const auto following = op.first(load_lanes<L>(a + next)...);
+            store_lanes<L>(Ordinary{}, d + i, op.second(half_done));
+            if (i == last) return;
+            half_done = following;
+            i = next;
+        }
+    }
+}
+
+// One loop for all types, where only bytes count and not the elements that they make up; in px one by one.
+template <class Op, class... A> [[gnu::noinline]] void map_bytes(size_t n, u8* d, Op op, A... a)
+{
+    map(n, d, op, a...);
+}
+template <class Op, class D, class... A> inline void map_as_bytes(int n, D* d, Op op, const A*... a)
+{
+    if constexpr (lanes<u8> == 1)
+        map(static_cast<size_t>(n), d, op, a...);
+    else
+        map_bytes(static_cast<size_t>(n) * sizeof(D), reinterpret_cast<u8*>(d), op, reinterpret_cast<const u8*>(a)...);
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
