@@ -2,7 +2,6 @@
 #pragma once
 #include "kernel/partial.h"
 #include <type_traits>
-#if SIG5D_LEVEL > 0
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -37,4 +36,3 @@ template <class D, int n, class S, class Part> inline auto gather(const S* p, Pa
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT
-#endif

@@ -7,8 +7,6 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL > 0
-
 // For x that is no NaN and a positive limit: the smaller of the two; where x is larger, all bits. Single precision has
 // the order of its bits as integers there, which keeps the units free that convert and compare numbers.
 template <class V> constexpr bool byIntegers = sizeof(Lane<V>) == 4 && has32BitMinimum && sizeof(V) <= integerBytes;
@@ -91,8 +89,6 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
             return lanes_of(load_lanes<n>(p));
     }
 };
-
-#endif
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

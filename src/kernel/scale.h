@@ -137,11 +137,9 @@ template <class V, class M> inline V ties_to_even(V up, M tie) { return without(
 template <class V> inline V scaled(Halves<V> r, int s) // s > 1
 {
     V up;
-#if SIG5D_LEVEL >= 2
-    if constexpr (sizeof(Lane<V>) == 2)
+    if constexpr (sizeof(Lane<V>) == 2 && hasByteShuffle)
         up = rounded_product(r.half, all_lanes<V>(static_cast<i16>(1 << (16 - s)))); // half * 2^(16-s) * 2^-15
     else
-#endif
         up = halved(down(r.half, s - 2));
     return ties_to_even(up, (r.low & rest_mask<V>(s)) == half_unit<V>(s));
 }

@@ -8,15 +8,7 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // p: aligned to the size of the vector.
-template <class V> inline void stream(void* p, V v)
-{
-#if SIG5D_LEVEL >= 4
-    if constexpr (sizeof(V) == 32)
-        _mm256_stream_si256(static_cast<__m256i*>(p), reinterpret_cast<__m256i>(v));
-    else
-#endif
-        _mm_stream_si128(static_cast<__m128i*>(p), reinterpret_cast<__m128i>(v));
-}
+template <class V> inline void stream(void* p, V v) { stream_bits(p, bits(v)); }
 inline void stream_end() { _mm_sfence(); }
 
 inline bool aligned(const void* p, uintptr_t bytes) { return reinterpret_cast<uintptr_t>(p) % bytes == 0; }

@@ -15,22 +15,11 @@ struct Both {
 
 #if SIG5D_LEVEL > 0
 
-inline __m128i larger(__m128i x, __m128i y) { return _mm_max_epu8(x, y); }
-inline __m128i smaller(__m128i x, __m128i y) { return _mm_min_epu8(x, y); }
-inline u32 equal(__m128i x, __m128i y) { return static_cast<u32>(_mm_movemask_epi8(_mm_cmpeq_epi8(x, y))); }
-inline __m128i distances(__m128i x, __m128i y) { return _mm_sad_epu8(x, y); }
-#if SIG5D_LEVEL >= 5
-inline __m256i larger(__m256i x, __m256i y) { return _mm256_max_epu8(x, y); }
-inline __m256i smaller(__m256i x, __m256i y) { return _mm256_min_epu8(x, y); }
-inline u32 equal(__m256i x, __m256i y) { return static_cast<u32>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(x, y))); }
-inline __m256i distances(__m256i x, __m256i y) { return _mm256_sad_epu8(x, y); }
-#endif
+// A bit for each place where two vectors agree.
+template <class V> inline u32 equal(V x, V y) { return byte_signs(bits(x == y)); }
 
-template <int bytes> using Register = Vec<long long, bytes / 8>;
-template <int bytes> inline Register<bytes> at(const u8* p)
-{
-    return reinterpret_cast<Register<bytes>>(loadn<bytes>(p));
-}
+template <int bytes> using Register = Vec<u8, bytes>;
+template <int bytes> inline Register<bytes> at(const u8* p) { return loadn<bytes>(p); }
 
 // The lines of four vectors, a few steps before they are wanted: where there is more to compute than to load, the
 // processor itself begins too late.
@@ -101,25 +90,22 @@ template <class Kind, int bytes> inline Register<bytes> best_of(const u8* p, siz
     return Kind::best(Kind::best(b0, b1), Kind::best(b2, b3));
 }
 
-template <class Kind> inline u8 best_lane(__m128i x)
+// By halves.
+template <class Kind, class V> inline u8 best_lane(V x)
 {
-    x = Kind::best(x, _mm_unpackhi_epi64(x, x));
-    x = Kind::best(x, _mm_srli_epi64(x, 32));
-    x = Kind::best(x, _mm_srli_epi64(x, 16));
-    x = Kind::best(x, _mm_srli_epi64(x, 8));
-    return static_cast<u8>(_mm_cvtsi128_si32(x));
+    constexpr int half = sizeof(V) / 2;
+    if constexpr (half >= 16) {
+        return best_lane<Kind>(Kind::best(low_end<Vec<u8, half>>(x), upper_lanes<half>(x)));
+    } else {
+        x = Kind::best(x, upper_lanes<8>(x));
+        x = Kind::best(x, upper_lanes<4>(x));
+        x = Kind::best(x, upper_lanes<2>(x));
+        x = Kind::best(x, upper_lanes<1>(x));
+        return x[0];
+    }
 }
-#if SIG5D_LEVEL >= 5
-template <class Kind> inline u8 best_lane(__m256i x)
-{
-    return best_lane<Kind>(Kind::best(_mm256_castsi256_si128(x), _mm256_extracti128_si256(x, 1)));
-}
-#endif
 
-template <int bytes> inline Register<bytes> repeated(u8 x)
-{
-    return reinterpret_cast<Register<bytes>>(splatn<bytes>(x));
-}
+template <int bytes> inline Register<bytes> repeated(u8 x) { return splatn<bytes>(x); }
 
 // The lowest bit that is set; one is. The compiler itself would write tzcnt, which is above every variant's level.
 inline u32 first_bit(u32 x)
@@ -226,23 +212,18 @@ template <bool indexed> [[gnu::noinline]] Both extremes(const u8* p, u32 n)
     return {extreme<Smallest, indexed>(p, n), extreme<Largest, indexed>(p, n)};
 }
 
-#if SIG5D_LEVEL >= 5
-inline __m256i neighbours(__m256i x) { return _mm256_maddubs_epi16(x, _mm256_set1_epi8(1)); }
 // Of numbers of 16 bits without a sign bit: their sums in lanes of 64.
-inline __m256i fours(__m256i x)
+template <class V> inline auto sums_of_four(V x)
 {
-    x = _mm256_madd_epi16(x, _mm256_set1_epi16(1));
-    return (x & 0xFFFFFFFF) + (x >> 32);
+    const auto pairs = as<Vec<u64, sizeof(V) / 8>>(sums_of_two(as<Vec<i16, sizeof(V) / 2>>(x)));
+    return (pairs & 0xFFFFFFFF) + (pairs >> 32);
 }
-#endif
 
 // Sums of eight bytes in lanes of 64 bits; every second vector's, where there is an instruction for it, of neighbours
 // first: the one for eight runs at one place of the processor only. What is left over goes in eights and one by one.
-[[gnu::noinline]] u32 sum_of(const u8* p, u32 len)
+template <int bytes> [[gnu::noinline]] u32 sum_in_vectors(const u8* p, u32 len)
 {
-    constexpr int bytes = vectorBytes;
-    using V = Register<bytes>;
-    const V zero{};
+    using Sums = Vec<u64>;
     size_t n = len;
     u32 total = 0;
     if (n >= 16 * bytes) {
@@ -251,42 +232,42 @@ inline __m256i fours(__m256i x)
         p += skip;
         n -= skip;
     }
-    V s0{}, s1{};
-#if SIG5D_LEVEL >= 5
-    while (n >= 4 * bytes) {
-        auto pairs0 = splat<u16>(0), pairs1 = pairs0;
-        const size_t steps = n < 256 * bytes ? n / (4 * bytes) : 64; // 64*(255 + 255) < 32768
-        n -= steps * 4 * bytes;
-        for (const u8* const end = p + steps * 4 * bytes; p < end; p += 4 * bytes) {
-            fetch_ahead<bytes>(p);
-            s0 += distances(at<bytes>(p), zero);
-            s1 += distances(at<bytes>(p + bytes), zero);
-            pairs0 += reinterpret_cast<Vec<u16>>(neighbours(at<bytes>(p + 2 * bytes)));
-            pairs1 += reinterpret_cast<Vec<u16>>(neighbours(at<bytes>(p + 3 * bytes)));
+    Sums s0{}, s1{};
+    if constexpr (bytes > 16) {
+        while (n >= 4 * bytes) {
+            Vec<u16, bytes / 2> pairs0{}, pairs1{};
+            const size_t steps = n < 256 * bytes ? n / (4 * bytes) : 64; // 64*(255 + 255) < 32768
+            n -= steps * 4 * bytes;
+            for (const u8* const end = p + steps * 4 * bytes; p < end; p += 4 * bytes) {
+                fetch_ahead<bytes>(p);
+                s0 += sums_of_eight(at<bytes>(p));
+                s1 += sums_of_eight(at<bytes>(p + bytes));
+                pairs0 += sums_of_two(at<bytes>(p + 2 * bytes));
+                pairs1 += sums_of_two(at<bytes>(p + 3 * bytes));
+            }
+            s0 += sums_of_four(pairs0);
+            s1 += sums_of_four(pairs1);
         }
-        s0 += fours(reinterpret_cast<V>(pairs0));
-        s1 += fours(reinterpret_cast<V>(pairs1));
+    } else {
+        Sums s2{}, s3{};
+        for (; n >= 4 * bytes; n -= 4 * bytes, p += 4 * bytes) {
+            s0 += sums_of_eight(at<bytes>(p));
+            s1 += sums_of_eight(at<bytes>(p + bytes));
+            s2 += sums_of_eight(at<bytes>(p + 2 * bytes));
+            s3 += sums_of_eight(at<bytes>(p + 3 * bytes));
+        }
+        s0 += s2;
+        s1 += s3;
     }
-#else
-    V s2{}, s3{};
-    for (; n >= 4 * bytes; n -= 4 * bytes, p += 4 * bytes) {
-        s0 += distances(at<bytes>(p), zero);
-        s1 += distances(at<bytes>(p + bytes), zero);
-        s2 += distances(at<bytes>(p + 2 * bytes), zero);
-        s3 += distances(at<bytes>(p + 3 * bytes), zero);
-    }
-    s0 += s2;
-    s1 += s3;
-#endif
-    for (; n >= bytes; n -= bytes, p += bytes) s0 += distances(at<bytes>(p), zero);
+    for (; n >= bytes; n -= bytes, p += bytes) s0 += sums_of_eight(at<bytes>(p));
     for (; n >= 8; n -= 8, p += 8) {
-        const __m128i eight = _mm_sad_epu8(reinterpret_cast<__m128i>(load_part<8>(p)), __m128i{});
-        total += static_cast<u32>(_mm_cvtsi128_si32(eight));
+        total += static_cast<u32>(sums_of_eight(load_part<8>(p))[0]);
     }
     const auto lanes = reinterpret_cast<Vec<u32, bytes / 4>>(s0 + s1);
     for (int i = 0; i < bytes / 4; i += 2) total += lanes[i];
     return total + plain_sum(p, n);
 }
+u32 sum_of(const u8* p, u32 n) { return sum_in_vectors<vectorBytes>(p, n); }
 
 #endif
 

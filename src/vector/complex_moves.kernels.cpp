@@ -17,14 +17,8 @@ inline c64s negated_imaginary(c64s x) { return {x.re, x.im ^ sign}; }
 #else
 
 using Moved = c64f;
-template <bool imaginary, class V> inline V negated(V x)
-{
-    typename BitsOf<V>::type signs{};
-    for (size_t i = imaginary; i < sizeof(V) / sizeof(f64); i += 2) signs[i] = signBit;
-    return BitsOf<V>::back(BitsOf<V>::of(x) ^ signs);
-}
-template <class V> inline V negated_real(V x) { return negated<false>(x); }
-template <class V> inline V negated_imaginary(V x) { return negated<true>(x); }
+template <class V> inline V negated_real(V x) { return negated_firsts(x); }
+template <class V> inline V negated_imaginary(V x) { return conjugate(x); }
 
 #endif
 
@@ -72,12 +66,15 @@ template <int n> inline Moved load_lanes(Backwards a) { return a.end[-1]; }
 
 #else
 
-inline Vec<f64, 2> reversed(Vec<f64, 2> v) { return v; }
-#if SIG5D_LEVEL >= 4
-inline Vec<f64, 4> reversed(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 2, 3, 0, 1); }
-#endif
-
-template <int n> inline auto load_lanes(Backwards a) { return reversed(loadn<2 * n>(&(a.end - n)->re)); }
+// Its pairs in reverse order.
+template <class V, size_t... i> inline V reversed_pairs(V v, std::index_sequence<i...>)
+{
+    return __builtin_shufflevector(v, v, (i ^ (sizeof...(i) - 2))...);
+}
+template <int n> inline auto load_lanes(Backwards a)
+{
+    return reversed_pairs(loadn<2 * n>(&(a.end - n)->re), std::make_index_sequence<2 * n>{});
+}
 
 // From both ends towards the middle, a vector at a time.
 [[gnu::noinline]] void reverse_in_place(size_t n, Moved* d)

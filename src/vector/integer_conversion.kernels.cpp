@@ -9,7 +9,6 @@ namespace {
 
 template <class D> struct To {
     template <class S> D one(S x) const { return saturated<D>(x); }
-#if SIG5D_LEVEL > 0
     template <int n> auto to(const u8* p) const
     {
         if constexpr (sizeof(D) == 2)
@@ -21,7 +20,6 @@ template <class D> struct To {
     {
         return gather<D, n>(p, []<int k>(const S* q) { return load_lanes<k>(q); });
     }
-#endif
 };
 
 template <class T, class D> [[gnu::noinline]] void convert(const T* a, D* d, u32 n)

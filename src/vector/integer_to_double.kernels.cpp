@@ -8,9 +8,7 @@ namespace {
 
 struct ToDouble {
     f64 one(i32 x) const { return x; }
-#if SIG5D_LEVEL > 0
     template <int n, class T> auto to(const T* p) const { return doubles<n>(load_as_32<n>(p)); }
-#endif
 };
 
 template <class T> [[gnu::noinline]] void convert(const T* a, f64* d, u32 n)

@@ -19,24 +19,10 @@ template <int bytes, class T> void sum_vectors(size_t n, const T* a, T* d, size_
 // The elements so many bytes before those of v, where "before" are the ones before v.
 template <int bytes, class V> inline V moved(V before, V v)
 {
-#if SIG5D_LEVEL >= 5
-    const auto high = reinterpret_cast<__m256i>(v);
-    const auto middle = _mm256_permute2x128_si256(reinterpret_cast<__m256i>(before), high, 0x21);
-    if constexpr (bytes == 16)
-        return reinterpret_cast<V>(middle);
-    else if constexpr (bytes == 8)
-        return as<V>(shuffled<5>(as<Vec<f64>>(middle), as<Vec<f64>>(v)));
+    if constexpr (bytes == 8)
+        return as<V>(pairs_shifted_in(as<Vec<f64>>(before), as<Vec<f64>>(v)));
     else
-        return reinterpret_cast<V>(_mm256_alignr_epi8(high, middle, 16 - bytes));
-#else
-    const auto low = reinterpret_cast<__m128i>(before), high = reinterpret_cast<__m128i>(v);
-    if constexpr (bytes == 8) return as<V>(shuffled<1>(as<Vec<f64>>(before), as<Vec<f64>>(v)));
-#if SIG5D_LEVEL >= 2
-    return reinterpret_cast<V>(_mm_alignr_epi8(high, low, 16 - bytes));
-#else
-    return reinterpret_cast<V>(_mm_or_si128(_mm_srli_si128(low, 16 - bytes), _mm_slli_si128(high, bytes)));
-#endif
-#endif
+        return as<V>(shifted_in<bytes>(bits(before), bits(v)));
 }
 
 // Makes, of the sums of the last elements, so many bytes of them, those of a whole vector's: each time of twice as
@@ -101,13 +87,10 @@ template <class T> void prefix_sum(size_t n, const T* a, T* d)
     for (size_t i = 0; i < n; ++i) d[i] = static_cast<T>(sum += a[i]);
 }
 
-#if SIG5D_LEVEL >= 2
-
 using Bytes = Vec<u8, 16>;
 template <class T> inline Vec<T, 16 / sizeof(T)> shuffled(Vec<T, 16 / sizeof(T)> v, Bytes order)
 {
-    const auto bytes = _mm_shuffle_epi8(reinterpret_cast<__m128i>(v), reinterpret_cast<__m128i>(order));
-    return reinterpret_cast<Vec<T, 16 / sizeof(T)>>(bytes);
+    return as<Vec<T, 16 / sizeof(T)>>(bytes_at(bits(v), bits(order)));
 }
 
 // Lags of 2 to 15 bytes: sums within 16 bytes by shifts of one, two and four lags, then the last lag's bytes of the
@@ -137,8 +120,6 @@ template <class T> void short_lag_sum(size_t n, const T* a, T* d, size_t lag)
     }
     for (; i < n; ++i) d[i] = static_cast<T>(a[i] + d[i - lag]);
 }
-
-#endif
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

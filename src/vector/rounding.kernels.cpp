@@ -1,7 +1,6 @@
 // Rounding to integers that stay doubles, and remainders of quotients that are truncated to 32 bits.
 #include "frame/entry.h"
 #include "kernel/map.h"
-#include "vector/masks.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -32,7 +31,7 @@ struct Up {
     }
 };
 
-#elif SIG5D_LEVEL < 3
+#else
 
 template <class V> inline V near_integer(V x)
 {
@@ -49,25 +48,24 @@ template <class V> inline V stepped(V x, V near, V mask, f64 step)
 struct Down {
     template <class V> V operator()(V x) const
     {
-        const V near = near_integer(x);
-        return stepped(x, near, less(x, near), -1.0);
+        if constexpr (hasFloor) {
+            return floor(x);
+        } else {
+            const V near = near_integer(x);
+            return stepped(x, near, less(x, near), -1.0);
+        }
     }
 };
 struct Up {
     template <class V> V operator()(V x) const
     {
-        const V near = near_integer(x);
-        return stepped(x, near, less(near, x), 1.0);
+        if constexpr (hasFloor) {
+            return ceiling(x);
+        } else {
+            const V near = near_integer(x);
+            return stepped(x, near, less(near, x), 1.0);
+        }
     }
-};
-
-#else
-
-struct Down {
-    template <class V> V operator()(V x) const { return floor(x); }
-};
-struct Up {
-    template <class V> V operator()(V x) const { return ceiling(x); }
 };
 
 #endif

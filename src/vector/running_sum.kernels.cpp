@@ -61,6 +61,13 @@ void sum_apart(size_t n, const f64* a, f64* d, size_t lag)
     }
 }
 
+template <class T> void shorter_lag(size_t n, const T* a, T* d, size_t lag)
+{
+    if constexpr (hasByteShuffle)
+        if (n >= 64) return short_lag_sum(n, a, d, lag);
+    plain_sum(n, a, d, lag);
+}
+
 template <class T> void sum_apart(size_t n, const T* a, T* d, size_t lag)
 {
     const size_t bytes = lag * sizeof(T);
@@ -70,12 +77,8 @@ template <class T> void sum_apart(size_t n, const T* a, T* d, size_t lag)
         sum_vectors<vectorBytes>(n, a, d, lag);
     else if (bytes >= 16)
         sum_vectors<16>(n, a, d, lag);
-#if SIG5D_LEVEL >= 2
-    else if (n >= 64)
-        short_lag_sum(n, a, d, lag);
-#endif
     else
-        plain_sum(n, a, d, lag);
+        shorter_lag(n, a, d, lag);
 }
 
 #endif

@@ -1,7 +1,6 @@
 // Signs of real and complex numbers, and products by them.
 #include "frame/entry.h"
 #include "kernel/complex.h"
-#include "vector/masks.h"
 #include "vector/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {

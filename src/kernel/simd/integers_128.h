@@ -231,8 +231,35 @@ template <class V>
 requires(sizeof(Lane<V>) >= 4) inline V shifted_right(V x, int count) { return x >> counts<V>(count); }
 #endif
 
-// Whether processors have the minimum and the maximum of 32-bit lanes, which 16-bit ones have anyway.
-constexpr bool has32BitMinimum = SIG5D_LEVEL >= 3;
+// Magnitudes, the lowest number as an unsigned one; and x with the sign of y, zero where y is.
+#if SIG5D_LEVEL >= 2
+inline Vec<i16, 8> magnitudes(Vec<i16, 8> x) { return as<Vec<i16, 8>>(_mm_abs_epi16(bits(x))); }
+inline Vec<i32, 4> magnitudes(Vec<i32, 4> x) { return as<Vec<i32, 4>>(_mm_abs_epi32(bits(x))); }
+inline Vec<i16, 8> with_signs(Vec<i16, 8> x, Vec<i16, 8> y)
+{
+    return as<Vec<i16, 8>>(_mm_sign_epi16(bits(x), bits(y)));
+}
+inline Vec<i32, 4> with_signs(Vec<i32, 4> x, Vec<i32, 4> y)
+{
+    return as<Vec<i32, 4>>(_mm_sign_epi32(bits(x), bits(y)));
+}
+#endif
+
+// Past the caches, to an aligned address.
+inline void stream_bits(void* p, __m128i v) { _mm_stream_si128(static_cast<__m128i*>(p), v); }
+
+// The sums of eight bytes each.
+inline Vec<u64, 2> sums_of_eight(Vec<u8, 16> x) { return as<Vec<u64, 2>>(_mm_sad_epu8(bits(x), __m128i{})); }
+
+// The bytes of v moved up, and the last ones of the vector before it.
+template <int bytes> inline __m128i shifted_in(__m128i before, __m128i v)
+{
+#if SIG5D_LEVEL >= 2
+    return _mm_alignr_epi8(v, before, 16 - bytes);
+#else
+    return _mm_or_si128(_mm_srli_si128(before, 16 - bytes), _mm_slli_si128(v, bytes));
+#endif
+}
 
 inline Vec<u8, 16> interleaved_low(Vec<u8, 16> x, Vec<u8, 16> y)
 {

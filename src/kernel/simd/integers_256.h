@@ -158,5 +158,36 @@ inline Vec<i32, 8> high_product(Vec<i32, 8> x, Vec<i32, 8> y)
     return as<Vec<i32, 8>>(even_and_odd(odd(as<U>(even_products(x, y))), as<U>(even_products(odd(x), odd(y)))));
 }
 
+inline Vec<i16, 16> magnitudes(Vec<i16, 16> x) { return as<Vec<i16, 16>>(_mm256_abs_epi16(bits(x))); }
+inline Vec<i32, 8> magnitudes(Vec<i32, 8> x) { return as<Vec<i32, 8>>(_mm256_abs_epi32(bits(x))); }
+inline Vec<i16, 16> with_signs(Vec<i16, 16> x, Vec<i16, 16> y)
+{
+    return as<Vec<i16, 16>>(_mm256_sign_epi16(bits(x), bits(y)));
+}
+inline Vec<i32, 8> with_signs(Vec<i32, 8> x, Vec<i32, 8> y)
+{
+    return as<Vec<i32, 8>>(_mm256_sign_epi32(bits(x), bits(y)));
+}
+
+inline Vec<u64, 4> sums_of_eight(Vec<u8, 32> x) { return as<Vec<u64, 4>>(_mm256_sad_epu8(bits(x), __m256i{})); }
+// The sums of neighbours.
+inline Vec<u16, 16> sums_of_two(Vec<u8, 32> x)
+{
+    return as<Vec<u16, 16>>(_mm256_maddubs_epi16(bits(x), _mm256_set1_epi8(1)));
+}
+inline Vec<i32, 8> sums_of_two(Vec<i16, 16> x)
+{
+    return as<Vec<i32, 8>>(_mm256_madd_epi16(bits(x), _mm256_set1_epi16(1)));
+}
+
+template <int bytes> inline __m256i shifted_in(__m256i before, __m256i v)
+{
+    const __m256i middle = _mm256_permute2x128_si256(before, v, 0x21);
+    if constexpr (bytes == 16)
+        return middle;
+    else
+        return _mm256_alignr_epi8(v, middle, 16 - bytes);
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

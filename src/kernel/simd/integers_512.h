@@ -159,5 +159,20 @@ inline Vec<i32, 16> high_product(Vec<i32, 16> x, Vec<i32, 16> y)
     return as<Vec<i32, 16>>(even_and_odd(odd(as<U>(even_products(x, y))), as<U>(even_products(odd(x), odd(y)))));
 }
 
+inline Vec<i16, 32> magnitudes(Vec<i16, 32> x) { return as<Vec<i16, 32>>(_mm512_abs_epi16(bits(x))); }
+inline Vec<i32, 16> magnitudes(Vec<i32, 16> x) { return as<Vec<i32, 16>>(_mm512_abs_epi32(bits(x))); }
+inline Vec<i16, 32> with_signs(Vec<i16, 32> x, Vec<i16, 32> y) { return y < 0 ? -x : y == 0 ? y : x; }
+inline Vec<i32, 16> with_signs(Vec<i32, 16> x, Vec<i32, 16> y) { return y < 0 ? -x : y == 0 ? y : x; }
+
+inline Vec<u64, 8> sums_of_eight(Vec<u8, 64> x) { return as<Vec<u64, 8>>(_mm512_sad_epu8(bits(x), __m512i{})); }
+inline Vec<u16, 32> sums_of_two(Vec<u8, 64> x)
+{
+    return as<Vec<u16, 32>>(_mm512_maddubs_epi16(bits(x), _mm512_set1_epi8(1)));
+}
+inline Vec<i32, 16> sums_of_two(Vec<i16, 32> x)
+{
+    return as<Vec<i32, 16>>(_mm512_madd_epi16(bits(x), _mm512_set1_epi16(1)));
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

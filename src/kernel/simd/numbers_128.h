@@ -71,7 +71,6 @@ inline Vec<f64, 2> subtract_add(Vec<f64, 2> x, Vec<f64, 2> y)
 inline Vec<f64, 2> truncated_to_32(Vec<f64, 2> x) { return doubles<2>(truncated(x)); }
 
 // The integer next below and next above.
-constexpr bool hasFloor = SIG5D_LEVEL >= 3;
 #if SIG5D_LEVEL >= 3
 inline Vec<f64, 2> floor(Vec<f64, 2> x) { return _mm_floor_pd(x); }
 inline Vec<f64, 2> ceiling(Vec<f64, 2> x) { return _mm_ceil_pd(x); }
@@ -102,6 +101,25 @@ requires(n == 2) inline Vec<f64, 2> broadcast(const f64* p)
     return splatn<2>(*p);
 #endif
 }
+
+// Comparisons and bitwise operations on vectors of doubles. Not by operators: of masks the compiler would make
+// conditions again, and choose lane by lane where the processor has no selection.
+inline Vec<f64, 2> less(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_cmplt_pd(x, y); }
+inline Vec<f64, 2> same(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_cmpeq_pd(x, y); }
+inline Vec<f64, 2> same_or_nan(Vec<f64, 2> x, Vec<f64, 2> y)
+{
+    return _mm_or_pd(_mm_cmpeq_pd(x, y), _mm_cmpunord_pd(x, y));
+}
+inline Vec<f64, 2> both(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_and_pd(x, y); }
+inline Vec<f64, 2> either(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_or_pd(x, y); }
+inline Vec<f64, 2> turned(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_xor_pd(x, y); }
+inline Vec<f64, 2> without(Vec<f64, 2> x, Vec<f64, 2> mask) { return _mm_andnot_pd(mask, x); }
+
+// Doubles in single precision, in the low half.
+inline Vec<f32, 4> singles(Vec<f64, 2> x) { return _mm_cvtpd_ps(x); }
+
+// v moved up by a lane, and the last lane of the vector before it.
+inline Vec<f64, 2> pairs_shifted_in(Vec<f64, 2> before, Vec<f64, 2> v) { return shuffled<1>(before, v); }
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

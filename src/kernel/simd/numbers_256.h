@@ -67,5 +67,22 @@ inline Vec<f64, 2> upper_half(Vec<f64, 4> v) { return _mm256_extractf128_pd(v, 1
 template <int n>
 requires(n == 4) inline Vec<f64, 4> broadcast(const f64* p) { return _mm256_broadcast_sd(p); }
 
+inline Vec<f64, 4> less(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_cmp_pd(x, y, _CMP_LT_OQ); }
+inline Vec<f64, 4> same(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_cmp_pd(x, y, _CMP_EQ_OQ); }
+inline Vec<f64, 4> same_or_nan(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_cmp_pd(x, y, _CMP_EQ_UQ); }
+inline Vec<f64, 4> both(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_and_pd(x, y); }
+inline Vec<f64, 4> either(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_or_pd(x, y); }
+inline Vec<f64, 4> turned(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_xor_pd(x, y); }
+inline Vec<f64, 4> without(Vec<f64, 4> x, Vec<f64, 4> mask) { return _mm256_andnot_pd(mask, x); }
+
+inline void stream_bits(void* p, __m256i v) { _mm256_stream_si256(static_cast<__m256i*>(p), v); }
+
+inline Vec<f32, 4> singles(Vec<f64, 4> x) { return _mm256_cvtpd_ps(x); }
+
+inline Vec<f64, 4> pairs_shifted_in(Vec<f64, 4> before, Vec<f64, 4> v)
+{
+    return shuffled<5>(_mm256_permute2f128_pd(before, v, 0x21), v);
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -70,5 +70,26 @@ inline Vec<f64, 4> upper_half(Vec<f64, 8> v) { return _mm512_extractf64x4_pd(v, 
 template <int n>
 requires(n == 8) inline Vec<f64, 8> broadcast(const f64* p) { return _mm512_set1_pd(*p); }
 
+inline Vec<f64, 8> less(Vec<f64, 8> x, Vec<f64, 8> y)
+{
+    return as<Vec<f64, 8>>(_mm512_movm_epi64(_mm512_cmp_pd_mask(x, y, _CMP_LT_OQ)));
+}
+inline Vec<f64, 8> same(Vec<f64, 8> x, Vec<f64, 8> y)
+{
+    return as<Vec<f64, 8>>(_mm512_movm_epi64(_mm512_cmp_pd_mask(x, y, _CMP_EQ_OQ)));
+}
+inline Vec<f64, 8> same_or_nan(Vec<f64, 8> x, Vec<f64, 8> y)
+{
+    return as<Vec<f64, 8>>(_mm512_movm_epi64(_mm512_cmp_pd_mask(x, y, _CMP_EQ_UQ)));
+}
+inline Vec<f64, 8> both(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_and_pd(x, y); }
+inline Vec<f64, 8> either(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_or_pd(x, y); }
+inline Vec<f64, 8> turned(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_xor_pd(x, y); }
+inline Vec<f64, 8> without(Vec<f64, 8> x, Vec<f64, 8> mask) { return _mm512_andnot_pd(mask, x); }
+
+inline void stream_bits(void* p, __m512i v) { _mm512_stream_si512(static_cast<__m512i*>(p), v); }
+
+inline Vec<f32, 8> singles(Vec<f64, 8> x) { return _mm512_cvtpd_ps(x); }
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

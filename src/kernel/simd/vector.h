@@ -75,5 +75,11 @@ template <class V> inline V smaller(V x, V y) { return x < y ? x : y; }
 template <class V, class W> inline V as(W v) { return reinterpret_cast<V>(v); }
 template <class V> inline auto bits(V v) { return reinterpret_cast<Vec<long long, sizeof(V) / 8>>(v); }
 
+// What the body's processor has: for kernels that can do without it by a way of their own.
+constexpr bool hasByteShuffle = SIG5D_LEVEL >= 2;  // and products of fractions, magnitudes and signs of integers
+constexpr bool hasFloor = SIG5D_LEVEL >= 3;        // of doubles; widening to 64 bits
+constexpr bool has32BitMinimum = SIG5D_LEVEL >= 3; // and maximum, signed and unsigned
+constexpr bool hasQuickChoice = SIG5D_LEVEL == 3;  // between lanes by a mask: two steps from AVX on
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -17,7 +17,10 @@ struct Absolute {
             return larger(x, subtract_saturated(V{}, x));
         } else { // the lowest stays itself: it is the only negative one
             const V a = larger(x, difference_modulo(V{}, x));
-            return SIG5D_LEVEL < 3 ? a ^ (a >> 31) : as<V>(smaller(as<U>(a), all_lanes<U>(highest<i32>)));
+            if constexpr (has32BitMinimum)
+                return as<V>(smaller(as<U>(a), all_lanes<U>(highest<i32>)));
+            else
+                return a ^ (a >> 31);
         }
     }
 #endif

@@ -9,23 +9,17 @@ namespace {
 
 struct To16 {
     i16 one(i8 x) const { return x; }
-#if SIG5D_LEVEL > 0
     template <int n> auto to(const i8* p) const { return load_as_16<n>(p); }
-#endif
 };
 
 struct To32 {
     i32 one(i16 x) const { return x; }
-#if SIG5D_LEVEL > 0
     template <int n> auto to(const i16* p) const { return load_as_32<n>(p); }
-#endif
 };
 
 struct ToSingle {
     template <class S> f32 one(S x) const { return static_cast<f32>(x); }
-#if SIG5D_LEVEL > 0
     template <int n, class S> auto to(const S* p) const { return singles(load_as_32<n>(p)); }
-#endif
 };
 
 void convert(const i8* a, i16* d, int n) { map(static_cast<size_t>(n), d, Same{}, converted(a, To16{})); }
@@ -39,12 +33,10 @@ template <class S> void convert(const S* a, f32* d, int n)
 template <class D, class Rescale> struct Narrow {
     Rescale rescale;
     template <class S> D one(S x) const { return saturated<D>(rescale(x)); }
-#if SIG5D_LEVEL > 0
     template <int n, class S> auto to(const S* p) const
     {
         return gather<D, n>(p, [this]<int k>(const S* q) { return rescale(load_lanes<k>(q)); });
     }
-#endif
 };
 
 template <class D, class S> [[gnu::noinline]] void convert(const S* a, D* d, int n, int s)

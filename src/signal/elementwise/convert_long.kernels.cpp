@@ -18,14 +18,12 @@ struct ToDouble {
         const u64 low = (static_cast<u64>(x) & 0xFFFFFFFF) | bits52, high = static_cast<u64>(x) >> 32 ^ bits84;
         return __builtin_bit_cast(f64, high) - offsets + __builtin_bit_cast(f64, low);
     }
-#if SIG5D_LEVEL > 0
     template <int n> auto to(const i64* p) const
     {
         const auto x = reinterpret_cast < Vec<u64, n<2 ? 2 : n>>(load_lanes<n>(p));
         using F = Vec<f64, sizeof(x) / 8>;
         return reinterpret_cast<F>((x >> 32) ^ bits84) - offsets + reinterpret_cast<F>((x & 0xFFFFFFFF) | bits52);
     }
-#endif
 };
 
 void convert(const i64* a, f64* d, int n) { map(static_cast<size_t>(n), d, Same{}, converted(a, ToDouble{})); }
@@ -58,8 +56,6 @@ void convert_plain(const f64* a, i64* d, int n, int mode, Scale scale)
     for (int i = 0; i < n; ++i) d[i] = rounded_long(a[i], scale, mode);
 }
 
-#if SIG5D_LEVEL >= 3
-
 // A rounded double is split into two of 32 bits, whose integers are the last bits of sums. All of that is exact.
 template <bool even> struct RoundedLong {
     static constexpr f64 most = 0x1.fffffffffffffp62; // the largest double below the limit
@@ -86,19 +82,18 @@ template <bool even> struct RoundedLong {
     template <int n> auto to(const f64* p) const { return rounded(load_lanes<n>(p)); }
 };
 
-#endif
-
 [[gnu::noinline]] void convert(const f64* a, i64* d, int n, int mode, int s)
 {
-#if SIG5D_LEVEL >= 3
-    const Scale scale(s, mostScaled<f64>);
-    if (scale.simple() && rounds_to_nearest()) {
+    if constexpr (hasFloor) {
+        const Scale scale(s, mostScaled<f64>);
         const size_t count = static_cast<size_t>(n);
-        if (mode == NearestEven) return map<Medium>(count, d, Same{}, converted(a, RoundedLong<true>(scale.first, 0)));
-        return map<Medium>(count, d, Same{},
-                           converted(a, RoundedLong<false>(scale.first, mode == NearestAway ? belowHalf<f64> : 0)));
+        if (scale.simple() && rounds_to_nearest()) {
+            if (mode == NearestEven)
+                return map<Medium>(count, d, Same{}, converted(a, RoundedLong<true>(scale.first, 0)));
+            const f64 bias = mode == NearestAway ? belowHalf<f64> : 0;
+            return map<Medium>(count, d, Same{}, converted(a, RoundedLong<false>(scale.first, bias)));
+        }
     }
-#endif
     convert_plain(a, d, n, mode, Scale(s));
 }
 

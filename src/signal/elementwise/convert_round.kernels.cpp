@@ -14,8 +14,6 @@ template <class S, class D> void convert_plain(const S* a, D* d, int n, int mode
     for (int i = 0; i < n; ++i) d[i] = static_cast<D>(rounded<LimitsOf<D>>(a[i], scale, mode));
 }
 
-#if SIG5D_LEVEL > 0
-
 template <class D, class Integers> struct Narrow {
     Integers integers;
     template <int n, class S> auto to(const S* p) const
@@ -33,23 +31,21 @@ template <Rounding mode, bool scaled, class S, class D> void convert_vectors(con
     map<Shape>(static_cast<size_t>(n), d, Same{}, converted(a, Narrow<D, Integers>{Integers(static_cast<S>(factor))}));
 }
 
-#endif
-
 template <class S, class D> [[gnu::noinline]] void convert(const S* a, D* d, int n, int mode, int s)
 {
-#if SIG5D_LEVEL > 0
-    const Scale scale(s, mostScaled<S>);
-    if (scale.simple() && rounds_to_nearest()) {
-        const f64 factor = scale.first;
-        if (s == 0 && n >= 64) { // for long arrays only, which saves code
-            if (mode == TowardZero) return convert_vectors<TowardZero, false>(a, d, n, factor);
-            if (mode == NearestEven) return convert_vectors<NearestEven, false>(a, d, n, factor);
+    if constexpr (vectorBytes > 0) {
+        const Scale scale(s, mostScaled<S>);
+        if (scale.simple() && rounds_to_nearest()) {
+            const f64 factor = scale.first;
+            if (s == 0 && n >= 64) { // for long arrays only, which saves code
+                if (mode == TowardZero) return convert_vectors<TowardZero, false>(a, d, n, factor);
+                if (mode == NearestEven) return convert_vectors<NearestEven, false>(a, d, n, factor);
+            }
+            if (mode == TowardZero) return convert_vectors<TowardZero, true>(a, d, n, factor);
+            if (mode == NearestEven) return convert_vectors<NearestEven, true>(a, d, n, factor);
+            return convert_vectors<NearestAway, true>(a, d, n, factor);
         }
-        if (mode == TowardZero) return convert_vectors<TowardZero, true>(a, d, n, factor);
-        if (mode == NearestEven) return convert_vectors<NearestEven, true>(a, d, n, factor);
-        return convert_vectors<NearestAway, true>(a, d, n, factor);
     }
-#endif
     convert_plain(a, d, n, mode, Scale(s));
 }
 

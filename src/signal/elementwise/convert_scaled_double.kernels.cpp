@@ -16,12 +16,8 @@ template <class S> void convert_far(const S* a, f64* d, int n, Scale scale)
 struct Scaled {
     f64 factor;
     template <class S> f64 one(S x) const { return static_cast<f64>(x) * factor; }
-#if SIG5D_LEVEL > 0
     template <int n, class S> auto to(const S* p) const { return doubles<n>(load_as_32<n>(p)) * factor; }
-#endif
 };
-
-#if SIG5D_LEVEL >= 3
 
 // The integer added to the last bits of a double whose last bit is worth the factor, less that double: two additions
 // instead of a conversion and a product.
@@ -38,19 +34,15 @@ struct ScaledShort {
     }
 };
 
-#endif
-
 template <class S> [[gnu::noinline]] void convert(const S* a, f64* d, int n, int s)
 {
     const Scale scale(s);
     const size_t count = static_cast<size_t>(n);
     if (!scale.simple()) return convert_far(a, d, n, scale);
-#if SIG5D_LEVEL >= 3
     // Rounding downward, a difference of zero would be -0.
-    if constexpr (sizeof(S) == 2)
+    if constexpr (sizeof(S) == 2 && hasFloor)
         if (s > -900 && s < 900 && rounds_to_nearest())
             return map(count, d, Same{}, converted(a, ScaledShort{0x1.8p52 * scale.first}));
-#endif
     map(count, d, Same{}, converted(a, Scaled{scale.first}));
 }
 

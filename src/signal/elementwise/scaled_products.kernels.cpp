@@ -23,7 +23,7 @@ struct Product {
             return split<V>(even_products(x, y), even_products(odd_lanes(x), odd_lanes(y)));
         }
     }
-    template <class T, int s> static constexpr bool quick = s == 1 ? sizeof(T) < 4 : sizeof(T) == 2 && SIG5D_LEVEL >= 2;
+    template <class T, int s> static constexpr bool quick = s == 1 ? sizeof(T) < 4 : sizeof(T) == 2 && hasByteShuffle;
     template <int s, class V> V quickly(V x, V y) const
     {
         if constexpr (s == 1 && sizeof(Lane<V>) == 1) {

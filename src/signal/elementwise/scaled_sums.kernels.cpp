@@ -64,9 +64,7 @@ struct Difference {
 
 // For a value minus an array.
 struct DifferenceFrom : Difference {
-#if SIG5D_LEVEL > 0
     template <class V> V saturated(V x, V y) const { return subtract_saturated_from(x, y); }
-#endif
 };
 
 template <class T> void add(const T* a, const T* b, T* d, int n, int s)

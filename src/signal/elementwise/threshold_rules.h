@@ -9,19 +9,6 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL >= 3
-inline __m128i magnitudes(__m128i x, i16) { return _mm_abs_epi16(x); }
-inline __m128i magnitudes(__m128i x, i32) { return _mm_abs_epi32(x); }
-inline __m128i with_signs(__m128i x, __m128i y, i16) { return _mm_sign_epi16(x, y); }
-inline __m128i with_signs(__m128i x, __m128i y, i32) { return _mm_sign_epi32(x, y); }
-#endif
-#if SIG5D_LEVEL >= 5
-inline __m256i magnitudes(__m256i x, i16) { return _mm256_abs_epi16(x); }
-inline __m256i magnitudes(__m256i x, i32) { return _mm256_abs_epi32(x); }
-inline __m256i with_signs(__m256i x, __m256i y, i16) { return _mm256_sign_epi16(x, y); }
-inline __m256i with_signs(__m256i x, __m256i y, i32) { return _mm256_sign_epi32(x, y); }
-#endif
-
 template <class T> struct LimitBelow {
     T level;
     template <class V> V operator()(V x) const { return larger(all_lanes<V>(level), x); }
@@ -37,20 +24,16 @@ template <class T, bool toNearest = true> struct LimitMagnitudeBelow {
     T level;
     template <class V> V operator()(V x) const
     {
-#if SIG5D_LEVEL > 0
-        if constexpr (sizeof(T) == 8 && toNearest) {
+        if constexpr (sizeof(T) == 8 && sizeof(V) > sizeof(T) && toNearest) {
             // -0 is not negative: where the level is above 0 it becomes the level, too. Rounded downward the sum would
             // be -0 again.
             const V zero = all_lanes<V>(level > 0 ? 0.0 : -0.0);
             return with_sign(larger(all_lanes<V>(level), absolute_value(x)), x + zero);
         }
-#endif
-#if SIG5D_LEVEL >= 3
-        if constexpr (sizeof(T) < 8) {
-            const auto magnitude = as<Unsigned<V>>(magnitudes(bits(x), T{}));
-            return as<V>(with_signs(bits(larger(as<Unsigned<V>>(all_lanes<V>(level)), magnitude)), bits(x | 1), T{}));
+        if constexpr (sizeof(T) < 8 && sizeof(V) >= 16 && has32BitMinimum) {
+            using U = Unsigned<V>;
+            return with_signs(as<V>(larger(as<U>(all_lanes<V>(level)), as<U>(magnitudes(x)))), x | 1);
         }
-#endif
         const V up = all_lanes<V>(level), down = all_lanes<V>(static_cast<T>(-level));
         return x < all_lanes<V>(T{}) ? smaller(down, x) : larger(up, x);
     }
@@ -80,16 +63,16 @@ template <class T> struct ReplaceOutside {
     {
         const V low = all_lanes<V>(valueLT), high = all_lanes<V>(valueGT);
         const auto below = x < all_lanes<V>(levelLT), within = x <= all_lanes<V>(levelGT);
-#if SIG5D_LEVEL == 0 || SIG5D_LEVEL == 3
-        return below ? low : within ? x : high;
-#else
-        // Two selections are six or more steps, but in the form that SSE4.1 has and AVX lacks. By bits they are five:
-        // what differs from the upper value and then from the lower one.
-        using Bits = std::remove_const_t<decltype(below)>;
-        const Bits a = reinterpret_cast<Bits>(low), b = reinterpret_cast<Bits>(high);
-        const Bits difference = ((reinterpret_cast<Bits>(x) ^ b) & within) ^ (a ^ b);
-        return reinterpret_cast<V>((difference & ~below) ^ a);
-#endif
+        if constexpr (hasQuickChoice || sizeof(V) == sizeof(T)) {
+            return below ? low : within ? x : high;
+        } else {
+            // Two selections are six or more steps, but in the form that SSE4.1 has and AVX lacks. By bits they are
+            // five: what differs from the upper value and then from the lower one.
+            using Bits = std::remove_const_t<decltype(below)>;
+            const Bits a = reinterpret_cast<Bits>(low), b = reinterpret_cast<Bits>(high);
+            const Bits difference = ((reinterpret_cast<Bits>(x) ^ b) & within) ^ (a ^ b);
+            return reinterpret_cast<V>((difference & ~below) ^ a);
+        }
     }
 };
 
