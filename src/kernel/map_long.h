@@ -130,8 +130,8 @@ template <class D, class... A> inline LargeArray large_array(size_t n, D d, A...
 template <class T, class... A> inline LargeArray large_array(size_t n, TwoArrays<T> d, A... a)
 {
     if (!streamingPays(2 * u64{n} * sizeof(T))) return {false, false};
-    const bool free = ((apart(span(d.first, n), span(a, n)) && apart(span(d.second, n), span(a, n))) && ...);
-    return {free, free};
+    const bool isApart = ((apart(span(d.first, n), span(a, n)) && apart(span(d.second, n), span(a, n))) && ...);
+    return {isApart, isApart};
 }
 
 // The address by which a destination is aligned, and whether its vectors are.
