@@ -14,10 +14,9 @@ struct Same {
 
 // A source may be d itself, or overlap it and begin behind it.
 //
-// The last vector overlaps those before it, so that no element is left over: it is computed before anything is stored
-// and stored at the end. Up to 512 bytes the vectors before it begin with the array. In longer ones the stores are
-// aligned, since stores that cross a cache line take twice as long: then the first vector, too, overlaps those that
-// follow it and is stored after them.
+// The first and the last vector overlap the others, so that no element is left over: they are computed before anything
+// is stored. Those between them begin at the second vector of an array of few vectors; in longer ones at an aligned
+// address, since stores that cross a cache line take twice as long.
 //
 // Always inlined, so that an operation may hold vectors: as arguments of a real function those of 32 bytes would leave
 // the upper halves of registers in use, which slows down all code after it.
@@ -34,11 +33,23 @@ template <class Shape = Light, class D, class Op, class... A>
             else
                 return map_halves<L / 2>(n, d, op, a...);
         }
-        constexpr size_t fewVectors = 512 / Shape::vectorSize;
         const D last = d + (n - L);
-        const auto tail = op(load_lanes<L>(a + (n - L))...);
-        size_t i = n > fewVectors * L ? n - map_long<Shape>(n, d, op, a...) : 0;
-        for (; i + L < n; i += L) store_lanes<L>(Ordinary{}, d + i, op(elements_of<Shape, L>(a + i)...));
+        const auto head = op(load_lanes<L>(a)...), tail = op(load_lanes<L>(a + (n - L))...);
+        if (n <= 2 * L) {
+            store_lanes<L>(Ordinary{}, d, head);
+            return store_lanes<L>(Ordinary{}, last, tail);
+        }
+        size_t done = L;
+        if (n > 4 * Shape::group * L) {
+            done = n - map_long<Shape>(n, d, op, a...);
+        } else if (std::is_same_v<Shape, Light> && n <= 4 * L) { // without a loop
+            const auto second = op(load_lanes<L>(a + L)...), third = op(load_lanes<L>(a + (n - 2 * L))...);
+            store_lanes<L>(Ordinary{}, d + L, second);
+            store_lanes<L>(Ordinary{}, d + (n - 2 * L), third);
+            done = n;
+        }
+        store_lanes<L>(Ordinary{}, d, head);
+        for (; done + L < n; done += L) store_lanes<L>(Ordinary{}, d + done, op(elements_of<Shape, L>(a + done)...));
         store_lanes<L>(Ordinary{}, last, tail);
     }
 }

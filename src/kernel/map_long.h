@@ -130,8 +130,8 @@ template <class D, class... A> inline LargeArray large_array(size_t n, D d, A...
 template <class T, class... A> inline LargeArray large_array(size_t n, TwoArrays<T> d, A... a)
 {
     if (!streamingPays(2 * u64{n} * sizeof(T))) return {false, false};
-    const bool free = ((apart(span(d.first, n), span(a, n)) && apart(span(d.second, n), span(a, n))) && ...);
-    return {free, free};
+    const bool isApart = ((apart(span(d.first, n), span(a, n)) && apart(span(d.second, n), span(a, n))) && ...);
+    return {isApart, isApart};
 }
 
 // The address by which a destination is aligned, and whether its vectors are.
@@ -163,14 +163,14 @@ template <class Shape, class D> inline Runs runs_of(size_t n, D d, LargeArray la
     return Runs(n, large.pastCaches ? toLine : 0, group, turn);
 }
 
-// More than 512 bytes: whole groups of vectors, as many as there are. Returns how many elements are left.
+// An array of more than four groups: all groups from the first aligned element on, which the first vector reaches.
+// Returns how many elements are left.
 template <class Shape, class D, class Op, class... A>
 [[gnu::always_inline]] inline size_t map_long(size_t n, D d, Op op, A... a)
 {
     constexpr size_t L = Shape::template lanesFor<D>;
-    const D first = d;
-    const auto head = op(load_lanes<L>(a)...);
     size_t skip = to_alignment<L>(d);
+    if constexpr (std::is_same_v<Shape, Light>) skip %= L; // often leaves whole groups, with nothing behind them
     // A value that is repeated in a vector of bytes must begin anew there.
     if constexpr (requires { op.period; }) skip &= ~(op.period - 1);
     LargeArray large = large_array(n, d, a...);
@@ -185,7 +185,6 @@ template <class Shape, class D, class Op, class... A>
     else // in one place, since more is made of the operation than of the question at each store
         n = map_runs<Shape>(runs, d, large, op, a...);
     if (large.pastCaches) stream_end();
-    store_lanes<L>(Ordinary{}, first, head);
     return n;
 }
 

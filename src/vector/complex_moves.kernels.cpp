@@ -44,7 +44,7 @@ void multiply_by_i(const c64f* a, c64f* d, u32 n) { each<TimesI>(n, a, d); }
 void flip(const c64f* a, c64f* d, u32 n) { each<Swapped>(n, a, d); }
 void flip_conj(const c64f* a, c64f* d, u32 n) { each<SwappedConjugate>(n, a, d); }
 
-// An array read from its end on: what map takes for a pointer.
+// An array read from its end on: a source of map.
 struct Backwards {
     const Moved* end;
     Backwards operator+(size_t n) const { return {end - n}; }

@@ -5,7 +5,7 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// An index for each element, or for each part of one, as doubles: what map takes for a source.
+// An index for each element, or for each part of one, as doubles: a source of map.
 #if SIG5D_LEVEL == 0
 
 template <int parts> struct Indexes {

@@ -26,7 +26,7 @@ template <Rounding mode, bool scaled, class S, class D> void convert_vectors(con
 {
     // Doubles become integers in 16 bytes: to join those to longer vectors takes more than to store them.
     constexpr int bytes = sizeof(S) == 8 ? 16 : vectorBytes;
-    using Shape = InFlight<sizeof(S) / sizeof(D) >= 4 ? 1 : 2, false, bytes>; // each has as many conversions under way
+    using Shape = InFlight<sizeof(S) / sizeof(D) >= 8 ? 1 : 2, false, bytes>; // each has as many conversions under way
     using Integers = Rounded<S, LimitsOf<D>, mode, scaled>;
     map<Shape>(static_cast<size_t>(n), d, Same{}, converted(a, Narrow<D, Integers>{Integers(static_cast<S>(factor))}));
 }

@@ -6,7 +6,7 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// An array read from its end on: what map takes for a pointer.
+// An array read from its end on: a source of map.
 template <class T> struct Backwards {
     const T* end;
     Backwards operator+(size_t n) const { return {end - n}; }
