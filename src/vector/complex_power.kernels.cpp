@@ -51,6 +51,7 @@ c64f zeros_for_nan(c64f z)
     return {z.re != z.re ? with_sign(0.0, z.re) : z.re, z.im != z.im ? with_sign(0.0, z.im) : z.im};
 }
 
+// w is a logarithm: its imaginary part is finite or a NaN, so that an infinite w shows in a product already.
 c64f standard_product(c64f z, c64f w)
 {
     f64 ac = z.re * w.re, bd = z.im * w.im, ad = z.re * w.im, bc = z.im * w.re;
@@ -60,11 +61,6 @@ c64f standard_product(c64f z, c64f w)
     if (infinite(z.re) || infinite(z.im)) {
         z = boxed(z);
         w = zeros_for_nan(w);
-        recovers = true;
-    }
-    if (infinite(w.re) || infinite(w.im)) {
-        w = boxed(w);
-        z = zeros_for_nan(z);
         recovers = true;
     }
     if (!recovers && (infinite(ac) || infinite(bd) || infinite(ad) || infinite(bc))) {
