@@ -11,7 +11,7 @@ struct ToSingle {
     template <class S> f32 one(S x) const { return static_cast<f32>(x); }
 #if SIG5D_LEVEL > 0
     template <int n> auto to(const i32* p) const { return singles(load_lanes<n>(p)); }
-    template <int n> Vec < f32, n<4 ? 4 : n> to(const f64* p) const
+    template <int n> Vec<f32, (n < 4 ? 4 : n)> to(const f64* p) const
     {
         if constexpr (n > 4)
 #if SIG5D_LEVEL >= 4
