@@ -10,7 +10,10 @@ if(SIG5D_SANITIZE) # whose checks in every loop took ten times as long to optimi
     set(optimise -O1 -fexpensive-optimizations) # the latter clears the upper halves of vector registers
 endif()
 set(SIG5D_COMMON_FLAGS ${optimise} -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign
-    -fno-tree-loop-distribute-patterns -falign-loops=64)
+    -falign-loops=64)
+if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang) # which builds for fuzzing only, and has no such option
+    list(APPEND SIG5D_COMMON_FLAGS -fno-tree-loop-distribute-patterns)
+endif()
 
 # sig5d_add_variants(<list>): an object library per variant, each file of SIG5D_KERNEL_SOURCES in each of its bodies;
 # their objects are added to the list.

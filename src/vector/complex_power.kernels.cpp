@@ -51,6 +51,7 @@ c64f zeros_for_nan(c64f z)
     return {z.re != z.re ? with_sign(0.0, z.re) : z.re, z.im != z.im ? with_sign(0.0, z.im) : z.im};
 }
 
+// w is a logarithm: its imaginary part is finite or a NaN, so that an infinite w shows in a product already.
 c64f standard_product(c64f z, c64f w)
 {
     f64 ac = z.re * w.re, bd = z.im * w.im, ad = z.re * w.im, bc = z.im * w.re;
@@ -62,11 +63,6 @@ c64f standard_product(c64f z, c64f w)
         w = zeros_for_nan(w);
         recovers = true;
     }
-    if (infinite(w.re) || infinite(w.im)) {
-        w = boxed(w);
-        z = zeros_for_nan(z);
-        recovers = true;
-    }
     if (!recovers && (infinite(ac) || infinite(bd) || infinite(ad) || infinite(bc))) {
         z = zeros_for_nan(z);
         w = zeros_for_nan(w);
@@ -76,35 +72,39 @@ c64f standard_product(c64f z, c64f w)
     return {infinity * (z.re * w.re - z.im * w.im), infinity * (z.re * w.im + z.im * w.re)};
 }
 
+// No imaginary part is finite here, since each factor of the product before takes part in it.
 c64f standard_exponential(c64f z)
 {
-    if (finite(z.re) && finite(z.im)) return finite_exponential({z.re, 0.0}, {z.im, 0.0});
-    if (z.re == -infinity) {
-        if (!finite(z.im)) return {0.0, with_sign(0.0, z.im)};
-        const libm::CosSin direction = libm::cosSin(z.im);
-        return {with_sign(0.0, direction.cos), with_sign(0.0, direction.sin)};
-    }
-    if (z.im == 0) return z; // +infinity or NaN
-    if (z.re == infinity && finite(z.im)) {
-        const libm::CosSin direction = libm::cosSin(z.im);
-        return {with_sign(infinity, direction.cos), with_sign(infinity, direction.sin)};
-    }
+    if (z.re == -infinity) return {0.0, with_sign(0.0, z.im)};
     return {z.re == infinity ? infinity : __builtin_nan(""), __builtin_nan("")};
+}
+
+struct ComplexDoubled {
+    Doubled re, im;
+};
+ComplexDoubled product(Doubled re, Doubled im, c64f b) { return {re * b.re + -(im * b.im), re * b.im + im * b.re}; }
+inline bool finite(Doubled x) { return finite(x.hi) && finite(x.lo); }
+
+c64f finite_power(c64f a, c64f b)
+{
+    const libm::ComplexScaled parts = libm::normalizedParts(a.re, a.im);
+    const Doubled size = libm::logOfModulus(parts), turn = libm::angle(parts);
+    if (__builtin_fabs(b.re) <= 0x1p960 && __builtin_fabs(b.im) <= 0x1p960) {
+        const ComplexDoubled exponent = product(size, turn, b);
+        return finite_exponential(exponent.re, exponent.im);
+    }
+    // A part beyond the doubles is taken 2^64 times too small: as a real part it is far beyond all exponents all the
+    // same, and an angle that large has no direction that means anything.
+    b = {b.re * 0x1p-64, b.im * 0x1p-64};
+    const ComplexDoubled exponent = product(size * 0x1p64, turn * 0x1p64, b), small = product(size, turn, b);
+    return finite_exponential(finite(exponent.re) ? exponent.re : small.re,
+                              finite(exponent.im) ? exponent.im : small.im);
 }
 
 c64f power(c64f a, c64f b)
 {
-    if (finite(a.re) && finite(a.im) && finite(b.re) && finite(b.im) && (a.re != 0 || a.im != 0)) {
-        const libm::ComplexScaled parts = libm::normalizedParts(a.re, a.im);
-        Doubled size = libm::logOfModulus(parts), turn = libm::angle(parts);
-        if (__builtin_fabs(b.re) > 0x1p960 || __builtin_fabs(b.im) > 0x1p960) { // whose halves would overflow
-            b = {b.re * 0x1p-64, b.im * 0x1p-64};
-            size = size * 0x1p64;
-            turn = turn * 0x1p64;
-        }
-        const Doubled re = size * b.re + -(turn * b.im), im = size * b.im + turn * b.re;
-        if (finite(re.hi) && finite(re.lo) && finite(im.hi) && finite(im.lo)) return finite_exponential(re, im);
-    }
+    if (finite(a.re) && finite(a.im) && finite(b.re) && finite(b.im) && (a.re != 0 || a.im != 0))
+        return finite_power(a, b);
     return standard_exponential(standard_product(b, standard_log(a)));
 }
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
+#include <tuple>
 #include <vector>
 
 using namespace sig5d;
@@ -90,7 +91,10 @@ TEST(Detection, TheVendorDecidesOnCachesAndCoresButNeverOnTheVariant)
         EXPECT_EQ(coresPerPackage(id), 1);
     }
     r.leaves[{2, 0}] = {1, 0, 0, 0x0000FF00}; // the descriptor that points at leaf 4
-    EXPECT_EQ(readCacheSize(identify(play(r))).bytes, r.cacheBytes);
+    for (u32 highest : {r.leaves[{0, 0}].eax, 4u}) {
+        r.leaves[{0, 0}].eax = highest;
+        EXPECT_EQ(readCacheSize(identify(play(r))).bytes, r.cacheBytes);
+    }
 }
 
 TEST(Detection, DescriptorsAreReadWhereARegisterHoldsSome)
@@ -139,6 +143,29 @@ TEST(Detection, CoresAreCountedByTheLeavesThatCount)
     EXPECT_EQ(coresPerPackage(identify(play(r))), 1);
     r.leaves[{0x80000000, 0}].eax = 0x80000007;
     EXPECT_EQ(coresPerPackage(identify(play(r))), 1);
+}
+
+// A leaf is used as soon as it is the highest: one more that tells nothing makes no difference.
+TEST(Detection, TheHighestLeafCounts)
+{
+    const auto found = [](const Recorded& r) {
+        const u64 word = readFeatures(identify(play(r)));
+        const i32 cache = readCacheSize(identify(play(r))).bytes;
+        return std::tuple(word, cache, coresPerPackage(identify(play(r))));
+    };
+    for (int i = 0; i < recordedProcessorCount; ++i)
+        for (const auto& [place, registers] : recordedProcessors[i].leaves) {
+            const u32 leaf = place.first, base = leaf & 0x80000000;
+            if (leaf == base) continue;
+            Recorded r = recordedProcessors[i];
+            std::erase_if(r.leaves, [&](const auto& other) {
+                return other.first.first > leaf && (other.first.first & 0x80000000) == base;
+            });
+            r.leaves[{base, 0}].eax = leaf;
+            const auto expected = found(r);
+            r.leaves[{base, 0}].eax = leaf + 1;
+            EXPECT_EQ(found(r), expected) << r.name << ", leaf " << std::hex << leaf;
+        }
 }
 
 // Each published descriptor of a data or unified cache, by size; no other says anything.

@@ -3,6 +3,7 @@
 #include "support/bytes.h"
 #include <cmath>
 #include <cstring>
+#include <algorithm>
 #include <limits>
 #include <xmmintrin.h>
 
@@ -82,14 +83,20 @@ template <class S> Bytes integers(int n)
     return b;
 }
 
-// Numbers around the ties and limits of x * 2^-s, and some from everywhere.
+// Numbers around the ties and limits of x * 2^-s, each limit of an integer and its neighbours among them, and some from
+// everywhere.
 template <class F> Bytes floats(int n, int s)
 {
     using L = std::numeric_limits<F>;
     std::vector<F> v = {0,        -F(0),       L::infinity(), -L::infinity(), L::quiet_NaN(),  -L::quiet_NaN(),
                         L::max(), L::lowest(), L::min(),      -L::min(),      L::denorm_min(), -L::denorm_min()};
     const int near = s < -200 ? -200 : s > 200 ? 200 : s;
-    std::mt19937_64 r(17);
+    std::mt19937_64 r(static_cast<unsigned>(1000 + near));
+    for (int power : {7, 8, 15, 16, 23, 24, 31, 32, 63, 64}) {
+        const F limit = static_cast<F>(std::ldexp(1.0, power + near));
+        for (F x : {limit, std::nextafter(limit, F(0)), std::nextafter(limit, L::infinity())})
+            v.insert(v.end(), {x, -x});
+    }
     while (v.size() < static_cast<size_t>(n)) {
         const double power = std::ldexp(1.0, static_cast<int>(r() % 66));
         const double numbers[] = {power, power - 0.5, power + 0.5, power - 1.5, static_cast<double>(r() % 4096) / 4,
@@ -103,6 +110,7 @@ template <class F> Bytes floats(int n, int s)
         }
         v.push_back(r() % 2 ? x : -x);
     }
+    std::shuffle(v.begin(), v.end(), r);
     v.resize(static_cast<size_t>(n));
     Bytes b(v.size() * sizeof(F));
     std::memcpy(b.data(), v.data(), b.size());

@@ -1,4 +1,5 @@
 #include "variants.h"
+#include <cpuid.h>
 #include <cstring>
 #ifdef _WIN32
 #include <windows.h>
@@ -35,6 +36,17 @@ const Variant& current()
     return variants[0];
 }
 
+namespace {
+
+// Half precision is bit 29 of ecx, which not every compiler's __builtin_cpu_supports knows by its name.
+bool hasF16c()
+{
+    unsigned a, b, c = 0, d;
+    return __get_cpuid(1, &a, &b, &c, &d) && c >> 29 & 1;
+}
+
+} // namespace
+
 std::vector<Variant> supported()
 {
     static const std::vector<Variant> list = [] {
@@ -46,7 +58,7 @@ std::vector<Variant> supported()
                                 __builtin_cpu_supports("ssse3") != 0,
                                 __builtin_cpu_supports("sse4.2") != 0,
                                 __builtin_cpu_supports("avx") != 0,
-                                __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("f16c") != 0};
+                                __builtin_cpu_supports("avx2") != 0 && hasF16c()};
             if (has[v.index]) found.push_back(v);
         }
         return found;

@@ -209,7 +209,7 @@ template <class D, class Rescale> struct Narrow {
 #else
     template <int n, class S> auto to(const S* p) const
     {
-        using V = Vec < S, n<4 ? 4 : n>;
+        using V = Vec<S, (n < 4 ? 4 : n)>;
         V y = rescale(load_lanes<n>(p));
         y = smaller(y, all_lanes<V>(static_cast<S>(high)));
         if constexpr (isSigned<S>) y = larger(y, all_lanes<V>(low));

@@ -1,8 +1,8 @@
 // Conversions between single and double precision and of 32-bit integers to either, rounded to the nearest where the
 // number does not fit.
 #include "frame/entry.h"
-#include "kernel/map.h"
 #include "kernel/lanes.h"
+#include "kernel/map.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {

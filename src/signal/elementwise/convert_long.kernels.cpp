@@ -20,7 +20,7 @@ struct ToDouble {
     }
     template <int n> auto to(const i64* p) const
     {
-        const auto x = reinterpret_cast < Vec<u64, n<2 ? 2 : n>>(load_lanes<n>(p));
+        const auto x = reinterpret_cast<Vec<u64, (n < 2 ? 2 : n)>>(load_lanes<n>(p));
         using F = Vec<f64, sizeof(x) / 8>;
         return reinterpret_cast<F>((x >> 32) ^ bits84) - offsets + reinterpret_cast<F>((x & 0xFFFFFFFF) | bits52);
     }
