@@ -59,8 +59,8 @@ template <class V> struct Four {
     V v[4];
 };
 
-// Two doubles from each address (vectors of two: from the first only). Halves that are joined from memory and stored one
-// by one need no shuffle unit; the compiler's own shuffles do.
+// Two doubles from each address (vectors of two: from the first only). Halves that are joined from memory and stored
+// one by one need no shuffle unit; the compiler's own shuffles do.
 template <class V> SIG5D_INLINE V getHalves(const f64* first, [[maybe_unused]] const f64* second)
 {
     if constexpr (sizeof(V) == 32)

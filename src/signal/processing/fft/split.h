@@ -10,10 +10,7 @@ constexpr f64 cosEighth = 0x1.6a09e667f3bcdp-1;    // of pi / 4
 constexpr f64 cosSixteenth = 0x1.d906bcf328d46p-1; // of pi / 8
 constexpr f64 sinSixteenth = 0x1.87de2a6aea963p-2;
 
-template <class T> SIG5D_INLINE T everyLane(const f64& c)
-{
-    return broadcast<sizeof(T) / sizeof(f64)>(&c);
-}
+template <class T> SIG5D_INLINE T everyLane(const f64& c) { return broadcast<sizeof(T) / sizeof(f64)>(&c); }
 // a exp(-i pi / 4) and a exp(i pi / 4)
 template <class T> SIG5D_INLINE Complex<T> turnedBack(Complex<T> a)
 {

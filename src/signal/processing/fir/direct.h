@@ -40,10 +40,7 @@ template <int w> struct Side<c64f, w> {
         Sum x, crossed; // crossed: parts exchanged
     };
     static Sum zero() { return splatn<2 * w>(0.0); }
-    static Tap tap(const c64f& h)
-    {
-        return {broadcast<2 * w>(&h.re), negated_firsts(broadcast<2 * w>(&h.im))};
-    }
+    static Tap tap(const c64f& h) { return {broadcast<2 * w>(&h.re), negated_firsts(broadcast<2 * w>(&h.im))}; }
     static Signal signal(const c64f* p)
     {
         const Sum x = loadn<2 * w>(&p->re);
