@@ -46,7 +46,7 @@ template <int n, class T, class Y, class Test> inline auto load_lanes(const Mask
 {
     if constexpr (lanes<i32> == 1) {
         return m[0];
-    } else if constexpr (n < lanes<i32>) {
+    } else if constexpr (n < 4) {
         Vec<i32, 4> v = {};
         for (int i = 0; i < n; ++i) v[i] = m[static_cast<size_t>(i)];
         return v;
