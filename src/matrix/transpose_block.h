@@ -24,23 +24,16 @@ template <int half, class V, size_t... i> inline V interleaved_lanes(V a, V b, s
 }
 // Elements as lanes. AVX has shuffles of numbers only for its longer registers; where there are those of integers,
 // newer processors execute them at two places.
-template <int size, bool asNumbers> struct Element;
-template <bool asNumbers> struct Element<1, asNumbers> {
-    using type = u8;
-};
-template <bool asNumbers> struct Element<2, asNumbers> {
-    using type = u16;
-};
-template <bool asNumbers> struct Element<4, asNumbers> {
-    using type = std::conditional_t<asNumbers, f32, u32>;
-};
-template <bool asNumbers> struct Element<8, asNumbers> {
-    using type = std::conditional_t<asNumbers, f64, u64>;
-};
+template <class Numbers, class Integers, class R>
+using Fitting = std::conditional_t<(sizeof(R) > integerBytes), Numbers, Integers>;
+template <int size, class R>
+using Element = std::conditional_t<
+    size == 1, u8,
+    std::conditional_t<size == 2, u16, std::conditional_t<size == 4, Fitting<f32, u32, R>, Fitting<f64, u64, R>>>>;
 template <int size, int half, class R> inline R interleaved(R a, R b)
 {
     constexpr int n = sizeof(R) / size;
-    using V = Vec<typename Element<size, (sizeof(R) > integerBytes)>::type, n>;
+    using V = Vec<Element<size, R>, n>;
     return as<R>(interleaved_lanes<half>(as<V>(a), as<V>(b), std::make_index_sequence<n>{}));
 }
 

@@ -47,6 +47,7 @@ template <class Unit, int lanes, int parts> struct Numbers {
         }
     }
 };
+
 // For each set of lanes: how many of the set come before each lane of it, as "parts" consecutive numbers; -128 for
 // lanes outside of it.
 template <class Unit, int lanes, int parts> struct Ranks {
