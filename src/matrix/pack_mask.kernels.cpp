@@ -29,7 +29,7 @@ template <class T> u32 pack_mask_counted(u32 n, const T* a, T* d, const i32* mas
 {
     const size_t bytes = n * sizeof(T);
     const bool behind = reinterpret_cast<uintptr_t>(d) <= reinterpret_cast<uintptr_t>(a);
-    if (lanes<T> == 1 || !disjoint(d, bytes, mask, n * sizeof *mask) || !(behind || disjoint(d, bytes, a, bytes)))
+    if (lanes<u8> == 1 || !disjoint(d, bytes, mask, n * sizeof *mask) || !(behind || disjoint(d, bytes, a, bytes)))
         return pack_in_order(n, a, d, mask);
     return static_cast<u32>(compact<many<T>>(positive(mask), n, Elements<T>{a}, d));
 }
@@ -37,7 +37,7 @@ template <class T> u32 pack_mask_counted(u32 n, const T* a, T* d, const i32* mas
 template <class T> void unpack_mask(u32 n, const T* a, T* d, const i32* mask)
 {
     const size_t bytes = n * sizeof(T);
-    if (lanes<T> == 1 || !disjoint(d, bytes, mask, n * sizeof *mask) || !disjoint(d, bytes, a, bytes))
+    if (lanes<u8> == 1 || !disjoint(d, bytes, mask, n * sizeof *mask) || !disjoint(d, bytes, a, bytes))
         return unpack_in_order(n, a, d, mask);
     spread<many<T>>(positive(mask), n, a, d);
 }

