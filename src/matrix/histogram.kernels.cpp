@@ -129,8 +129,8 @@ template <class Bin> inline void count_four(const Bin* b, u32* counts)
 }
 template <class Bin> inline void count_mostly_equal(const Bin* b, u32* counts)
 {
-    const auto first = splatn<4>(b[0]);
-    if (lanes_set((first == loadn<4>(b)) & (first == loadn<4>(b + 4))) == 15) {
+    const auto bins = loadn<4>(b), first = __builtin_shufflevector(bins, bins, 0, 0, 0, 0);
+    if (byte_signs(bits((first == bins) & (first == loadn<4>(b + 4)))) == 0xFFFF) {
         counts[b[0]] += 8;
     } else {
         count_four(b, counts);
