@@ -17,5 +17,6 @@
 #include "kernel/simd/numbers_512.h"
 #endif
 #if SIG5D_LEVEL > 0
+#include "kernel/simd/masks.h"
 #include "kernel/simd/pairs.h"
 #endif

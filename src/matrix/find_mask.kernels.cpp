@@ -26,51 +26,17 @@ template <class T, class Y, class Test> inline Span span(const MaskValues<T, Y, 
     return span(m.x, n);
 }
 
-#if SIG5D_LEVEL == 0
-
-template <int n, class T, class Y, class Test> inline i32 load_lanes(const MaskValues<T, Y, Test>& m) { return m[0]; }
-
-#else
-
-// Lanes of 64 bits of which either half will do, as lanes of 32.
-inline Vec<i32, 4> halves(Vec<i64, 2> a, Vec<i64, 2> b)
-{
-    const __m128 low = reinterpret_cast<__m128>(a), high = reinterpret_cast<__m128>(b);
-    return reinterpret_cast<Vec<i32, 4>>(_mm_shuffle_ps(low, high, 0x88));
-}
-#if SIG5D_LEVEL >= 5
-inline Vec<i32, 8> halves(Vec<i64, 4> a, Vec<i64, 4> b)
-{
-    const __m256 mixed = _mm256_shuffle_ps(reinterpret_cast<__m256>(a), reinterpret_cast<__m256>(b), 0x88);
-    return reinterpret_cast<Vec<i32, 8>>(_mm256_permute4x64_epi64(_mm256_castps_si256(mixed), 0xD8));
-}
-#endif
-
-// The first elements of a vector in lanes of 32 bits.
-#if SIG5D_LEVEL >= 5
-inline Vec<i32, 8> widened(Vec<i16, 8> v)
-{
-    return reinterpret_cast<Vec<i32, 8>>(_mm256_cvtepi16_epi32(reinterpret_cast<__m128i>(v)));
-}
-inline Vec<i32, 8> widened(Vec<i8, 16> v)
-{
-    return reinterpret_cast<Vec<i32, 8>>(_mm256_cvtepi8_epi32(reinterpret_cast<__m128i>(v)));
-}
-#endif
-
 // All bits of a lane set where the test holds.
 template <int L, class T, class Y, class Test> inline Vec<i32, L> lanes_of(const MaskValues<T, Y, Test>& m)
 {
-    const auto test = m.test;
     if constexpr (sizeof(T) == 8) {
-        const auto a = test(loadn<L / 2>(m.x), vector_of<L / 2>(m.y));
-        return halves(a, test(loadn<L / 2>(m.x + L / 2), vector_of<L / 2>(m.y + L / 2)));
-    } else if constexpr (sizeof(T) == 4) {
-        return test(loadn<L>(m.x), vector_of<L>(m.y));
+        const MaskValues<T, Y, Test> upper = m + L / 2;
+        return narrowed_masks(m.test(load_lanes<L / 2>(m.x), load_lanes<L / 2>(m.y)),
+                              m.test(load_lanes<L / 2>(upper.x), load_lanes<L / 2>(upper.y)));
     } else {
+        const auto mask = m.test(load_lanes<L>(m.x), load_lanes<L>(m.y));
         // Compilers differ in the type of a comparison's lanes.
-        using Mask = Vec<std::make_signed_t<T>, 16 / static_cast<int>(sizeof(T))>;
-        return widened(reinterpret_cast<Mask>(test(load_part<L * sizeof(T)>(m.x), part_of<L * sizeof(T)>(m.y))));
+        return widened_to_32<L>(as<Vec<std::make_signed_t<T>, sizeof mask / sizeof(T)>>(mask));
     }
 }
 struct IsNegativeInfinity {
@@ -78,7 +44,9 @@ struct IsNegativeInfinity {
 };
 template <int n, class T, class Y, class Test> inline auto load_lanes(const MaskValues<T, Y, Test>& m)
 {
-    if constexpr (n < lanes<i32>) {
+    if constexpr (lanes<i32> == 1) {
+        return m[0];
+    } else if constexpr (n < 4) {
         Vec<i32, 4> v = {};
         for (int i = 0; i < n; ++i) v[i] = m[static_cast<size_t>(i)];
         return v;
@@ -89,15 +57,13 @@ template <int n, class T, class Y, class Test> inline auto load_lanes(const Mask
     }
 }
 
-#endif
-
 template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i32* mask, size_t n)
 {
     // Calls from the loop would load the value and the pointers anew each time.
     const auto write = [=](auto test) __attribute__((flatten))
     {
         const MaskValues<T, Y, decltype(test)> values{x, y, test};
-        if constexpr (sizeof(T) < sizeof *mask && SIG5D_LEVEL < 5) { // the compiler takes a whole vector of T at once
+        if constexpr (sizeof(T) < sizeof *mask && integerBytes < 32) { // the compiler takes a whole vector of T at once
 #pragma GCC ivdep
             for (size_t k = 0; k < n; ++k) mask[k] = values[k];
         } else {
@@ -115,23 +81,24 @@ template <class T> void find_mask(u32 code, const T* x, const T* y, i32* mask, u
     find_mask_by_code(code, x, y, mask, n);
 }
 
-void count_greater(const f64* x, f64 value, u32* count, u32 n)
+template <class T> inline u32 greater(const T* x, T value, size_t n)
 {
     size_t k = 0;
-    u32 greater = 0;
-#if SIG5D_LEVEL > 0
-    constexpr size_t L = lanes<f64>;
-    Vec<i64> found[4] = {};
-    for (; n - k >= 8 * L; k += 8 * L)
+    u32 count = 0;
+    if constexpr (lanes < T >> 1) {
+        constexpr size_t L = lanes<T>;
+        Vec<i64> found[4] = {};
+        for (; n - k >= 8 * L; k += 8 * L)
 #pragma GCC unroll 8
-        for (size_t i = 0; i < 8; ++i) found[i % 4] -= splat(value) < load(x + k + i * L);
-    for (; n - k >= L; k += L) found[0] -= splat(value) < load(x + k);
-    const auto all = reinterpret_cast<Vec<i32>>(found[0] + found[1] + (found[2] + found[3]));
-    for (size_t i = 0; i < L; ++i) greater += static_cast<u32>(all[2 * i]);
-#endif
-    for (; k < n; ++k) greater += x[k] > value;
-    *count = greater;
+            for (size_t i = 0; i < 8; ++i) found[i % 4] -= splat(value) < load(x + k + i * L);
+        for (; n - k >= L; k += L) found[0] -= splat(value) < load(x + k);
+        const auto all = as<Vec<i32, 2 * lanes<T>>>(found[0] + found[1] + (found[2] + found[3]));
+        for (size_t i = 0; i < L; ++i) count += static_cast<u32>(all[2 * i]);
+    }
+    for (; k < n; ++k) count += x[k] > value;
+    return count;
 }
+void count_greater(const f64* x, f64 value, u32* count, u32 n) { *count = greater(x, value, n); }
 
 } // namespace
 #include "entries/matrix/find_mask.inc"

@@ -3,7 +3,6 @@
 #include "kernel/simd.h"
 #include <cstddef>
 #include <cstdint>
-#include <immintrin.h>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -24,9 +23,8 @@ struct Given {
     template <class Every, class One> void walk(size_t n, [[maybe_unused]] Every every, One one) const
     {
         size_t k = 0;
-#if SIG5D_LEVEL > 0
-        for (size_t m; (m = block_of(n - k)) > 0; k += m) every(bins + k, k, m, Nothing{});
-#endif
+        if constexpr (lanes < u32 >> 1)
+            for (size_t m; (m = block_of(n - k)) > 0; k += m) every(bins + k, k, m, Nothing{});
         for (; k < n; ++k) one(bins[k], k);
     }
 };
@@ -46,7 +44,15 @@ struct EqualWidth {
     template <class Every, class One> void walk(size_t n, [[maybe_unused]] Every every, One one) const
     {
         size_t k = 0;
-#if SIG5D_LEVEL > 0
+        if constexpr (lanes < f64 >> 1) k = walk_blocks(n, every);
+        for (; k < n; ++k) one(limited(truncated(scaled(x[k]))), k);
+    }
+
+private:
+    // As many eights as there are; returns how many elements those are.
+    template <class Every> size_t walk_blocks(size_t n, Every every) const
+    {
+        size_t k = 0;
         // Bin numbers are stored a block before they are read: loads that follow a store closely hold up those of the
         // counters. And little by little: conversions and counting keep different parts of the processor busy.
         alignas(64) i32 numbers[2 * block];
@@ -68,43 +74,26 @@ struct EqualWidth {
             now = later;
             later = read;
         }
-#endif
-        for (; k < n; ++k) one(limited(_mm_cvttsd_si32(_mm_set_sd((x[k] - offset) * scale))), k);
+        return k;
     }
 
-private:
+    template <class V> V scaled(V v) const { return (v - offset) * scale; }
     template <class V> V limited(V b) const
     {
         b = b < least ? least : b;
         return b > greatest ? greatest : b;
     }
-#if SIG5D_LEVEL > 0
-    void eight(const f64* p, i32* d) const
+    template <class T> void eight(const T* p, i32* d) const
     {
-#if SIG5D_LEVEL >= 5
-        storen<8>(d, limited(reinterpret_cast<Vec<i32, 8>>(_mm256_set_m128i(four(p + 4), four(p)))));
-#else
-        for (size_t i = 0; i < 8; i += 4) storen<4>(d + i, limited(reinterpret_cast<Vec<i32, 4>>(four(p + i))));
-#endif
+        constexpr int n = integerBytes >= 32 ? 8 : 4, L = lanes<T> < n ? lanes<T> : n;
+        for (size_t i = 0; i < 8; i += n) {
+            if constexpr (L == n)
+                storen<n>(d + i, limited(truncated(scaled(loadn<n>(p + i)))));
+            else
+                storen<n>(d + i, limited(truncated(scaled(loadn<L>(p + i)), scaled(loadn<L>(p + i + L)))));
+        }
     }
-    __m128i four(const f64* p) const
-    {
-        const auto product = [&](auto v) { return (v - offset) * scale; };
-#if SIG5D_LEVEL >= 4
-        return _mm256_cvttpd_epi32(reinterpret_cast<__m256d>(product(loadn<4>(p))));
-#else
-        const __m128i b0 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(p))));
-        const __m128i b1 = _mm_cvttpd_epi32(reinterpret_cast<__m128d>(product(loadn<2>(p + 2))));
-        return _mm_unpacklo_epi64(b0, b1);
-#endif
-    }
-#endif
 };
-
-#if SIG5D_LEVEL > 0
-
-inline __m128i same(__m128i a, __m128i b) { return _mm_cmpeq_epi32(a, b); }
-template <class Bin> inline __m128i four_of(const Bin* b) { return reinterpret_cast<__m128i>(loadn<4>(b)); }
 
 template <class Bin> inline void count_eight(const Bin* b, u32* counts)
 {
@@ -117,20 +106,20 @@ template <class Bin> inline void count_eight(const Bin* b, u32* counts)
 }
 
 // For each of four bins: how many up to it are the same, itself included.
-inline Vec<u32, 4> ranks(__m128i b)
+template <class V> inline Vec<u32, 4> ranks(V b)
 {
-    const auto equal = [=](__m128i other) { return reinterpret_cast<Vec<u32, 4>>(same(b, other)); };
+    const auto equal = [b](V other) { return as<Vec<u32, 4>>(b == other); };
     // Each lane with those one, two and three before it; where there is none, with itself.
-    const auto all = equal(_mm_shuffle_epi32(b, _MM_SHUFFLE(2, 1, 0, 0))) +
-                     equal(_mm_shuffle_epi32(b, _MM_SHUFFLE(1, 0, 1, 0))) +
-                     equal(_mm_shuffle_epi32(b, _MM_SHUFFLE(0, 2, 1, 0)));
+    const auto all = equal(__builtin_shufflevector(b, b, 0, 0, 1, 2)) +
+                     equal(__builtin_shufflevector(b, b, 0, 1, 0, 1)) +
+                     equal(__builtin_shufflevector(b, b, 0, 1, 2, 0));
     return Vec<u32, 4>{-2u, -1u, 0, 1} - all;
 }
 
 // Four counters are read before any is stored: the last one of a bin has counted all of it.
 template <class Bin> inline void count_four(const Bin* b, u32* counts)
 {
-    const auto added = ranks(four_of(b));
+    const Vec<u32, 4> added = ranks(loadn<4>(b));
     const u32 c0 = counts[b[0]] + 1, c1 = counts[b[1]] + added[1];
     const u32 c2 = counts[b[2]] + added[2], c3 = counts[b[3]] + added[3];
     counts[b[0]] = c0;
@@ -138,10 +127,10 @@ template <class Bin> inline void count_four(const Bin* b, u32* counts)
     counts[b[2]] = c2;
     counts[b[3]] = c3;
 }
-template <class Bin> inline void count_repeated(const Bin* b, u32* counts)
+template <class Bin> inline void count_mostly_equal(const Bin* b, u32* counts)
 {
-    const __m128i first = _mm_shuffle_epi32(four_of(b), 0);
-    if (_mm_movemask_epi8(_mm_and_si128(same(first, four_of(b)), same(first, four_of(b + 4)))) == 0xFFFF) {
+    const auto bins = loadn<4>(b), first = __builtin_shufflevector(bins, bins, 0, 0, 0, 0);
+    if (byte_signs(bits((first == bins) & (first == loadn<4>(b + 4)))) == 0xFFFF) {
         counts[b[0]] += 8;
     } else {
         count_four(b, counts);
@@ -151,30 +140,27 @@ template <class Bin> inline void count_repeated(const Bin* b, u32* counts)
 
 // Whether more than one in six counters returns soon after it was stored, as far as the first 34 bins tell: a load that
 // waits for such a store takes seven times as long.
-template <class Bin> inline bool repetitive(const Bin* b)
+template <class Bin> inline bool often_equal(const Bin* b)
 {
     Vec<i32, 4> sum{};
     for (size_t i = 0; i < 32; i += 4) {
-        const __m128i bins = four_of(b + i);
-        sum -= reinterpret_cast<Vec<i32, 4>>(same(bins, four_of(b + i + 1)));
-        sum -= reinterpret_cast<Vec<i32, 4>>(same(bins, four_of(b + i + 2)));
+        const auto bins = loadn<4>(b + i);
+        sum -= bins == loadn<4>(b + i + 1);
+        sum -= bins == loadn<4>(b + i + 2);
     }
     return sum[0] + sum[1] + (sum[2] + sum[3]) > 64 / 6;
 }
 
-#endif
-
 // Counters are without a sign, so that a full one wraps.
 template <class Bins> inline void count_bins(Bins bins, size_t n, u32* counts)
 {
-    [[maybe_unused]] bool often = false;
+    bool equal = false;
     const auto every = [&](const auto* b, size_t k, size_t m, auto next) {
-#if SIG5D_LEVEL > 0
-        if (k % (4 * block) == 0 && m == block) often = repetitive(b);
-        if (often) {
+        if (k % (4 * block) == 0 && m == block) equal = often_equal(b);
+        if (equal) {
             for (size_t i = 0; i < m; i += 8) {
                 next(i);
-                count_repeated(b + i, counts);
+                count_mostly_equal(b + i, counts);
             }
         } else {
             for (size_t i = 0; i < m; i += 8) {
@@ -182,7 +168,6 @@ template <class Bins> inline void count_bins(Bins bins, size_t n, u32* counts)
                 count_eight(b + i, counts);
             }
         }
-#endif
     };
     bins.walk(n, every, [=](auto bin, size_t) { ++counts[bin]; });
 }

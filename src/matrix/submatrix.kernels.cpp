@@ -14,12 +14,11 @@ template <class T> void copy_block(const T* a, T* d, size_t rows, size_t cols, s
         cols *= rows;
         rows = 1;
     }
-#if SIG5D_LEVEL > 0
-    if (cols <= 2 * vectorBytes / size &&
-        disjoint(a, extent(rows, cols, aStride, size), d, extent(rows, cols, dStride, size)))
-        return copy_short_rows<vectorBytes>(rows, cols * size, reinterpret_cast<const u8*>(a), reinterpret_cast<u8*>(d),
-                                            aStride * size, dStride * size);
-#endif
+    if constexpr (lanes < u8 >> 1)
+        if (cols <= 2 * vectorBytes / size &&
+            disjoint(a, extent(rows, cols, aStride, size), d, extent(rows, cols, dStride, size)))
+            return copy_short_rows<vectorBytes>(rows, cols * size, reinterpret_cast<const u8*>(a),
+                                                reinterpret_cast<u8*>(d), aStride * size, dStride * size);
     const bool pastCaches = streamingPays(u64(rows) * cols * size);
     for (size_t i = 0; i < rows; ++i) {
         copy_run(a, d, cols, pastCaches);

@@ -59,14 +59,15 @@ template <bool conj, class T>
 void transposed(const T* a, T* d, size_t rows, size_t cols, size_t aStride, size_t dStride)
 {
     if (!cols) return;
-#if SIG5D_LEVEL > 0
-    constexpr int size = sizeof(T);
-    constexpr size_t few = 25; // moved one by one in less time than it takes to see that they may be moved otherwise
-    if (rows * cols > few && rows >= smallestBlock<size> && cols >= smallestBlock<size> &&
-        any_order(a, d, rows, cols, aStride, dStride, size))
-        return transpose_apart<size, conj>({reinterpret_cast<const u8*>(a), aStride * size},
-                                           {reinterpret_cast<u8*>(d), dStride * size}, rows, cols);
-#endif
+    if constexpr (lanes < u8 >> 1) {
+        constexpr int size = sizeof(T);
+        constexpr size_t few =
+            25; // moved one by one in less time than it takes to see that they may be moved otherwise
+        if (rows * cols > few && rows >= smallestBlock<size> && cols >= smallestBlock<size> &&
+            any_order(a, d, rows, cols, aStride, dStride, size))
+            return transpose_apart<size, conj>({reinterpret_cast<const u8*>(a), aStride * size},
+                                               {reinterpret_cast<u8*>(d), dStride * size}, rows, cols);
+    }
     transpose_in_order<conj>(a, d, rows, cols, aStride, dStride);
 }
 
@@ -82,11 +83,11 @@ void adjungate(const c64f* src, c64f* dst, unsigned rows, unsigned cols, unsigne
 
 template <bool conj, class T> void transposed_square(T* a, size_t n, size_t stride)
 {
-#if SIG5D_LEVEL > 0
-    constexpr int size = sizeof(T);
-    if (stride >= n && n >= smallestSquare<size>)
-        return transpose_square_apart<size, conj>({reinterpret_cast<u8*>(a), stride * size}, n);
-#endif
+    if constexpr (lanes < u8 >> 1) {
+        constexpr int size = sizeof(T);
+        if (stride >= n && n >= smallestSquare<size>)
+            return transpose_square_apart<size, conj>({reinterpret_cast<u8*>(a), stride * size}, n);
+    }
     transpose_square_in_order<conj>(a, n, stride);
 }
 

@@ -1,97 +1,59 @@
 // Transposing in registers. A block is as many rows as elements fit a register, and 16 bytes of each: its columns
 // become whole registers. Pointers are to bytes and steps between rows are in bytes; "size" is that of an element.
 #pragma once
-#include "kernel/stream.h"
+#include "kernel/partial.h"
 #include <stddef.h>
 #include <stdint.h>
+#include <type_traits>
+#include <utility>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL > 0
+// 32-byte registers need shuffles of the element: AVX has them for 4 bytes and more, AVX2 for all. Longer ones would
+// serve only where memory is slower than they are, and squares of them would not fit the registers.
+template <int size> constexpr int widest = integerBytes >= 32 || (vectorBytes >= 32 && size >= 4) ? 32 : 16;
 
-// 32-byte registers need shuffles of the element: AVX has them for 4 bytes and more, AVX2 for all.
-template <int size> constexpr int widest = SIG5D_LEVEL >= 5 || (SIG5D_LEVEL == 4 && size >= 4) ? 32 : 16;
+template <int width> using Reg = Vec<u8, width>;
 
-template <int width> struct Register {
-    using type = __m128i;
-};
-#if SIG5D_LEVEL >= 4
-template <> struct Register<32> {
-    using type = __m256i;
-};
-#endif
-template <int width> using Reg = typename Register<width>::type;
-
-inline __m128i load_part(const u8* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
-inline void put(u8* p, __m128i v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
-
-// Elements of the lower (upper) halves of a and b in turn.
-template <int size> inline __m128i low(__m128i a, __m128i b)
+// Elements of the lower (half 0) or upper (half 1) eight bytes of each 16 of a and b in turn.
+template <int half, class V, size_t... i> inline V interleaved_lanes(V a, V b, std::index_sequence<i...>)
 {
-    if constexpr (size == 1) return _mm_unpacklo_epi8(a, b);
-    if constexpr (size == 2) return _mm_unpacklo_epi16(a, b);
-    if constexpr (size == 4) return _mm_unpacklo_epi32(a, b);
-    if constexpr (size == 8) return _mm_unpacklo_epi64(a, b);
+    constexpr size_t L = sizeof...(i), inPiece = 16 / (sizeof(V) / L);
+    return __builtin_shufflevector(a, b, (i / inPiece * inPiece + half * inPiece / 2 + i % inPiece / 2 + i % 2 * L)...);
 }
-template <int size> inline __m128i high(__m128i a, __m128i b)
+// Elements as lanes. AVX has shuffles of numbers only for its longer registers; where there are those of integers,
+// newer processors execute them at two places.
+template <class Numbers, class Integers, class R>
+using Fitting = std::conditional_t<(sizeof(R) > integerBytes), Numbers, Integers>;
+template <int size, class R>
+using Element = std::conditional_t<
+    size == 1, u8,
+    std::conditional_t<size == 2, u16, std::conditional_t<size == 4, Fitting<f32, u32, R>, Fitting<f64, u64, R>>>>;
+template <int size, int half, class R> inline R interleaved(R a, R b)
 {
-    if constexpr (size == 1) return _mm_unpackhi_epi8(a, b);
-    if constexpr (size == 2) return _mm_unpackhi_epi16(a, b);
-    if constexpr (size == 4) return _mm_unpackhi_epi32(a, b);
-    if constexpr (size == 8) return _mm_unpackhi_epi64(a, b);
+    constexpr int n = sizeof(R) / size;
+    using V = Vec<Element<size, R>, n>;
+    return as<R>(interleaved_lanes<half>(as<V>(a), as<V>(b), std::make_index_sequence<n>{}));
 }
-
-#if SIG5D_LEVEL >= 4
-inline void put(u8* p, __m256i v) { _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), v); }
-
-#if SIG5D_LEVEL >= 5 // integer forms: two shuffle ports, where the floating-point ones have one
-template <int size> inline __m256i low(__m256i a, __m256i b)
-{
-    if constexpr (size == 1) return _mm256_unpacklo_epi8(a, b);
-    if constexpr (size == 2) return _mm256_unpacklo_epi16(a, b);
-    if constexpr (size == 4) return _mm256_unpacklo_epi32(a, b);
-    if constexpr (size == 8) return _mm256_unpacklo_epi64(a, b);
-}
-template <int size> inline __m256i high(__m256i a, __m256i b)
-{
-    if constexpr (size == 1) return _mm256_unpackhi_epi8(a, b);
-    if constexpr (size == 2) return _mm256_unpackhi_epi16(a, b);
-    if constexpr (size == 4) return _mm256_unpackhi_epi32(a, b);
-    if constexpr (size == 8) return _mm256_unpackhi_epi64(a, b);
-}
-#else
-inline __m256 singles(__m256i a) { return _mm256_castsi256_ps(a); }
-inline __m256d doubles(__m256i a) { return _mm256_castsi256_pd(a); }
-template <int size> inline __m256i low(__m256i a, __m256i b)
-{
-    if constexpr (size == 4) return _mm256_castps_si256(_mm256_unpacklo_ps(singles(a), singles(b)));
-    if constexpr (size == 8) return _mm256_castpd_si256(_mm256_unpacklo_pd(doubles(a), doubles(b)));
-}
-template <int size> inline __m256i high(__m256i a, __m256i b)
-{
-    if constexpr (size == 4) return _mm256_castps_si256(_mm256_unpackhi_ps(singles(a), singles(b)));
-    if constexpr (size == 8) return _mm256_castpd_si256(_mm256_unpackhi_pd(doubles(a), doubles(b)));
-}
-#endif
-#endif
 
 // 16 bytes of a row; a wide register gets those of a second row into its upper half, without a shuffle.
 template <int width> inline Reg<width> load_rows(const u8* p, [[maybe_unused]] size_t toSecond)
 {
-    if constexpr (width == 32)
-        return _mm256_insertf128_si256(_mm256_castsi128_si256(load_part(p)), load_part(p + toSecond), 1);
-    else
-        return load_part(p);
+    if constexpr (width == 32) {
+        using Half = Vec<f64, width / 16>;
+        return as<Reg<width>>(joined(as<Half>(loadn<width / 2>(p)), as<Half>(loadn<width / 2>(p + toSecond))));
+    } else {
+        return loadn<width>(p);
+    }
 }
 
 // Inverts the sign of the imaginary parts of 16-byte elements.
 template <int width> inline Reg<width> conjugate(Reg<width> x)
 {
-    using Words = Vec<u64, width / 8>;
-    Words sign{};
-    for (int k = 1; k < width / 8; k += 2) sign[k] = u64(1) << 63;
-    return reinterpret_cast<Reg<width>>(reinterpret_cast<Words>(x) ^ sign);
+    Vec<u64, width / 8> sign{};
+    for (int k = 1; k < width / 8; k += 2) sign[k] = signBit;
+    return x ^ as<Reg<width>>(sign);
 }
 
 // Interleaving the first half of the registers with the second, again and again, transposes squares of as many
@@ -103,8 +65,8 @@ template <int size, int width, int n> inline void interleave(Reg<width> (&r)[n])
         Reg<width> t[n];
 #pragma GCC unroll 8
         for (int k = 0; k < n / 2; ++k) {
-            t[2 * k] = low<size>(r[k], r[k + n / 2]);
-            t[2 * k + 1] = high<size>(r[k], r[k + n / 2]);
+            t[2 * k] = interleaved<size, 0>(r[k], r[k + n / 2]);
+            t[2 * k + 1] = interleaved<size, 1>(r[k], r[k + n / 2]);
         }
 #pragma GCC unroll 16
         for (int k = 0; k < n; ++k) r[k] = t[k];
@@ -127,7 +89,7 @@ inline void load_columns(Reg<width> (&r)[portion<size>], const u8* a, size_t aSt
         for (int k = 0; k < n / 2; ++k) {
             const auto x = load_rows<width>(a + k * aStep, n * aStep);
             const auto y = load_rows<width>(a + (k + n / 2) * aStep, n * aStep);
-            r[k] = secondHalf ? high<size>(x, y) : low<size>(x, y);
+            r[k] = secondHalf ? interleaved<size, 1>(x, y) : interleaved<size, 0>(x, y);
         }
     }
     if constexpr (n > 1)
@@ -135,8 +97,6 @@ inline void load_columns(Reg<width> (&r)[portion<size>], const u8* a, size_t aSt
     else if constexpr (conj)
         r[0] = conjugate<width>(r[0]);
 }
-
-#endif
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -5,8 +5,6 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL > 0
-
 constexpr struct {
     u8 clear[32], set[32];
 } maskBytes = {{}, {255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255,
@@ -15,9 +13,7 @@ constexpr struct {
 // All bits set but those of the first "bytes" bytes, which may be negative or more than a register has.
 template <int width> inline Reg<width> mask_from(int bytes)
 {
-    Reg<width> mask;
-    __builtin_memcpy(&mask, maskBytes.set - (bytes < 0 ? 0 : bytes > width ? width : bytes), width);
-    return mask;
+    return loadn<width>(maskBytes.set - (bytes < 0 ? 0 : bytes > width ? width : bytes));
 }
 
 // Exchanges the squares of "side" elements at p and q, both transposed; p may be q. Where the matrix ends with less
@@ -46,7 +42,7 @@ inline void exchange_squares(u8* p, u8* q, size_t step, int skip)
                 load_columns<size, width, conj>(r, q + j * step + i / C * 16, step, i % C != 0);
 #pragma GCC unroll 16
                 for (int k = 0; k < P; ++k)
-                    if (!partly || i + k >= skip) put(p + (i + k) * step + j * size, r[k]);
+                    if (!partly || i + k >= skip) store_at(p + (i + k) * step + j * size, r[k]);
             }
     }
 #pragma GCC unroll 4
@@ -56,11 +52,10 @@ inline void exchange_squares(u8* p, u8* q, size_t step, int skip)
         for (int i = 0; i < side; ++i) {
             u8* const to = q + i * step + j * size;
             if constexpr (!partly) {
-                put(to, x[i][j / R]);
+                store_at(to, x[i][j / R]);
             } else if (p != q || i >= skip) {
-                Reg<width> old;
-                __builtin_memcpy(&old, to, width);
-                put(to, (x[i][j / R] & mask) | (old & ~mask));
+                const Reg<width> old = loadn<width>(to);
+                store_at(to, (x[i][j / R] & mask) | (old & ~mask));
             }
         }
     }
@@ -139,8 +134,6 @@ template <int size, bool conj> void transpose_square_apart(Out<size> a, size_t n
     if (n < widest<size> / size) return exchange_all<size, 16, conj>(a, n);
     exchange_all<size, widest<size>, conj>(a, n);
 }
-
-#endif
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

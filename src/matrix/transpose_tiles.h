@@ -1,17 +1,17 @@
 // Transposes of whole matrices from register blocks: in which order the blocks are taken, and what is left at the
 // edges.
 #pragma once
+#include "kernel/stream.h"
 #include "matrix/transpose_block.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-#if SIG5D_LEVEL > 0
-
 constexpr size_t lineBytes = 64;
 
-inline void fetch(const u8* p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0); }
-inline void fetch_for_later(const u8* p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T1); }
+// A line into the first cache level, and into the second.
+inline void fetch(const u8* p) { __builtin_prefetch(p, 0, 3); }
+inline void fetch_for_later(const u8* p) { __builtin_prefetch(p, 0, 2); }
 
 // A matrix of elements of "size" bytes. Rows are "step" bytes apart.
 template <int size, class Byte> struct View {
@@ -54,7 +54,7 @@ inline void transpose_walk(In<size> a, Out<size> d, size_t steps, size_t aMove, 
 #pragma GCC unroll 16
                 for (int k = 0; k < P; ++k)
 #pragma GCC unroll 4
-                    for (int b = 0; b < together; ++b) put(d.at(g + k, (block + b) * R), x[b][k]);
+                    for (int b = 0; b < together; ++b) store_at(d.at(g + k, (block + b) * R), x[b][k]);
             }
         a.p += aMove;
         d.p += dMove;
@@ -160,9 +160,8 @@ template <int size, int width, class Tile> inline void copy_tile(In<size> a, u8*
         for (int k = 0; k < Tile::cols * size; k += lineBytes) fetch_for_later(a.at(i, 0) + ahead + k);
 #pragma GCC unroll 16
         for (int k = 0; k < Tile::cols * size; k += width) {
-            Reg<width> x;
-            __builtin_memcpy(&x, a.at(i, 0) + k, width);
-            put(piece[k / Tile::step] + i * Tile::step + k % Tile::step, x);
+            const Reg<width> x = loadn<width>(a.at(i, 0) + k);
+            store_at(piece[k / Tile::step] + i * Tile::step + k % Tile::step, x);
         }
     }
 }
@@ -187,7 +186,7 @@ inline void transpose_copy(u8* const* piece, Out<size> d)
                     if constexpr (pastCaches)
                         stream(d.at(g + k, i + b * R), x[b][k]);
                     else
-                        put(d.at(g + k, i + b * R), x[b][k]);
+                        store_at(d.at(g + k, i + b * R), x[b][k]);
                 }
         }
     }
@@ -242,8 +241,6 @@ template <int size, bool conj> [[gnu::noinline]] void transpose_apart(In<size> a
         return transpose_past_caches<size, wide, conj, columns>(a, d, rows, cols);
     transpose_by_tiles<size, wide, conj, columns>(a, d, rows, cols);
 }
-
-#endif
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -278,6 +278,52 @@ inline Vec<u8, 16> packed(Vec<i16, 8> low, Vec<i16, 8> high)
 // A bit for each byte whose highest bit is set.
 inline u32 byte_signs(__m128i x) { return static_cast<u32>(_mm_movemask_epi8(x)); }
 
+// A bit for each lane whose mask is set, here of 8 or 16 bits.
+template <class Mask>
+requires(sizeof(Mask) == 16 && sizeof(Lane<Mask>) < 4) inline u32 lanes_set(Mask mask)
+{
+    return byte_signs(sizeof(Lane<Mask>) == 1 ? bits(mask) : _mm_packs_epi16(bits(mask), __m128i{}));
+}
+// Masks of lanes half as long: those of the first vector, then those of the second.
+template <class Mask>
+requires(sizeof(Mask) == 16) inline auto narrowed_masks(Mask low, Mask high)
+{
+    if constexpr (sizeof(Lane<Mask>) == 8)
+        return as<Vec<i32, 4>>(_mm_shuffle_ps(as<__m128>(low), as<__m128>(high), 0x88));
+    else if constexpr (sizeof(Lane<Mask>) == 4)
+        return narrowed<i16>(as<Vec<i32, 4>>(low), as<Vec<i32, 4>>(high));
+    else
+        return narrowed<i8>(as<Vec<i16, 8>>(low), as<Vec<i16, 8>>(high));
+}
+
+// The k-th group of as many bits of a word as there are lanes: 1 in a lane whose bit is set, else 0.
+template <class V, int k>
+requires(sizeof(V) == 16 && sizeof(Lane<V>) == 1) inline V bits_to_lanes(u32 word)
+{
+    const __m128i single = _mm_cvtsi32_si128(static_cast<int>(word)), twice = _mm_unpacklo_epi8(single, single);
+    const __m128i fourTimes = _mm_unpacklo_epi16(twice, twice),
+                  bit = _mm_set1_epi64x(static_cast<i64>(0x8040201008040201));
+    return as<V>(
+        _mm_min_epu8(_mm_and_si128(_mm_shuffle_epi32(fourTimes, k == 0 ? 0x50 : 0xFA), bit), _mm_set1_epi8(1)));
+}
+template <class V, int k>
+requires(sizeof(V) == 16 && sizeof(Lane<V>) == 2) inline V bits_to_lanes(u32 word)
+{
+    const __m128i single = _mm_cvtsi32_si128(static_cast<int>(word)), twice = _mm_unpacklo_epi16(single, single);
+    const auto all = as<Vec<u16, 8>>(_mm_shuffle_epi32(twice, k < 2 ? 0x00 : 0x55));
+    // The bit of each lane to the sign, then to the lowest place.
+    if constexpr (k % 2 == 0)
+        return as<V>(all * Vec<u16, 8>{0x8000, 0x4000, 0x2000, 0x1000, 0x800, 0x400, 0x200, 0x100} >> 15);
+    else
+        return as<V>(all * Vec<u16, 8>{0x80, 0x40, 0x20, 0x10, 8, 4, 2, 1} >> 15);
+}
+template <class V, int k>
+requires(sizeof(V) == 16 && sizeof(Lane<V>) == 4) inline V bits_to_lanes(u32 word)
+{
+    constexpr Vec<u32, 4> bit = Vec<u32, 4>{1, 2, 4, 8} << 4 * k;
+    return as<V>(as<Vec<u32, 4>>((all_lanes<Vec<u32, 4>>(word) & bit) == bit) >> 31);
+}
+
 #if SIG5D_LEVEL >= 2
 // The bytes at these places, zeros at negative ones.
 inline __m128i bytes_at(__m128i x, __m128i places) { return _mm_shuffle_epi8(x, places); }

@@ -142,9 +142,65 @@ inline Vec<u8, 32> packed(Vec<i16, 16> low, Vec<i16, 16> high)
 {
     return as<Vec<u8, 32>>(_mm256_packus_epi16(bits(low), bits(high)));
 }
-inline u32 byte_signs(__m256i x) { return static_cast<u32>(_mm256_movemask_epi8(x)); }
 // Within each 16 bytes.
 inline __m256i bytes_at(__m256i x, __m256i places) { return _mm256_shuffle_epi8(x, places); }
+inline u32 byte_signs(__m256i x) { return static_cast<u32>(_mm256_movemask_epi8(x)); }
+template <class Mask>
+requires(sizeof(Mask) == 32) inline auto narrowed_masks(Mask low, Mask high)
+{
+    if constexpr (sizeof(Lane<Mask>) == 8)
+        return as<Vec<i32, 8>>(
+            eights_in_order(_mm256_castps_si256(_mm256_shuffle_ps(as<__m256>(low), as<__m256>(high), 0x88))));
+    else if constexpr (sizeof(Lane<Mask>) == 4)
+        return narrowed<i16>(as<Vec<i32, 8>>(low), as<Vec<i32, 8>>(high));
+    else
+        return narrowed<i8>(as<Vec<i16, 16>>(low), as<Vec<i16, 16>>(high));
+}
+template <class Mask>
+requires(sizeof(Mask) == 32 && sizeof(Lane<Mask>) < 4) inline u32 lanes_set(Mask mask)
+{
+    if constexpr (sizeof(Lane<Mask>) == 1)
+        return byte_signs(bits(mask));
+    else
+        return byte_signs(_mm_packs_epi16(_mm256_castsi256_si128(bits(mask)), _mm256_extracti128_si256(bits(mask), 1)));
+}
+
+// Masks of eight times four lanes of 64 bits as bytes. Halves of lanes are taken within pieces of 16 bytes, so that
+// each eight bytes have their elements in the order 0 1 4 5 2 3 6 7 before the last step.
+template <class Mask>
+inline Vec<i8, 32> bytes_of_long_masks(Mask a, Mask b, Mask c, Mask d, Mask e, Mask f, Mask g, Mask h)
+{
+    const auto halves = [](Mask low, Mask high) {
+        return as<Vec<i32, 8>>(_mm256_shuffle_ps(as<__m256>(low), as<__m256>(high), 0x88));
+    };
+    const Vec<i8, 32> mixed = narrowed<i8>(halves(a, b), halves(c, d), halves(e, f), halves(g, h));
+    const __m128i order = _mm_setr_epi8(0, 1, 4, 5, 2, 3, 6, 7, 8, 9, 12, 13, 10, 11, 14, 15);
+    return as<Vec<i8, 32>>(bytes_at(bits(mixed), _mm256_broadcastsi128_si256(order)));
+}
+
+template <class V, int k>
+requires(sizeof(V) == 32 && k == 0 && sizeof(Lane<V>) == 1) inline V bits_to_lanes(u32 word)
+{
+    const __m256i byte = _mm256_setr_epi64x(0, 0x0101010101010101, 0x0202020202020202, 0x0303030303030303);
+    const __m256i bit = _mm256_set1_epi64x(static_cast<i64>(0x8040201008040201));
+    const __m256i all = bytes_at(bits(all_lanes<Vec<u32, 8>>(word)), byte);
+    return as<V>(_mm256_min_epu8(_mm256_and_si256(all, bit), _mm256_set1_epi8(1)));
+}
+template <class V, int k>
+requires(sizeof(V) == 32 && sizeof(Lane<V>) == 2) inline V bits_to_lanes(u32 word)
+{
+    const __m128i bit = _mm_setr_epi16(1, 2, 4, 8, 16, 32, 64, 128);
+    const __m256i byte = _mm256_setr_m128i(_mm_set1_epi16(static_cast<i16>(0x8000 + 2 * k)),
+                                           _mm_set1_epi16(static_cast<i16>(0x8001 + 2 * k)));
+    const __m256i all = bytes_at(bits(all_lanes<Vec<u32, 8>>(word)), byte);
+    return as<V>(_mm256_min_epi16(_mm256_and_si256(all, _mm256_setr_m128i(bit, bit)), _mm256_set1_epi16(1)));
+}
+template <class V, int k>
+requires(sizeof(V) == 32 && sizeof(Lane<V>) == 4) inline V bits_to_lanes(u32 word)
+{
+    constexpr Vec<u32, 8> lane = {0, 1, 2, 3, 4, 5, 6, 7};
+    return as<V>(all_lanes<Vec<u32, 8>>(word) >> (lane + 8 * k) & 1);
+}
 template <int n>
 requires(n == 4) inline Vec<i64, 4> widened_to_64(Vec<i16, 8> x)
 {

@@ -145,6 +145,39 @@ inline Vec<u8, 64> packed(Vec<i16, 32> low, Vec<i16, 32> high)
     return as<Vec<u8, 64>>(_mm512_packus_epi16(bits(low), bits(high)));
 }
 inline u64 byte_signs(__m512i x) { return _mm512_movepi8_mask(x); }
+template <class Mask>
+requires(sizeof(Mask) == 64 && sizeof(Lane<Mask>) == 1) inline u64 lanes_set(Mask mask)
+{
+    return byte_signs(bits(mask));
+}
+template <class Mask>
+requires(sizeof(Mask) == 64 && sizeof(Lane<Mask>) == 2) inline u32 lanes_set(Mask mask)
+{
+    return _mm512_movepi16_mask(bits(mask));
+}
+template <class Mask>
+requires(sizeof(Mask) == 64) inline auto narrowed_masks(Mask low, Mask high)
+{
+    if constexpr (sizeof(Lane<Mask>) == 8) {
+        const auto x = as<Vec<i32, 16>>(low), y = as<Vec<i32, 16>>(high);
+        return __builtin_shufflevector(x, y, 0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30);
+    } else if constexpr (sizeof(Lane<Mask>) == 4) {
+        return narrowed<i16>(as<Vec<i32, 16>>(low), as<Vec<i32, 16>>(high));
+    } else {
+        return narrowed<i8>(as<Vec<i16, 32>>(low), as<Vec<i16, 32>>(high));
+    }
+}
+
+template <class V, int k>
+requires(sizeof(V) == 64 && k == 0 && sizeof(Lane<V>) == 2) inline V bits_to_lanes(u32 word)
+{
+    return as<V>(_mm512_maskz_set1_epi16(word, 1));
+}
+template <class V, int k>
+requires(sizeof(V) == 64 && sizeof(Lane<V>) == 4) inline V bits_to_lanes(u32 word)
+{
+    return as<V>(_mm512_maskz_set1_epi32(static_cast<__mmask16>(word >> 16 * k), 1));
+}
 inline __m512i bytes_at(__m512i x, __m512i places) { return _mm512_shuffle_epi8(x, places); }
 template <int n>
 requires(n == 8) inline Vec<i64, 8> widened_to_64(Vec<i16, 8> x)

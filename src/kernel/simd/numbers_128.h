@@ -14,9 +14,12 @@ inline Vec<f32, 4> smaller(Vec<f32, 4> x, Vec<f32, 4> y) { return _mm_min_ps(x, 
 inline Vec<f64, 2> larger(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_max_pd(x, y); }
 inline Vec<f64, 2> smaller(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_min_pd(x, y); }
 
-// A bit for each lane of 64 bits whose mask is set.
+// A bit for each lane whose mask is set, here of 64 or 32 bits.
 template <class Mask>
-requires(sizeof(Mask) == 16) inline int lanes_set(Mask mask) { return _mm_movemask_pd(as<__m128d>(mask)); }
+requires(sizeof(Mask) == 16 && sizeof(Lane<Mask>) >= 4) inline int lanes_set(Mask mask)
+{
+    return sizeof(Lane<Mask>) == 8 ? _mm_movemask_pd(as<__m128d>(mask)) : _mm_movemask_ps(as<__m128>(mask));
+}
 
 // 32-bit lanes as numbers: all in single precision, the low n as doubles.
 inline Vec<f32, 4> singles(Vec<i32, 4> x) { return _mm_cvtepi32_ps(bits(x)); }
@@ -82,12 +85,17 @@ inline Vec<f64, 2> nearest_whole(Vec<f64, 2> x)
 inline Vec<f64, 2> without_fraction(Vec<f64, 2> x) { return _mm_round_pd(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC); }
 #endif
 
-// The lower and the upper half of 32-bit integers as doubles, and doubles as the nearest ones.
+// The lower and the upper half of 32-bit integers as doubles, and doubles as the nearest ones or
+// without the fraction.
 inline Vec<f64, 2> lower_doubles(Vec<i32, 4> x) { return _mm_cvtepi32_pd(bits(x)); }
 inline Vec<f64, 2> upper_doubles(Vec<i32, 4> x) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64(bits(x), bits(x))); }
 inline Vec<i32, 4> nearest(Vec<f64, 2> low, Vec<f64, 2> high)
 {
     return as<Vec<i32, 4>>(_mm_unpacklo_epi64(_mm_cvtpd_epi32(low), _mm_cvtpd_epi32(high)));
+}
+inline Vec<i32, 4> truncated(Vec<f64, 2> low, Vec<f64, 2> high)
+{
+    return as<Vec<i32, 4>>(_mm_unpacklo_epi64(_mm_cvttpd_epi32(low), _mm_cvttpd_epi32(high)));
 }
 
 // The number at an address in all n lanes, by one load where there is one: left to itself the compiler loads neighbours

@@ -12,7 +12,10 @@ inline Vec<f64, 4> larger(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_max_pd(x
 inline Vec<f64, 4> smaller(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_min_pd(x, y); }
 
 template <class Mask>
-requires(sizeof(Mask) == 32) inline int lanes_set(Mask mask) { return _mm256_movemask_pd(as<__m256d>(mask)); }
+requires(sizeof(Mask) == 32 && sizeof(Lane<Mask>) >= 4) inline int lanes_set(Mask mask)
+{
+    return sizeof(Lane<Mask>) == 8 ? _mm256_movemask_pd(as<__m256d>(mask)) : _mm256_movemask_ps(as<__m256>(mask));
+}
 
 inline Vec<f32, 8> singles(Vec<i32, 8> x) { return _mm256_cvtepi32_ps(bits(x)); }
 template <int n>
@@ -60,6 +63,10 @@ inline Vec<f64, 4> upper_doubles(Vec<i32, 8> x) { return _mm256_cvtepi32_pd(_mm2
 inline Vec<i32, 8> nearest(Vec<f64, 4> low, Vec<f64, 4> high)
 {
     return as<Vec<i32, 8>>(_mm256_set_m128i(_mm256_cvtpd_epi32(high), _mm256_cvtpd_epi32(low)));
+}
+inline Vec<i32, 8> truncated(Vec<f64, 4> low, Vec<f64, 4> high)
+{
+    return as<Vec<i32, 8>>(_mm256_set_m128i(_mm256_cvttpd_epi32(high), _mm256_cvttpd_epi32(low)));
 }
 
 inline Vec<f64, 2> lower_half(Vec<f64, 4> v) { return _mm256_castpd256_pd128(v); }

@@ -12,7 +12,10 @@ inline Vec<f64, 8> larger(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_max_pd(x
 inline Vec<f64, 8> smaller(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_min_pd(x, y); }
 
 template <class Mask>
-requires(sizeof(Mask) == 64) inline int lanes_set(Mask mask) { return _mm512_movepi64_mask(as<__m512i>(mask)); }
+requires(sizeof(Mask) == 64 && sizeof(Lane<Mask>) >= 4) inline int lanes_set(Mask mask)
+{
+    return sizeof(Lane<Mask>) == 8 ? _mm512_movepi64_mask(bits(mask)) : _mm512_movepi32_mask(bits(mask));
+}
 
 inline Vec<f32, 16> singles(Vec<i32, 16> x) { return _mm512_cvtepi32_ps(bits(x)); }
 template <int n>
@@ -63,6 +66,11 @@ inline Vec<i32, 16> nearest(Vec<f64, 8> low, Vec<f64, 8> high)
 {
     const __m512i lower = _mm512_castsi256_si512(_mm512_cvtpd_epi32(low));
     return as<Vec<i32, 16>>(_mm512_inserti64x4(lower, _mm512_cvtpd_epi32(high), 1));
+}
+inline Vec<i32, 16> truncated(Vec<f64, 8> low, Vec<f64, 8> high)
+{
+    const __m512i lower = _mm512_castsi256_si512(_mm512_cvttpd_epi32(low));
+    return as<Vec<i32, 16>>(_mm512_inserti64x4(lower, _mm512_cvttpd_epi32(high), 1));
 }
 
 inline Vec<f64, 4> lower_half(Vec<f64, 8> v) { return _mm512_castpd512_pd256(v); }

@@ -14,7 +14,8 @@ inline int lanes_set(bool condition) { return condition; }
 inline bool any(bool condition) { return condition; }
 
 // Truncated to a signed 32-bit integer, -2^31 where it does not fit, as the processor's conversion does.
-inline f64 truncated_to_32(f64 x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
+inline i32 truncated(f64 x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
+inline f64 truncated_to_32(f64 x) { return truncated(x); }
 
 // The number at an address, in one lane.
 template <int n>
