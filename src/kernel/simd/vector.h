@@ -32,8 +32,7 @@ template <class V> struct LaneType {
     using type = std::remove_cvref_t<decltype(V{}[0])>;
 };
 template <class V>
-requires std::is_arithmetic_v<V>
-struct LaneType<V> {
+requires(std::is_integral_v<V> || std::is_floating_point_v<V>) struct LaneType<V> {
     using type = V;
 };
 template <class V> using Lane = typename LaneType<V>::type;
