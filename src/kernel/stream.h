@@ -10,12 +10,16 @@ namespace {
 // p: aligned to the size of the vector.
 template <class V> inline void stream(void* p, V v)
 {
-#if SIG5D_LEVEL >= 4
-    if constexpr (sizeof(V) == 32)
-        _mm256_stream_si256(static_cast<__m256i*>(p), reinterpret_cast<__m256i>(v));
-    else
-#endif
+    if constexpr (sizeof(V) == 16)
         _mm_stream_si128(static_cast<__m128i*>(p), reinterpret_cast<__m128i>(v));
+#if SIG5D_LEVEL >= 4
+    else if constexpr (sizeof(V) == 32)
+        _mm256_stream_si256(static_cast<__m256i*>(p), reinterpret_cast<__m256i>(v));
+#endif
+#if SIG5D_LEVEL >= 6
+    else
+        _mm512_stream_si512(static_cast<__m512i*>(p), reinterpret_cast<__m512i>(v));
+#endif
 }
 inline void stream_end() { _mm_sfence(); }
 
