@@ -148,10 +148,10 @@ template <class S, int columns, class T> inline void few(const T* x, const T* r,
 // avoided in real signals, since all their loads would cross cache lines in the same steps.
 constexpr bool manyRegisters = sizeof(void*) == 8;
 template <class T> constexpr int groups = 0;
-template <> constexpr int groups<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 2) : 1;
+template <> constexpr int groups<f64> = manyRegisters ? (vectorBytes == 64 ? 4 : vectorBytes == 32 ? 3 : 2) : 1;
 template <> constexpr int groups<c64f> = manyRegisters ? 2 : 1;
 template <class T> constexpr int columns = 0;
-template <> constexpr int columns<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 5) : 6;
+template <> constexpr int columns<f64> = manyRegisters ? (vectorBytes == 64 ? 4 : vectorBytes == 32 ? 3 : 5) : 6;
 template <> constexpr int columns<c64f> = 5;
 
 template <class T>
