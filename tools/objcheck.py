@@ -45,9 +45,9 @@ AVX512_ONLY = (
 )
 # Longer or further registers, masks, an element of memory in every lane, a rounding mode of the instruction's own.
 AVX512_OPERANDS = re.compile(r"%zmm|%[xy]mm(1[6-9]|2\d|3[01])\b|%k[0-7]|\{1to\d+\}|\{(r[nduz]-)?sae\}")
-# Approximations differ from processor to processor. What only some processors with AVX-512 have is in no body.
+# New approximations, which nothing has been proved of. What only some processors with AVX-512 have is in no body.
 NEVER = (
-    r"v?r(cp|sqrt)(14|28)?[ps][sd] vexp2p[sd] vpmadd52\w+ vpdp\w+ vpopcnt[bwdq] vpshufbitqmb vpsh[lr]dv?[wdq] vpermb "
+    r"vr(cp|sqrt)(14|28)[ps][sd] vexp2p[sd] vpmadd52\w+ vpdp\w+ vpopcnt[bwdq] vpshufbitqmb vpsh[lr]dv?[wdq] vpermb "
     r"vp(compress|expand)[bw] vperm[it]2b vpmultishiftqb vcvtne\w+ vdpbf16ps v?gf2p8\w+ vp2intersect[dq] v4f\w+ "
     r"v\w+[ps]h "
     "vfn?m(add|sub|addsub|subadd)\\w+ andn bextr bls(i|r|msk) [lt]zcnt\\w? (sar|shl|shr)x mulx pdep pext rorx bzhi "
