@@ -8,8 +8,8 @@
 - On 32-bit x86: no aligned vector access to the stack in a function that does not align its frame, because hosts keep
   the stack aligned to 4 bytes only.
 - Every dispatched entry is one load of the index and one indirect jump.
-- No stores past the caches in a function without a store fence, and no return from one that uses vectors of 32 bytes
-  before it has left them, since code of 16 bytes would be slow after it.
+- No stores past the caches in a function without a store fence, and no return from one that uses longer vectors than 16
+  bytes before it has left them, since code of 16 bytes would be slow after it.
 """
 import argparse
 import re
@@ -33,7 +33,23 @@ AVX2_ONLY = (
     "vbroadcasti128 vextracti128 vinserti128 vpblendd vpbroadcast[bwdq] vperm(2i128|d|ps|q|pd) vp?gather\\w+ "
     "vps[rl]l?[al]?v[dq] vpmaskmov[dq] vcvtph2ps vcvtps2ph"
 )
+# Of the body beyond the variants, for registers that others have as well; what else is its own tell the operands.
+AVX512_ONLY = (
+    r"k(add|andn?|mov|not|or|ortest|shift[lr]|test|unpck|xn?or)[bwdq]+ \{evex\} valign[dq] vblendmp[ds] "
+    r"vbroadcast[fi](32|64)x\d v(compress|expand)p[ds] vcvtt?[ps][sd]2(u?qq|udq|usi[lq]?) vcvtu?qq2p[sd]\w? "
+    r"vcvtu(dq2p|si2s)[sd]\w? vdbpsadbw v(extract|insert|shuf)[fi](32|64)x\d vfixupimm[ps][ds] vfpclass[ps][ds]\w? "
+    r"vget(exp|mant)[ps][ds] vmovdq[au](8|16|32|64) vp(andn?|or|xor)[dq] vpabsq vpblendm[bwdq] vpbroadcastm\w+ "
+    r"vpcmpu?[bwdq]? vpcmp(equ|(neq|n?l[te])u?)[bwdq] vpconflict[dq] vp(compress|expand)[dq] vperm[it]2\w+ vpermw "
+    r"vplzcnt[dq] vp(max|min)[su]q vpmovu?s?(q[bwd]|d[bw]|wb) vpmov(m2[bwdq]|[bwdq]2m) vpmullq vpro[lr]v?[dq] "
+    r"vp?scatter\w+ vpsrav?q vps[lr][la]vw vpternlog[dq] vptestn?m[bwdq] v(range|reduce|rndscale|scalef)[ps][ds]"
+)
+# Longer or further registers, masks, an element of memory in every lane, a rounding mode of the instruction's own.
+AVX512_OPERANDS = re.compile(r"%zmm|%[xy]mm(1[6-9]|2\d|3[01])\b|%k[0-7]|\{1to\d+\}|\{(r[nduz]-)?sae\}")
+# New approximations, which nothing has been proved of. What only some processors with AVX-512 have is in no body.
 NEVER = (
+    r"vr(cp|sqrt)(14|28)[ps][sd] vexp2p[sd] vpmadd52\w+ vpdp\w+ vpopcnt[bwdq] vpshufbitqmb vpsh[lr]dv?[wdq] vpermb "
+    r"vp(compress|expand)[bw] vperm[it]2b vpmultishiftqb vcvtne\w+ vdpbf16ps v?gf2p8\w+ vp2intersect[dq] v4f\w+ "
+    r"v\w+[ps]h "
     "vfn?m(add|sub|addsub|subadd)\\w+ andn bextr bls(i|r|msk) [lt]zcnt\\w? (sar|shl|shr)x mulx pdep pext rorx bzhi "
     "movbe\\w? adcx adox v?aes\\w+ v?pclmul\\w+ sha\\w+msg\\w sha\\w+rnds\\w"
 )
@@ -45,13 +61,15 @@ def pattern(words):
 
 
 LEGACY = [(2, pattern(SSE3)), (2, pattern(SSSE3)), (3, pattern(SSE4))]
-IS_AVX2, IS_NEVER, IS_X87 = pattern(AVX2_ONLY), pattern(NEVER), pattern(X87)
+IS_AVX2, IS_AVX512, IS_NEVER, IS_X87 = map(pattern, (AVX2_ONLY, AVX512_ONLY, NEVER, X87))
 
 
 def level_needed(mnemonic, operands):
     """The lowest variant level that has this instruction; 9: none."""
-    if IS_NEVER.match(mnemonic) or "%zmm" in operands or re.search(r"%[xy]mm(1[6-9]|2\d|3[01])\b|%k[0-7]", operands):
+    if IS_NEVER.match(mnemonic) and not IS_AVX2.match(mnemonic):
         return 9
+    if IS_AVX512.match(mnemonic) or AVX512_OPERANDS.search(operands):
+        return 6
     if mnemonic.startswith("v") and mnemonic not in ("verr", "verw"):
         integer_ymm = "%ymm" in operands and mnemonic.startswith(("vp", "vmpsadbw", "vmovntdqa")) and not re.match(
             r"vpermil|vptest|vperm2f128", mnemonic
@@ -99,16 +117,16 @@ def functions(disassembly):
 
 def aligned_stack_access(body):
     return any(
-        re.match(r"v?mov(ap[sd]|dqa)$", i.mnemonic) and re.search(r"\(%e[sb]p", i.operands) for i in body
+        re.match(r"v?mov(ap[sd]|dqa(32|64)?)$", i.mnemonic) and re.search(r"\(%e[sb]p", i.operands) for i in body
     ) and not any(i.mnemonic.startswith("and") and re.match(r"\$0xffffff[0-9a-f]0,%esp", i.operands) for i in body)
 
 
 STREAMS, FENCE = re.compile(r"v?movnt(dq|p[sd]|i)\w?$"), re.compile(r"[sm]fence$")
-WIDE, LEAVES_WIDE = re.compile(r"v\w+[sd]2\w*y |.*%ymm"), re.compile(r"vzero(upper|all)$")
+WIDE, LEAVES_WIDE = re.compile(r"v\w+[sd]2\w*y |.*%[yz]mm(\d|1[0-5])\b"), re.compile(r"vzero(upper|all)$")
 
 
 def returns_wide(name, body):
-    """Whether some way through the function leaves vectors of 32 bytes in use. Ways through tables of jumps begin anew."""
+    """Whether some way through the function leaves vectors of more than 16 bytes in use. Ways through tables of jumps begin anew."""
     places = {i.place: k for k, i in enumerate(body)}
     seen, ways = {}, [(0, False)]
     while True:
@@ -156,7 +174,7 @@ def check_object(path, level, objdump, bits32, report):
     bodies = list(functions(run(objdump, "-dr", "--no-show-raw-insn", str(path))))
     for name, body in bodies:
         if returns_wide(name, body):
-            report.add(path, f"{name}: returns with vectors of 32 bytes in use")
+            report.add(path, f"{name}: returns with vectors of more than 16 bytes in use")
         mnemonics = {i.mnemonic for i in body}
         if any(map(STREAMS.match, mnemonics)) and not any(map(FENCE.match, mnemonics)):
             report.add(path, f"{name}: stores past the caches without a fence")

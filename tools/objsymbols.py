@@ -22,6 +22,7 @@ def in_file(variable):
 # enabled, the cache and the threshold of streaming stores that follows from it, and the DLL's stack guard.
 WRITABLE = {
     "sig5d_variant", "sig5d_stream_bytes", "__stack_chk_guard", in_file("features"), in_file("enabled"), in_file("cache"),
+    in_file("beyond"),
 }  # fmt: skip
 
 # What the compiler itself calls: the stack guard, and in 32-bit code 64-bit divisions and the address of the code, which

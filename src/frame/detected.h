@@ -6,6 +6,7 @@ namespace sig5d {
 
 u64 detectedFeatures(); // 0: the processor cannot be identified
 CacheSize detectedCache();
+bool detectedBeyondVariants(); // whether the body beyond the variants can run, whatever overrides the word
 
 void overrideDetectedFeatures(u64 word); // from now on requests are compared with this word
 

@@ -80,6 +80,19 @@ Selection selectAgainst(u64 requested, u64 processor)
     return chosen;
 }
 
+bool runsBeyondVariants(const Identity& id, u64 word)
+{
+    constexpr u64 needed = variants[beyondVariants].features;
+    constexpr u64 saved = 0xE6; // registers of 16 and of 32 bytes; masks; those of 64 bytes, the lower and the upper 16
+    return (word & needed) == needed && (word & FeatureAvxOs) && (id.processor.xgetbv() & saved) == saved;
+}
+
+int bodyFor(u64 enabled, bool runsBeyond)
+{
+    constexpr u64 needed = variants[beyondVariants].features;
+    return runsBeyond && (enabled & needed) == needed ? beyondVariants : select(enabled).variant;
+}
+
 bool hasDenormalsAreZeros(const Processor& p)
 {
     constexpr u32 fxsaveAndSse = 3u << 24;

@@ -45,6 +45,11 @@ u64 readFeatures(const Identity& id);                  // 0: the processor canno
 Selection select(u64 requested);                       // bit 63 clear; whatever the processor has
 Selection selectAgainst(u64 requested, u64 processor); // bit 63 clear
 
+// Whether the processor and the operating system can run the body beyond the variants. word: what readFeatures gave.
+bool runsBeyondVariants(const Identity& id, u64 word);
+// The body that serves an enabled word: the variant's, or the one beyond.
+int bodyFor(u64 enabled, bool runsBeyond);
+
 bool hasDenormalsAreZeros(const Processor& p); // the bit of MXCSR that reads denormal numbers as zeros
 
 } // namespace sig5d

@@ -23,10 +23,11 @@ u64 enabledFeatures() { return enabled.load() & ~unselected; }
 void useEnabled()
 {
     __atomic_store_n(&sig5d_stream_bytes, streamBytes(detectedCache()), __ATOMIC_RELAXED);
+    const bool runsBeyond = detectedBeyondVariants();
     u64 before = sig5d_variant.load(), after;
     do {
         const u64 count = (before >> 32) + 1;
-        after = count << 32 | static_cast<u32>(select(enabledFeatures()).variant);
+        after = count << 32 | static_cast<u32>(bodyFor(enabledFeatures(), runsBeyond));
     } while (!sig5d_variant.replace(before, after));
 }
 

@@ -1,11 +1,12 @@
-// The processor variants of src/variants.txt, lowest first. A variant's number is its place here.
+// The processor variants of src/variants.txt, lowest first, and the body beyond them. The number of each is its place
+// here.
 #pragma once
 #include "frame/types.h"
 
 namespace sig5d {
 
 struct Variant {
-    char code[4];
+    char code[4]; // what the library answers with
     u32 features; // the feature word that selects it, with all that it needs
     char title[20];
 };
@@ -13,5 +14,7 @@ struct Variant {
 constexpr Variant variants[] = {
 #include "variant_table.inc" // generated
 };
+
+constexpr int beyondVariants = sizeof variants / sizeof *variants - 1;
 
 } // namespace sig5d

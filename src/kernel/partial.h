@@ -88,7 +88,7 @@ template <int n, class V> inline auto upper_lanes(V v)
     constexpr int bytes = n * static_cast<int>(sizeof(T));
     using Half = Vec<T, (bytes < 16 ? 16 : bytes) / static_cast<int>(sizeof(T))>;
     if constexpr (bytes >= 16)
-        return as<Half>(upper_half(as<Vec<f64, 2 * bytes / 8>>(v)));
+        return as<Half>(upper_half(low_end<Vec<f64, 2 * bytes / 8>>(v)));
     else
         return as<Half>(bytes_from<bytes>(low_end<__m128i>(v)));
 }

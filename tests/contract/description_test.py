@@ -172,9 +172,11 @@ MISTAKES = [
 ]
 # (what is wrong, what follows the third line of variants.txt, the message)
 MISTAKES += [(what, {"variants.txt": FILES["variants.txt"] + text}, f"variants.txt:{message}") for what, text, message in [
-    ("statement of variants", "body b.kernels.cpp px", "4: none of variant, bodies, internal: body"),
+    ("statement of variants", "body b.kernels.cpp px", "4: none of variant, beyond, bodies, internal: body"),
     ("variant without a title", "variant s8 0x1F -mssse3", "4: no variant NAME FEATURES"),
-    ("variant twice", 'variant px 0x1F "C"', "4: variant px a second time"),
+    ("variant twice", 'variant px 0x1F "C"', "4: px a second time"),
+    ("body beyond a lower variant", "beyond z9 px 0xF -O", "4: px is not the highest variant"),
+    ("variant above the body beyond", 'beyond z9 w7 0xF -O\nvariant s8 0x1F "C"', "5: s8 stands behind the body beyond"),
     ("bodies of no kernel", "bodies b.cpp px", "4: b.cpp is no .kernels.cpp file"),
     ("no bodies", "bodies b.kernels.cpp", "4: no bodies FILE NAME"),
     ("unknown variant", "bodies b.kernels.cpp px w8", "4: no variants in"),

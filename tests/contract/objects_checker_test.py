@@ -81,6 +81,26 @@ class Instructions(unittest.TestCase):
         self.assertNotEqual(self.faults(vectors % 32, 4, "-mavx2"), [])
         self.assertEqual(self.faults(vectors % 32, 5, "-mavx2", "-O2"), [])
 
+    def test_beyond_the_variants(self):
+        wide = "typedef int V __attribute__((vector_size(64))); void f(V* a) { *a += *a; }"
+        masked = (
+            "#include <immintrin.h>\nvoid f(__m256i* a, __m256i* b) "
+            "{ *a = _mm256_mask_add_epi32(*a, _mm256_cmpgt_epi32_mask(*a, *b), *a, *b); }"
+        )
+        ternary = (
+            "#include <immintrin.h>\nvoid f(__m128i* a, __m128i* b) { *a = _mm_ternarylogic_epi64(*a, *b, *a, 0x1E); }"
+        )
+        for source in (wide, masked, ternary):
+            flags = ("-mavx512f", "-mavx512vl", "-O2")
+            self.assertEqual(self.faults(source, 6, *flags), [], source)
+            self.assertNotEqual(self.faults(source, 5, *flags), [], source)
+        estimate = "#include <immintrin.h>\nvoid f(__m512d* a) { *a = _mm512_rcp14_pd(*a); }"
+        self.assertNotEqual(self.faults(estimate, 6, "-mavx512f", "-O2"), [])
+        fused = "double f(double a, double b, double c) { return __builtin_fma(a, b, c); }"
+        self.assertNotEqual(self.faults(fused, 6, "-mavx512f", "-mfma"), [])
+        bytes_anywhere = "#include <immintrin.h>\nvoid f(__m512i* a) { *a = _mm512_permutexvar_epi8(*a, *a); }"
+        self.assertNotEqual(self.faults(bytes_anywhere, 6, "-mavx512vbmi", "-O2"), [])  # not all that have the others
+
     def test_fused_arithmetic_and_x87(self):
         fused = "double f(double a, double b, double c) { return __builtin_fma(a, b, c); }"
         self.assertNotEqual(self.faults(fused, 5, "-mfma"), [])

@@ -24,6 +24,7 @@ TEST(Detection, RecordedProcessorsAreToldRight)
         const Selection s = selectAgainst(word, word);
         EXPECT_EQ(s.variant, r.variant);
         EXPECT_EQ(s.enabled, r.enabled) << std::hex << s.enabled << " " << r.enabled;
+        EXPECT_EQ(runsBeyondVariants(id, word), r.beyond);
         EXPECT_EQ(cache.bytes, r.cacheBytes);
         EXPECT_EQ(cache.status, r.cacheBytes > 0 ? 0 : r.identifiable ? 37 : 36);
         EXPECT_EQ(coresPerPackage(identify(play(r))), r.cores);
@@ -76,6 +77,32 @@ TEST(Detection, EachFeatureHasItsBit)
                     if (bit.leaf == leaf && bit.part == part && bit.number == number) expected = bit.feature;
                 EXPECT_EQ(readFeatures(identify(play(r))), expected) << std::hex << leaf << ", bit " << number;
             }
+}
+
+TEST(Detection, TheBodyBeyondTheVariantsNeedsAllOfItsFeaturesAndRegisters)
+{
+    const char* const name = "Xeon in a virtual machine, AVX-512";
+    const auto runs = [](const Recorded& r) {
+        const Identity id = identify(play(r));
+        return runsBeyondVariants(id, readFeatures(id));
+    };
+    Recorded r = recorded(name);
+    r.xcr0 = 0xE6; // no others are needed
+    EXPECT_TRUE(runs(r));
+    for (int bit : {1, 2, 5, 6, 7}) {
+        r = recorded(name);
+        r.xcr0 &= ~(u64(1) << bit);
+        EXPECT_FALSE(runs(r)) << "registers of bit " << bit;
+    }
+    for (int bit = 0; bit < 32; ++bit) {
+        r = recorded(name);
+        r.leaves[{7, 0}].ebx &= ~(1u << bit);
+        const bool needed = bit == 5 || bit == 16 || bit == 17 || bit == 28 || bit == 30 || bit == 31;
+        EXPECT_EQ(runs(r), !needed) << "feature of bit " << bit;
+    }
+    r = recorded(name);
+    r.leaves[{1, 0}].ecx &= ~(1u << 27);
+    EXPECT_FALSE(runs(r)) << "nothing tells which registers are saved";
 }
 
 TEST(Detection, TheVendorDecidesOnCachesAndCoresButNeverOnTheVariant)

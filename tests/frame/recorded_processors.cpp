@@ -172,6 +172,7 @@ const Recorded recordedProcessors[] = {
      .xcr0 = 0x602E7,
      .word = 0x73FEFFF,
      .variant = 5,
+     .beyond = true,
      .enabled = 0x73FEFFF,
      .cacheBytes = 512 << 20,
      .cores = 2},

@@ -18,10 +18,12 @@ struct Recorded {
     // What detection must find.
     sig5d::u64 word;
     int variant;
+    bool beyond = false; // whether the body beyond the variants can run
     sig5d::u64 enabled;
     int cacheBytes;
     int cores;
 
+    int body() const { return beyond ? 6 : variant; } // that the first call selects
     sig5d::CpuidRegs answer(sig5d::u32 leaf, sig5d::u32 subleaf, size_t round = 0) const;
 };
 

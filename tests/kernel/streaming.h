@@ -23,6 +23,6 @@ protected:
 };
 
 // px has no streaming stores.
-inline auto streamingVariants() { return testing::ValuesIn(variants + 1, variants + 6); }
+inline auto streamingVariants() { return testing::ValuesIn(variants + 1, std::end(variants)); }
 
 } // namespace support

@@ -26,7 +26,7 @@ def frame_files(api):
     return {
         "statuses.inc": codes,
         "status_table.inc": "".join(rows),
-        "variant_table.inc": "".join(f'{{"{v.name}", {v.features}, "{v.title}"}},\n' for v in api.variants.all),
+        "variant_table.inc": "".join(f'{{"{v.answers}", {v.features}, "{v.title}"}},\n' for v in api.variants.all),
         "opaque_types.inc": "".join(f"struct {name};\n" for name in api.opaque),
         "sources.cmake": "".join(sources),
     }

@@ -244,7 +244,7 @@ def files(api):
         "const Function* find(const char* name)\n{\n    for (const Function& f : functions())\n"
         "        if (!std::strcmp(f.name, name)) return &f;\n    return nullptr;\n}\n} // namespace registry\n"
     )
-    rows = "".join(f'{{"{v.name}", {i}, {v.features}}},\n' for i, v in enumerate(api.variants.all))
+    rows = "".join(f'{{"{v.name}", {i}, {v.features}, "{v.answers}"}},\n' for i, v in enumerate(api.variants.all))
     return {"registry.cpp": text, "variants.inc": rows}
 
 

@@ -1,4 +1,5 @@
-"""Reads src/variants.txt: the processor variants, and which of them each kernel file is compiled for."""
+"""Reads src/variants.txt: the processor variants and the body beyond them, and which of these each kernel file is
+compiled for."""
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -11,13 +12,14 @@ KERNELS = ".kernels.cpp"
 class Variant:
     name: str
     features: str  # the feature word that selects it
+    answers: str  # the code that the library answers with: the name, or that of the variant that a body beyond serves
     title: str  # what the library calls itself
     flags: str  # of the compiler
 
 
 @dataclass
 class Variants:
-    all: list  # lowest first
+    all: list  # lowest first, the body beyond them last
     bodies: dict  # kernel file -> names of the variants that it is compiled for
     internal: dict  # folder with kernels that no export has -> their files
 
@@ -25,11 +27,24 @@ class Variants:
         return [v.name for v in self.all]
 
 
+def add_name(found, variant):
+    if variant.name in found.names():
+        raise Mistake(f"{variant.name} a second time")
+    if found.all and found.all[-1].answers != found.all[-1].name:
+        raise Mistake(f"{variant.name} stands behind the body beyond the variants")
+    found.all.append(variant)
+
+
 def add_variant(found, rest):
     m = match(r'(\w+) +(0x[0-9A-F]+) +"([^"]+)" *(.*)', rest, 'no variant NAME FEATURES "TITLE" FLAG ...')
-    if m[1] in found.names():
-        raise Mistake(f"variant {m[1]} a second time")
-    found.all.append(Variant(*m.groups()))
+    add_name(found, Variant(m[1], m[2], m[1], m[3], m[4]))
+
+
+def add_beyond(found, rest):
+    m = match(r"(\w+) +(\w+) +(0x[0-9A-F]+) +(.+)", rest, "no beyond NAME VARIANT FEATURES FLAG ...")
+    if not found.all or m[2] != found.all[-1].name:
+        raise Mistake(f"{m[2]} is not the highest variant")
+    add_name(found, Variant(m[1], m[3], m[2], found.all[-1].title, m[4]))
 
 
 def add_file(found, path, given):
@@ -63,7 +78,7 @@ def add_internal(found, rest):
 
 def read(path):
     found = Variants([], {}, {})
-    add = {"variant": add_variant, "bodies": add_bodies, "internal": add_internal}
+    add = {"variant": add_variant, "beyond": add_beyond, "bodies": add_bodies, "internal": add_internal}
     for place, line in lines(Path(path)):
         with at(place):
             word, _, rest = line.partition(" ")

@@ -9,7 +9,7 @@
 
 namespace registry {
 
-const Variant variants[6] = {
+const Variant variants[7] = {
 #include "variants.inc"
 };
 
@@ -29,14 +29,14 @@ std::string nameOf(const Function& f) { return std::string(f.name) + (f.hasPlain
 
 void force(const Variant& v) { ippSetCpuFeatures(v.features | Ipp64u(1) << 63); }
 
-const Variant& current()
-{
-    for (const Variant& v : variants)
-        if (!std::strncmp(ippsGetLibVersion()->targetCpu, v.code, 4)) return v;
-    return variants[0];
-}
-
 namespace {
+
+bool hasAvx512()
+{
+    return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512cd") &&
+           __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq") &&
+           __builtin_cpu_supports("avx512vl");
+}
 
 // Half precision is bit 29 of ecx, which not every compiler's __builtin_cpu_supports knows by its name.
 bool hasF16c()
@@ -50,20 +50,32 @@ bool hasF16c()
 std::vector<Variant> supported()
 {
     static const std::vector<Variant> list = [] {
+        __builtin_cpu_init();
         std::vector<Variant> found;
         for (const Variant& v : variants) {
-            __builtin_cpu_init();
             const bool has[] = {true,
                                 true,
                                 __builtin_cpu_supports("ssse3") != 0,
                                 __builtin_cpu_supports("sse4.2") != 0,
                                 __builtin_cpu_supports("avx") != 0,
-                                __builtin_cpu_supports("avx2") != 0 && hasF16c()};
+                                __builtin_cpu_supports("avx2") != 0 && hasF16c(),
+                                hasAvx512()};
             if (has[v.index]) found.push_back(v);
         }
         return found;
     }();
     return list;
+}
+
+const Variant& current()
+{
+    // The body beyond the variants answers as the highest of them: that it runs tell its features.
+    const Ipp64u enabled = ippGetEnabledCpuFeatures();
+    const Variant* found = variants;
+    for (const Variant& v : supported())
+        if (!std::strncmp(ippsGetLibVersion()->targetCpu, v.answers, 4) && (enabled & v.features) == v.features)
+            found = &variants[v.index];
+    return *found;
 }
 
 std::vector<Variant> bodiesOf(const Function& f)

@@ -16,12 +16,13 @@ struct Variant {
     const char* code;
     int index;
     Ipp64u features; // what selects it
+    const char* answers; // the code of the variant that ippsGetLibVersion tells of then
 };
-extern const Variant variants[6];
+extern const Variant variants[7]; // the last is the body beyond the variants
 inline void PrintTo(const Variant& v, std::ostream* out) { *out << v.code; }
 
 void force(const Variant& v);                     // whatever the processor has
-const Variant& current();                         // the variant that answers
+const Variant& current();                         // the body that answers
 std::vector<Variant> supported();                 // those that this processor can run
 std::vector<Variant> bodiesOf(const Function& f); // those that have bodies of their own for the function; px first
 

@@ -81,7 +81,7 @@ template <class T, class F> struct Quotient {
     int& zeroDivisors;
     template <class V> V operator()(V x, V y) const
     {
-        zeroDivisors |= byte_signs(bits(as<V>(y == V{})));
+        zeroDivisors |= byte_signs(bits(as<V>(y == V{}))) != 0;
         return nearest_of<F>([this](auto a, auto b) { return quotient(a, b, scale); }, x, y);
     }
 };

@@ -99,13 +99,13 @@ void start(const Recorded& r)
     sig5d_stream_bytes = ~size_t(0);
 }
 
-int variant() { return static_cast<i32>(sig5d_variant.now()); }
+int body() { return static_cast<i32>(sig5d_variant.now()); }
 u64 enabled() { return ippGetEnabledCpuFeatures(); }
 int leavesAsked() { return leaves; }
 size_t streamingStart() { return sig5d_stream_bytes; }
 void firstCall()
 {
-    if (variant() < 0) sig5d_initialise();
+    if (body() < 0) sig5d_initialise();
 }
 
 int run(const std::function<void()>& call, std::vector<Interruption> interruptions)

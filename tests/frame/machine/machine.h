@@ -9,7 +9,7 @@ namespace machine {
 
 void start(const Recorded& r); // a new process on this processor
 
-int variant();           // -1: none is selected
+int body();              // the index that stubs read; -1: none is selected
 sig5d::u64 enabled();    // what ippGetEnabledCpuFeatures gives
 size_t streamingStart(); // from how many bytes on kernels stream; the largest number: never
 int leavesAsked();       // executions of CPUID since the start

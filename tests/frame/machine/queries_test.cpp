@@ -49,7 +49,7 @@ TEST(Machine, QueriesTellOfItAndSelectNothing)
             expectWord(r, r.word);
             EXPECT_EQ(ippGetNumCoresOnDie(), r.cores);
             EXPECT_EQ(ippGetEnabledCpuFeatures(), 3u);
-            EXPECT_EQ(machine::variant(), -1);
+            EXPECT_EQ(machine::body(), -1);
             EXPECT_EQ(ippGetCpuFeatures(nullptr, nullptr), r.identifiable ? -8 : 36);
         }
     });
@@ -59,18 +59,45 @@ TEST(Machine, TheFirstCallSelectsItsBestVariant)
 {
     onEveryMachine([](const Recorded& r) {
         machine::firstCall();
-        EXPECT_EQ(machine::variant(), r.variant);
+        EXPECT_EQ(machine::body(), r.body());
         EXPECT_EQ(machine::enabled(), r.identifiable ? r.enabled : 3u);
         expectWord(r, r.word);
         EXPECT_EQ(ippSetCpuFeatures(7), r.word % 8 == 7 ? 0 : 49);
-        EXPECT_EQ(machine::variant(), 1);
+        EXPECT_EQ(machine::body(), 1);
         EXPECT_EQ(machine::enabled(), 7u);
         EXPECT_EQ(ippSetCpuFeatures(0x81DF | doNotCompare), 0);
-        EXPECT_EQ(machine::variant(), 5);
+        EXPECT_EQ(machine::body(), 5);
         EXPECT_EQ(machine::enabled(), 0x81DFu);
         expectWord(r, 7); // what was enabled when the request came
         expectCache(r);
     });
+}
+
+// The body beyond the variants runs where its features are enabled, and never where the processor or the system lacks
+// something, whatever a caller says that there is.
+TEST(Machine, TheBodyBeyondTheVariantsIsSelectedByAllOfItsFeatures)
+{
+    const u64 all = 0x73081DF;
+    onEveryMachine([=](const Recorded& r) {
+        const int wide = r.beyond ? 6 : 5;
+        EXPECT_EQ(ippSetCpuFeatures(all | doNotCompare), 0);
+        EXPECT_EQ(machine::body(), wide);
+        EXPECT_EQ(machine::enabled(), all);
+        for (u64 one : {0x100000, 0x200000, 0x1000000, 0x2000000, 0x4000000}) {
+            EXPECT_EQ(ippSetCpuFeatures((all & ~one) | doNotCompare), 0);
+            EXPECT_EQ(machine::body(), 5) << std::hex << one;
+        }
+        EXPECT_EQ(ippSetCpuFeatures(0x7300000 | doNotCompare), 51);
+        EXPECT_EQ(machine::body(), wide);
+        EXPECT_EQ(ippSetCpuFeatures(0x1DF | doNotCompare), 0);
+        EXPECT_EQ(machine::body(), 4);
+    });
+    for (int i = 0; i < recordedProcessorCount; ++i) {
+        const Recorded& r = recordedProcessors[i];
+        machine::start(r); // compared with the processor
+        ippSetCpuFeatures(all);
+        EXPECT_EQ(machine::body(), r.beyond ? 6 : r.word & FeatureAvxOs ? 5 : 3) << r.name;
+    }
 }
 
 // Each leaf takes some microseconds in a virtual machine.

@@ -110,6 +110,7 @@ template <class S, int groups, int columns, class T>
 [[gnu::always_inline]] inline void block(const T* x, const T* r, int taps, T* y, int last)
 {
     constexpr int w = S::width;
+    static_assert(groups <= 4);
     typename S::Sum sum[groups][columns];
 #pragma GCC unroll 4
     for (int i = 0; i < groups; ++i)
@@ -117,8 +118,10 @@ template <class S, int groups, int columns, class T>
         for (int j = 0; j < columns; ++j) sum[i][j] = S::zero();
     if constexpr (groups > 1) steps<S, 0, 1>(sum, x, r, 0, w, last);
     if constexpr (groups > 2) steps<S, 0, 2>(sum, x, r, w, 2 * w, last);
+    if constexpr (groups > 3) steps<S, 0, 3>(sum, x, r, 2 * w, 3 * w, last);
     steps<S, 0, groups>(sum, x, r, (groups - 1) * w, taps, last);
     if constexpr (groups > 2) steps<S, 1, groups>(sum, x, r, taps, taps + w, last);
+    if constexpr (groups > 3) steps<S, 2, groups>(sum, x, r, taps + w, taps + 2 * w, last);
     if constexpr (groups > 1) {
         steps<S, groups - 1, groups>(sum, x, r, taps + (groups - 2) * w, taps + (groups - 1) * w, last);
     }
@@ -145,10 +148,10 @@ template <class S, int columns, class T> inline void few(const T* x, const T* r,
 // avoided in real signals, since all their loads would cross cache lines in the same steps.
 constexpr bool manyRegisters = sizeof(void*) == 8;
 template <class T> constexpr int groups = 0;
-template <> constexpr int groups<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 2) : 1;
+template <> constexpr int groups<f64> = manyRegisters ? (vectorBytes == 64 ? 4 : vectorBytes == 32 ? 3 : 2) : 1;
 template <> constexpr int groups<c64f> = manyRegisters ? 2 : 1;
 template <class T> constexpr int columns = 0;
-template <> constexpr int columns<f64> = manyRegisters ? (vectorBytes == 32 ? 3 : 5) : 6;
+template <> constexpr int columns<f64> = manyRegisters ? (vectorBytes == 64 ? 4 : vectorBytes == 32 ? 3 : 5) : 6;
 template <> constexpr int columns<c64f> = 5;
 
 template <class T>
