@@ -9,7 +9,7 @@ namespace {
 constexpr u64 nothing = u64(1) << 63; // neither a feature word nor a cache word has this bit
 
 SharedWord features = nothing;
-SharedWord cache = nothing; // the status above the size
+SharedWord cache = nothing;  // the status above the size
 SharedWord beyond = nothing; // 1: the body beyond the variants can run
 
 u64 packed(CacheSize c) { return static_cast<u64>(c.status) << 32 | static_cast<u32>(c.bytes); }

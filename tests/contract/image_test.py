@@ -28,6 +28,7 @@ WRITABLE = {
     "sig5d_stream_bytes": "from how many bytes on streaming stores pay",
     "_ZN5sig5d12_GLOBAL__N_17enabledE": "feature word of the selection",
     "_ZN5sig5d12_GLOBAL__N_18featuresE": "feature word that was detected",
+    "_ZN5sig5d12_GLOBAL__N_16beyondE": "whether the body beyond the variants can run",
     "_ZN5sig5d12_GLOBAL__N_15cacheE": "cache size that was detected, with its status",
     "__stack_chk_guard": "stack guard, set when the DLL is loaded",
 }

@@ -17,7 +17,7 @@ if(NOT SIG5D_STATIC AND NOT SIG5D_SANITIZE)
 endif()
 
 # Detection is tested on recorded processors.
-sig5d_internal_test(detection frame/detection_test.cpp frame/recorded_processors.cpp)
+sig5d_internal_test(detection frame/detection_test.cpp frame/frequency_test.cpp frame/recorded_processors.cpp)
 
 # The frame's own sources on processors that the tests choose, with calls that come in between each other.
 set(machine_sources selection detected features cache_size core_count cpuid frequency system)

@@ -15,7 +15,7 @@ inline Entry entryOf(const Function& f) { return exported(nameOf(f).c_str()); }
 struct Variant {
     const char* code;
     int index;
-    Ipp64u features; // what selects it
+    Ipp64u features;     // what selects it
     const char* answers; // the code of the variant that ippsGetLibVersion tells of then
 };
 extern const Variant variants[7]; // the last is the body beyond the variants
