@@ -41,6 +41,10 @@ class ThisTree(unittest.TestCase):
     def test_files_are_short(self):
         self.keeps(arrows.long_files, ROOT)
 
+    def test_all_kernel_headers_are_compiled_together(self):
+        included, _ = arrows.includes(ROOT / "tests/kernel/all_headers.cpp")
+        self.assertEqual(included, sorted(f"kernel/{h.name}" for h in (ROOT / "src/kernel").glob("*.h")))
+
     def test_the_generator_writes_no_loop(self):
         with tempfile.TemporaryDirectory() as folder:
             command = [sys.executable, "-B", str(ROOT / "tools/apigen"), "--api", str(ROOT / "api"), "--out", folder]
