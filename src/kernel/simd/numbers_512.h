@@ -33,7 +33,11 @@ template <int seconds> inline Vec<f64, 8> shuffled(Vec<f64, 8> a, Vec<f64, 8> b)
     return _mm512_shuffle_pd(a, b, seconds);
 }
 inline Vec<f64, 8> real_lanes(Vec<f64, 8> v) { return _mm512_movedup_pd(v); }
-inline Vec<f64, 8> subtract_add(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_mask_sub_pd(x + y, 0x55, x, y); }
+// Neither is computed in the lanes of the other: a sum that is not wanted could raise an exception.
+inline Vec<f64, 8> subtract_add(Vec<f64, 8> x, Vec<f64, 8> y)
+{
+    return _mm512_mask_sub_pd(_mm512_maskz_add_pd(0xAA, x, y), 0x55, x, y);
+}
 
 inline Vec<f64, 8> joined(Vec<f64, 4> low, Vec<f64, 4> high)
 {
