@@ -27,12 +27,7 @@ template <class Shape = Light, class D, class Op, class... A>
     if constexpr (lanes<u8> == 1) {
         for (size_t i = 0; i < n; ++i) store_lanes<1>(Ordinary{}, d + i, op(load_lanes<1>(a + i)...));
     } else {
-        if (n < L) {
-            if constexpr (Shape::shortInOneVector)
-                return map_ends<L>(n, d, op, a...);
-            else
-                return map_halves<L / 2>(n, d, op, a...);
-        }
+        if (n < L) return map_fewer<L, Shape::shortInOneVector>(n, d, op, a...);
         const D last = d + (n - L);
         const auto head = op(load_lanes<L>(a)...), tail = op(load_lanes<L>(a + (n - L))...);
         if (n <= 2 * L) {
@@ -65,7 +60,7 @@ template <class D, class Op, class... A> [[gnu::always_inline]] inline void map_
     if constexpr (lanes<u8> == 1) {
         map(n, d, whole, a...);
     } else {
-        if (n < L) return map_ends<L>(n, d, whole, a...);
+        if (n < L) return map_fewer<L, true>(n, d, whole, a...);
         const size_t last = n - L;
         auto half_done = op.first(load_lanes<L>(a)...);
         for (size_t i = 0;;) {

@@ -82,7 +82,7 @@ template <class Shape, class D, class Write, class Op, class... A>
 [[gnu::always_inline]] inline size_t map_groups(size_t n, D d, Write write, Op op, A... a)
 {
     constexpr size_t all = Shape::group * Shape::template lanesFor<D>;
-    if constexpr (std::is_same_v<Shape, Light>)
+    if constexpr (std::is_same_v<Shape, Light> && std::is_same_v<Write, Ordinary>) // memory is slower than the loop
         for (; n >= 2 * all; n -= 2 * all) {
             map_group<Shape>(d, write, op, a...);
             map_group<Shape>(d, write, op, a...);

@@ -43,5 +43,40 @@ template <int L, class D, class Op, class... A>
     if (n > 0) store_ends<L>(d, n, op(load_ends<L>(a, n)...));
 }
 
+// Whether the first elements of a source or destination can be moved alone, as lanes of a whole vector.
+template <class A, size_t L> constexpr bool maskable = false;
+template <class T, size_t L>
+constexpr bool maskable<T*, L> = hasMaskedMoves&& std::is_arithmetic_v<T>&& L * sizeof(T) == vectorBytes;
+template <class T, size_t L> constexpr bool maskable<TwoArrays<T>, L> = maskable<T*, L>;
+
+// The first n elements of an array; the other lanes repeat the first one, since no lane computes with anything else.
+template <size_t L, class T> inline Vec<T, L> load_first(const T* a, size_t n)
+{
+    return load_masked(a, n, splatn<L>(*a));
+}
+template <class T, class V> inline void store_first(T* d, size_t n, V v) { store_masked(d, n, v); }
+template <class T, class V> inline void store_first(TwoArrays<T> d, size_t n, const V& v)
+{
+    const auto [first, second] = v;
+    store_masked(d.first, n, first);
+    store_masked(d.second, n, second);
+}
+
+// 0 <= n < L. Processors with masks need neither branches nor a second form of the operation, unless that needs the
+// neighbours of a lane: pairs in one vector took twice as long for a single one.
+template <size_t L, bool inOneVector, class D, class Op, class... A>
+[[gnu::always_inline]] inline void map_fewer(size_t n, D d, Op op, A... a)
+{
+    constexpr bool anyLanes = !requires { Op::needsNeighbours; }
+    &&!requires { Op::period; };
+    if constexpr (anyLanes && maskable<D, L> && (maskable<A, L> && ...)) {
+        if (n > 0) store_first(d, n, op(load_first<L>(a, n)...));
+    } else if constexpr (inOneVector) {
+        map_ends<L>(n, d, op, a...);
+    } else {
+        map_halves<L / 2>(n, d, op, a...);
+    }
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -34,10 +34,53 @@ template <int L, class T> [[gnu::always_inline]] inline Vec<T, L> load_ends(Repe
 {
     return load_lanes<L>(a);
 }
+template <class T, size_t L> constexpr bool maskable<Repeated<T>, L> = maskable<const T*, L>;
+template <size_t L, class T> inline auto load_first(Repeated<T> a, size_t) { return load_lanes<L>(a); }
 #endif
 
 template <class T> inline Repeated<T> repeated(T v) { return {repeated_bits(v)}; }
 inline Repeated<i32> repeated(c32s v) { return {repeated_bits(v)}; }
+
+#if SIG5D_LEVEL > 0
+
+// An array, or a value in memory that is read again and again, as a source of one type: for operations that are worth
+// one loop for both.
+template <class T> struct ArrayOrValue {
+    const T* p;
+    size_t counts; // the bits of a distance that count
+    ArrayOrValue operator+(size_t n) const { return {p + (n & counts), counts}; }
+};
+template <class T> constexpr bool isArray<ArrayOrValue<T>> = true;
+template <class T> inline Span span(ArrayOrValue<T> a, size_t n) { return a.counts + 1 == 0 ? span(a.p, n) : nowhere; }
+template <int n, class T> inline auto load_lanes(ArrayOrValue<T> a) { return load_lanes<n>(a.p); }
+template <int L, class T> [[gnu::always_inline]] inline Vec<T, L> load_ends(ArrayOrValue<T> a, size_t n)
+{
+    return load_ends<L>(a.p, n);
+}
+template <class T, size_t L> constexpr bool maskable<ArrayOrValue<T>, L> = maskable<const T*, L>;
+template <size_t L, class T> inline auto load_first(ArrayOrValue<T> a, size_t n) { return load_first<L>(a.p, n); }
+template <class Shape, int L, class T> inline auto elements_of(ArrayOrValue<T> a) { return elements_of<Shape, L>(a.p); }
+
+// What a source is read from so, as long as this lives.
+template <class A> struct InMemory;
+template <class T> struct InMemory<const T*> {
+    ArrayOrValue<T> source;
+    explicit InMemory(const T* p) : source{p, SIZE_MAX} {}
+};
+template <class T> struct InMemory<T*> : InMemory<const T*> {
+    using InMemory<const T*>::InMemory;
+};
+template <class T> struct InMemory<Repeated<T>> {
+    static constexpr size_t odd = sizeof(T) == 4; // parts of a complex value change places; some odd distances add up
+    alignas(vectorBytes) u64 patterns[vectorBytes / 8 + 2 * odd];
+    ArrayOrValue<T> source{reinterpret_cast<const T*>(patterns), odd};
+    explicit InMemory(Repeated<T> a)
+    {
+        for (u64& pattern : patterns) pattern = a.pattern;
+    }
+};
+
+#endif
 
 // Arrays of complex integers as arrays of their parts, and how many elements those have.
 inline size_t part_count(const void*, int n) { return static_cast<size_t>(n); }

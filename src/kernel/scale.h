@@ -8,8 +8,8 @@
 //     quick<T, s>, quickly<s>(x...)  optional, for vectors: there is a shorter way to the result with scale factor s, 1
 //                      or 15.
 #pragma once
-#include "kernel/map.h"
 #include "kernel/lane_shifts.h"
+#include "kernel/repeated.h"
 #include "kernel/saturate.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -244,30 +244,53 @@ inline void clear(size_t bytes, u8* d)
     map(bytes, d, [] { return Vec<u8>{}; });
 }
 
-// d[i] = op(a[i], ...) * 2^-s for 0 <= i < n.
-template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
+// Vectors in flight where operations on them are few.
+template <class T> using FewSteps = Heavy<sizeof(T) < 4 ? 4 : 2>;
+
+// d[i] = op(a[i], ...) for 0 <= i < n, within the limits.
+template <class T, class Op, class D, class... A> void map_saturated(Op op, size_t n, D* d, A... a)
 {
-    constexpr int light = sizeof(T) < 4 ? 4 : 2; // vectors in flight where operations on them are few
+    map<FewSteps<T>>(n, d, Saturated<Op>{op}, a...);
+}
+// d[i] = op(a[i], ...) * 2^-s for 0 <= i < n, s not 0.
+template <class T, class Op, class D, class... A> void map_rescaled(Op op, int s, size_t n, D* d, A... a)
+{
     if constexpr (hasQuick<Op, T, 1>)
-        if (s == 1) return map<Heavy<light>>(n, d, Quick<Op, 1>{op}, a...);
+        if (s == 1) return map<FewSteps<T>>(n, d, Quick<Op, 1>{op}, a...);
     if constexpr (hasQuick<Op, T, 15>)
-        if (s == 15) return map<Heavy<light>>(n, d, Quick<Op, 15>{op}, a...);
-    if (s == 0)
-        map<Heavy<light>>(n, d, Saturated<Op>{op}, a...);
-    else if (s < 0)
+        if (s == 15) return map<FewSteps<T>>(n, d, Quick<Op, 15>{op}, a...);
+    if (s < 0)
         map<Heavy<2>>(n, d, Raised<Op>{op, raise_count<T>(s)}, a...);
     else if (s <= Op::template bits<T>)
         map<Heavy<2>>(n, d, Scaled<Op>{op, s}, a...);
     else
         clear(n * sizeof(D), reinterpret_cast<u8*>(d));
 }
+template <class T, class Op, class D, class... A> void map_scaled(Op op, int s, size_t n, D* d, A... a)
+{
+    if (s == 0) return map_saturated<T>(op, n, d, a...);
+    map_rescaled<T>(op, s, n, d, a...);
+}
+
+// The one place for each operation and type where the loops for scale factors are made.
+template <class Op, class T, class... A> [[gnu::noinline]] void run_rescaled(size_t n, T* d, int s, A... a)
+{
+    map_rescaled<T>(Op{}, s, n, d, a...);
+}
 
 #endif
 
-// The one place for each operation and type where the loops are made.
-template <class Op, class T, class... A> [[gnu::noinline]] void run_scaled(size_t n, T* d, int s, A... a)
+// The same. Without a scale factor a value stays in its register, and its side of the operation may have a better form;
+// else arrays and values share a loop.
+template <class Op, class Saturating = Op, class T, class... A>
+[[gnu::noinline]] void run_scaled(size_t n, T* d, int s, A... a)
 {
+#if SIG5D_LEVEL == 0
     map_scaled<T>(Op{}, s, n, d, a...);
+#else
+    if (s == 0) return map_saturated<T>(Saturating{}, n, d, a...);
+    run_rescaled<Op>(n, d, s, InMemory<A>(a).source...);
+#endif
 }
 
 } // namespace

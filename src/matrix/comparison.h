@@ -48,10 +48,6 @@ struct EqualByKind {
         return (x == y) | ((x != x) & (y != y)) | ((magnitude(x) == size) & (size == infinity));
     }
 };
-template <class Test> struct Not {
-    auto operator()(auto x, auto y) const { return !Test{}(x, y); }
-};
-
 template <class Test> constexpr bool findsInfinities = false;
 template <> constexpr bool findsInfinities<BothInfinite> = true;
 template <> constexpr bool findsInfinities<EqualByKind> = true;
@@ -75,45 +71,55 @@ inline bool all_finite(const f64* y, size_t n)
     return sums >> 63 == 0;
 }
 
-// Calls act(test) with the comparison of a code with y[0..n); another code is none.
-template <class Act> inline void with_order(u32 code, Act act)
+// Calls act(test, x, y, inverted) so that the code's comparison of x[k] with y[k] is that test of them, or of the two
+// changed round, or the opposite of it: the fewer tests there are, the less code. Another code is none.
+template <class Test, class X, class Y, class Act> inline void with_equality(u32 code, X x, Y y, Act act)
 {
-    switch (code) {
-    case 0:
-        return act(Less{});
-    case 1:
-        return act(LessOrEqual{});
-    case 2:
-        return act(Greater{});
-    case 3:
-        return act(GreaterOrEqual{});
+    if (code == 4 || code == 5) act(Test{}, x, y, code == 5);
+}
+template <class T, class Act> inline void with_order(u32 code, const T* x, const T* y, Act act)
+{
+    const bool fromAbove = code >= 2;
+    if constexpr (sizeof(T) < sizeof(f64)) { // without NaN
+        if (code == 1 || code == 2)
+            act(Less{}, y, x, code == 1);
+        else if (code < 4)
+            act(Less{}, x, y, code == 3);
+    } else if (code % 2 == 0 && code < 4) {
+        act(Less{}, fromAbove ? y : x, fromAbove ? x : y, false);
+    } else if (code < 4) {
+        act(LessOrEqual{}, fromAbove ? y : x, fromAbove ? x : y, false);
     }
 }
-template <class Test, class Act> inline void with_equality(u32 code, Act act)
+template <class T, class Act> inline void with_order(u32 code, const T* x, OneValue<T> y, Act act)
 {
-    if (code == 4) return act(Test{});
-    if (code == 5) return act(Not<Test>{});
-    with_order(code, act);
+    constexpr bool total = sizeof(T) < sizeof(f64);
+    if (code == 0 || (total && code == 3)) return act(Less{}, x, y, code == 3);
+    if (code == 2 || (total && code == 1)) return act(Greater{}, x, y, code == 1);
+    if constexpr (!total) {
+        if (code == 1) act(LessOrEqual{}, x, y, false);
+        if (code == 3) act(GreaterOrEqual{}, x, y, false);
+    }
 }
-template <class T, class Act> inline void with_comparison(u32 code, const T*, size_t, Act act)
+template <class T, class Act> inline void with_comparison(u32 code, const T* x, const T* y, size_t n, Act act)
 {
-    with_equality<Equal>(code, act);
+    with_order(code, x, y, act);
+    if constexpr (sizeof(T) == sizeof(f64)) {
+        // Looking at all of y first costs less than comparing by kind, as long as the cache keeps it.
+        constexpr size_t cached = 32768;
+        if (code >= 4 && (n > cached || !all_finite(y, n))) return with_equality<EqualByKind>(code, x, y, act);
+    }
+    with_equality<Equal>(code, x, y, act);
 }
-template <class Act> inline void with_comparison(u32 code, const f64* y, size_t n, Act act)
+template <class T, class Act> inline void with_comparison(u32 code, const T* x, OneValue<T> y, size_t, Act act)
 {
-    // Looking at all of y first costs less than comparing by kind, as long as the cache keeps it.
-    constexpr size_t cached = 32768;
-    if (code >= 4 && n <= cached && all_finite(y, n)) return with_equality<Equal>(code, act);
-    with_equality<EqualByKind>(code, act);
-}
-template <class T, class Act> inline void with_comparison(u32 code, OneValue<T> y, size_t, Act act)
-{
+    with_order(code, x, y, act);
     // The kind of a single value is known beforehand.
     if constexpr (sizeof(T) == sizeof(f64)) {
-        if (code >= 4 && y.value != y.value) return with_equality<BothNaN>(code, act);
-        if (code >= 4 && magnitude(y.value) == infinity) return with_equality<BothInfinite>(code, act);
+        if (code >= 4 && y.value != y.value) return with_equality<BothNaN>(code, x, y, act);
+        if (code >= 4 && magnitude(y.value) == infinity) return with_equality<BothInfinite>(code, x, y, act);
     }
-    with_equality<Equal>(code, act);
+    with_equality<Equal>(code, x, y, act);
 }
 
 } // namespace

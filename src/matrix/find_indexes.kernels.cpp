@@ -9,8 +9,9 @@ template <class T, class Y> void find_indexes_by_code(u32 code, const T* x, Y y,
 {
     size_t found = 0;
     constexpr size_t many = sizeof(T) <= 2 ? 8 : 32;
-    with_comparison(code, y, n, [&](auto test) {
-        found = compact<many>(Holding<T, Y, decltype(test)>{x, y, test}, n, Positions<u32>{}, indexes);
+    with_comparison(code, x, y, n, [&](auto test, const T* a, auto b, bool inverted) {
+        const Holding<T, Y, decltype(test)> selection{a, b, test};
+        found = compact<many>(MaybeInverted<decltype(selection)>{selection, inverted}, n, Positions<u32>{}, indexes);
     });
     *count = static_cast<u32>(found);
 }

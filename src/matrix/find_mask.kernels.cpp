@@ -4,8 +4,10 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// Elements that become mask values, 1 or 0, when they are read; -1 for a negative infinity that is found by kind.
-template <class T, class Y, class Test> struct MaskValues {
+// What elements become when they are read: 1 where the test holds and 0 elsewhere, or the opposite, or 1, -1 for a
+// negative infinity that is found as one by its kind, and 0.
+enum class Kind { where, whereNot, infinities };
+template <class T, class Y, class Test, Kind kind> struct MaskValues {
     const T* x;
     Y y;
     Test test;
@@ -13,36 +15,32 @@ template <class T, class Y, class Test> struct MaskValues {
     i32 operator[](size_t k) const
     {
         const bool holds = test(x[k], y[k]);
-        if constexpr (findsInfinities<Test>)
+        if constexpr (kind == Kind::infinities)
             return holds ? (x[k] == -infinity ? -1 : 1) : 0;
         else
-            return holds;
+            return holds != (kind == Kind::whereNot);
     }
     MaskValues operator+(size_t k) const { return {x + k, y + k, test}; }
 };
 
-template <class T, class Y, class Test> inline Span span(const MaskValues<T, Y, Test>& m, size_t n)
+template <class T, class Y, class Test, Kind kind> inline Span span(const MaskValues<T, Y, Test, kind>& m, size_t n)
 {
     return span(m.x, n);
 }
 
 // All bits of a lane set where the test holds.
-template <int L, class T, class Y, class Test> inline Vec<i32, L> lanes_of(const MaskValues<T, Y, Test>& m)
+template <int L, class Test, class T, class Y> inline Vec<i32, L> lanes_of(Test test, const T* x, Y y)
 {
     if constexpr (sizeof(T) == 8) {
-        const MaskValues<T, Y, Test> upper = m + L / 2;
-        return narrowed_masks(m.test(load_lanes<L / 2>(m.x), load_lanes<L / 2>(m.y)),
-                              m.test(load_lanes<L / 2>(upper.x), load_lanes<L / 2>(upper.y)));
+        return narrowed_masks(test(load_lanes<L / 2>(x), load_lanes<L / 2>(y)),
+                              test(load_lanes<L / 2>(x + L / 2), load_lanes<L / 2>(y + L / 2)));
     } else {
-        const auto mask = m.test(load_lanes<L>(m.x), load_lanes<L>(m.y));
+        const auto mask = test(load_lanes<L>(x), load_lanes<L>(y));
         // Compilers differ in the type of a comparison's lanes.
         return widened_to_32<L>(as<Vec<std::make_signed_t<T>, sizeof mask / sizeof(T)>>(mask));
     }
 }
-struct IsNegativeInfinity {
-    auto operator()(auto x, auto) const { return x == -infinity; }
-};
-template <int n, class T, class Y, class Test> inline auto load_lanes(const MaskValues<T, Y, Test>& m)
+template <int n, class T, class Y, class Test, Kind kind> inline auto load_lanes(const MaskValues<T, Y, Test, kind>& m)
 {
     if constexpr (lanes<i32> == 1) {
         return m[0];
@@ -50,19 +48,20 @@ template <int n, class T, class Y, class Test> inline auto load_lanes(const Mask
         Vec<i32, 4> v = {};
         for (int i = 0; i < n; ++i) v[i] = m[static_cast<size_t>(i)];
         return v;
-    } else if constexpr (findsInfinities<Test>) {
-        return lanes_of<n>(m) & (lanes_of<n>(MaskValues<T, Y, IsNegativeInfinity>{m.x, m.y, {}}) | 1);
     } else {
-        return lanes_of<n>(m) & 1;
+        const Vec<i32, n> holds = lanes_of<n>(m.test, m.x, m.y);
+        if constexpr (kind == Kind::infinities)
+            return holds & (lanes_of<n>(Equal{}, m.x, OneValue<T>{-infinity}) | 1);
+        else
+            return kind == Kind::where ? holds & 1 : ~holds & 1;
     }
 }
 
 template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i32* mask, size_t n)
 {
     // Calls from the loop would load the value and the pointers anew each time.
-    const auto write = [=](auto test) __attribute__((flatten))
+    const auto write = [=](const auto& values) __attribute__((flatten))
     {
-        const MaskValues<T, Y, decltype(test)> values{x, y, test};
         if constexpr (sizeof(T) < sizeof *mask && integerBytes < 32) { // the compiler takes a whole vector of T at once
 #pragma GCC ivdep
             for (size_t k = 0; k < n; ++k) mask[k] = values[k];
@@ -70,7 +69,13 @@ template <class T, class Y> void find_mask_by_code(u32 code, const T* x, Y y, i3
             map<Medium>(n, mask, Same{}, values);
         }
     };
-    with_comparison(code, y, n, write);
+    with_comparison(code, x, y, n, [=](auto test, const T* a, auto b, bool inverted) {
+        using Test = decltype(test);
+        if (inverted)
+            write(MaskValues<T, Y, Test, Kind::whereNot>{a, b, test});
+        else
+            write(MaskValues < T, Y, Test, findsInfinities<Test> ? Kind::infinities : Kind::where > {a, b, test});
+    });
 }
 template <class T> void find_mask(u32 code, const T* x, T y, i32* mask, u32 n)
 {

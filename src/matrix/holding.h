@@ -37,5 +37,16 @@ private:
     }
 };
 
+// The same elements, or all others.
+template <class Selection> struct MaybeInverted {
+    Selection selection;
+    bool inverted;
+
+    static constexpr bool wordsFirst = Selection::wordsFirst;
+    bool at(size_t k) const { return selection.at(k) != inverted; }
+    u32 byte(size_t k) const { return selection.byte(k) ^ (inverted ? 0xFFu : 0u); }
+    u32 word(size_t k) const { return selection.word(k) ^ (inverted ? 0xFFFFFFFFu : 0u); }
+};
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

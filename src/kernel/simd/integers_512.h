@@ -207,5 +207,38 @@ inline Vec<i32, 16> sums_of_two(Vec<i16, 32> x)
     return as<Vec<i32, 16>>(_mm512_madd_epi16(bits(x), _mm512_set1_epi16(1)));
 }
 
+// The first n of an array's elements, 0 < n < 64 / sizeof(T), beside other lanes; and the first n lanes as elements.
+template <class T>
+using LaneMask = std::conditional_t<
+    sizeof(T) == 1, __mmask64,
+    std::conditional_t<sizeof(T) == 2, __mmask32, std::conditional_t<sizeof(T) == 4, __mmask16, __mmask8>>>;
+template <class T> inline LaneMask<T> first_lanes(size_t n) { return static_cast<LaneMask<T>>((u64{1} << n) - 1); }
+template <class V> inline V load_masked(const Lane<V>* p, size_t n, V others)
+{
+    using T = Lane<V>;
+    const LaneMask<T> mask = first_lanes<T>(n);
+    if constexpr (sizeof(T) == 1)
+        return as<V>(_mm512_mask_loadu_epi8(bits(others), mask, p));
+    else if constexpr (sizeof(T) == 2)
+        return as<V>(_mm512_mask_loadu_epi16(bits(others), mask, p));
+    else if constexpr (sizeof(T) == 4)
+        return as<V>(_mm512_mask_loadu_epi32(bits(others), mask, p));
+    else
+        return as<V>(_mm512_mask_loadu_epi64(bits(others), mask, p));
+}
+template <class T, class V> inline void store_masked(T* p, size_t n, V v)
+{
+    static_assert(sizeof v == 64);
+    const LaneMask<T> mask = first_lanes<T>(n);
+    if constexpr (sizeof(T) == 1)
+        _mm512_mask_storeu_epi8(p, mask, bits(v));
+    else if constexpr (sizeof(T) == 2)
+        _mm512_mask_storeu_epi16(p, mask, bits(v));
+    else if constexpr (sizeof(T) == 4)
+        _mm512_mask_storeu_epi32(p, mask, bits(v));
+    else
+        _mm512_mask_storeu_epi64(p, mask, bits(v));
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -78,6 +78,7 @@ template <class V> inline auto bits(V v) { return reinterpret_cast<Vec<long long
 constexpr bool hasByteShuffle = SIG5D_LEVEL >= 2;  // and products of fractions, magnitudes and signs of integers
 constexpr bool hasFloor = SIG5D_LEVEL >= 3;        // of doubles; widening to 64 bits
 constexpr bool has32BitMinimum = SIG5D_LEVEL >= 3; // and maximum, signed and unsigned
+constexpr bool hasMaskedMoves = SIG5D_LEVEL >= 6;  // of any lanes: what they do not reach in memory need not be there
 constexpr bool hasQuickChoice = SIG5D_LEVEL == 3;  // between lanes by a mask: two steps from AVX on
 
 } // namespace

@@ -33,6 +33,7 @@ struct LeastFirst {
     static u8 place(u8 x, int count) { return static_cast<u8>(x << count); }
 
     struct Joined {
+        static constexpr bool needsNeighbours = true; // in the same lanes of 16 bits
         int count;
         u8 operator()(u8 x, u8 y) const { return static_cast<u8>(x >> count | y << (8 - count)); }
 #if SIG5D_LEVEL > 0

@@ -62,7 +62,7 @@ struct Difference {
 #endif
 };
 
-// For a value minus an array.
+// For a value minus an array, within the limits.
 struct DifferenceFrom : Difference {
     template <class V> V saturated(V x, V y) const { return subtract_saturated_from(x, y); }
 };
@@ -87,7 +87,7 @@ template <class T> void subtract(const T* a, T v, T* d, int n, int s)
 }
 template <class T> void subtract_reversed(const T* a, T v, T* d, int n, int s)
 {
-    run_scaled<DifferenceFrom>(part_count(d, n), parts_of(d), s, repeated(v), parts_of(a));
+    run_scaled<Difference, DifferenceFrom>(part_count(d, n), parts_of(d), s, repeated(v), parts_of(a));
 }
 
 } // namespace
