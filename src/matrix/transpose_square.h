@@ -101,12 +101,14 @@ template <int size, int width, bool conj> size_t exchange_copies(Out<size> a, si
     return whole;
 }
 
-template <int size, int width, bool conj> void exchange_all(Out<size> a, size_t n)
+template <int size, int width, bool conj, bool mayBeLarge> void exchange_all(Out<size> a, size_t n)
 {
     constexpr size_t side = width / size > 4 ? width / size : 4, line = lineBytes / size, tile = 64;
     constexpr u64 secondLevel = u64(2) << 20;
-    const bool copies = sharesFewSets(a.step) && u64(n) * n * size >= secondLevel;
-    const size_t whole = n - n % side, done = copies ? exchange_copies<size, width, conj>(a, n) : 0;
+    const size_t whole = n - n % side;
+    size_t done = 0;
+    if constexpr (mayBeLarge)
+        if (sharesFewSets(a.step) && u64(n) * n * size >= secondLevel) done = exchange_copies<size, width, conj>(a, n);
     const auto end = [=](size_t i) { return i < whole ? i : whole; };
     // Steps that put many rows into few sets of the first cache level: all of a line is exchanged before the next one.
     const size_t group = a.step % 1024 == 0 ? line : tile;
@@ -131,8 +133,9 @@ template <int size> constexpr size_t smallestSquare = 16 / size > 4 ? 16 / size 
 // No two rows share an element.
 template <int size, bool conj> void transpose_square_apart(Out<size> a, size_t n)
 {
-    if (n < widest<size> / size) return exchange_all<size, 16, conj>(a, n);
-    exchange_all<size, widest<size>, conj>(a, n);
+    constexpr int wide = widest<size>;
+    if (n < wide / size) return exchange_all<size, 16, conj, wide == 16>(a, n);
+    exchange_all<size, wide, conj, true>(a, n);
 }
 
 } // namespace
