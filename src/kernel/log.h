@@ -23,7 +23,7 @@ template <class V> inline HalfLog<V> half_log(V x)
     return {k, f, f / (constant<V>(2.0) + f)};
 }
 
-// Within 0.8 ulp. 2 atanh(s) = f - s (f - r) with r = s^2 times the polynomial; s f = f^2/2 - s f^2/2 then leaves the
+// Within 0.9 ulp. 2 atanh(s) = f - s (f - r) with r = s^2 times the polynomial; s f = f^2/2 - s f^2/2 then leaves the
 // last rounding to a sum whose first term is exact.
 template <class V> inline V whole_log(const HalfLog<V>& h)
 {

@@ -28,7 +28,7 @@ template <class Argument> bool check(const char* kind, long points, Argument arg
         if (!(error <= worst)) worst = error, at = a;
     }
     std::printf("%-24s %.4f ulp at %a\n", kind, worst, at);
-    return worst < 0.8;
+    return worst < 0.9;
 }
 
 } // namespace
