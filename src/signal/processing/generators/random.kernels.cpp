@@ -6,19 +6,11 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-struct Linear {
-    f64 factor, offset;
-    template <class V> V operator()(V x) const { return x * constant<V>(factor) + constant<V>(offset); }
-};
-
 template <class T> struct Uniform {
     UniformState<T>& state;
     size_t operator()(f64* d, size_t n) const
     {
-        u32 draws[drawsAtOnce];
-        if (n > drawsAtOnce) n = drawsAtOnce;
-        draw(state.core, draws, n);
-        map<Heavy<2>>(n, d, Linear{state.scale, state.mid}, signed_numbers(draws));
+        draw_numbers(state.core, d, n, {state.scale, state.mid});
         return n;
     }
 };
@@ -45,9 +37,10 @@ template <class Next> [[gnu::noinline]] void fill(f64* d, size_t n, Next next)
 }
 template <class T, class Next> [[gnu::noinline]] void fill(T* d, size_t n, Next next)
 {
-    f64 numbers[drawsAtOnce];
+    constexpr size_t most = 128;
+    f64 numbers[most];
     while (n > 0) {
-        const size_t some = next(numbers, n < drawsAtOnce ? n : drawsAtOnce);
+        const size_t some = next(numbers, n < most ? n : most);
         round_to(d, numbers, some);
         d += some;
         n -= some;

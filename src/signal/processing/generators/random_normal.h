@@ -5,64 +5,82 @@
 #pragma once
 #include "kernel/complex.h"
 #include "kernel/log.h"
+#include "kernel/simd/compress.h"
 #include "signal/processing/generators/random_draws.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-struct Times {
-    f64 factor;
-    template <class V> V operator()(V x) const { return x * constant<V>(factor); }
-};
-struct SquaredModulus {
-    template <class V> V operator()(Complex<V> z) const { return z.re * z.re + z.im * z.im; }
+template <class V> struct HalfFactor {
+    HalfLog<V> log;
+    V square;
 };
 
 // What a point is multiplied by, from the square of its modulus.
-template <class V> inline V polar_factor(const HalfLog<V>& half, V square)
-{
-    return square_root(constant<V>(-2.0) * whole_log(half) / square);
-}
+struct PolarFactor {
+    template <class V> HalfFactor<V> first(V square) const { return {half_log(square), square}; }
+    template <class V> V second(const HalfFactor<V>& h) const
+    {
+        return square_root(constant<V>(-2.0) * whole_log(h.log) / h.square);
+    }
+};
 
 // The numbers that a point gives, the second coordinate's first.
-template <class V> struct HalfNormal {
-    HalfLog<V> log;
-    V square;
-    Complex<V> point;
-};
 struct NormalPair {
     f64 mean, stdDev;
     template <class V> V value(V u, V factor) const { return constant<V>(mean) + constant<V>(stdDev) * u * factor; }
-    template <class V> HalfNormal<V> first(Complex<V> point, V square) const
+    template <class V> Complex<V> operator()(V re, V im, V factor) const
     {
-        return {half_log(square), square, point};
-    }
-    template <class V> Complex<V> second(const HalfNormal<V>& h) const
-    {
-        const V factor = polar_factor(h.log, h.square);
-        return {value(h.point.im, factor), value(h.point.re, factor)};
+        return {value(im, factor), value(re, factor)};
     }
 };
 
-// Points of the square with the squares of their moduli, the accepted ones first.
+// Points within the circle and not in its centre, and the squares of their moduli.
 struct Points {
-    static constexpr size_t most = drawsAtOnce / 2;
-    c64f at[most];
-    f64 square[most];
-};
+    static constexpr size_t most = 64;
+    alignas(64) f64 re[most], im[most], square[most];
+    size_t count = 0;
 
-// Moves those within the circle, without its centre, to the front; how many there are.
-[[gnu::noinline]] size_t accept(Points& points, size_t n)
-{
-    size_t k = 0;
-    for (size_t i = 0; i < n; ++i) {
-        const f64 square = points.square[i];
-        points.at[k] = points.at[i];
-        points.square[k] = square;
-        k += static_cast<size_t>(square < 1.0) & static_cast<size_t>(square > 0.0);
+    // Those of n points that are.
+    template <int L = lanes<f64>> [[gnu::noinline]] void accept(const c64f* at, int n)
+    {
+        int i = 0;
+        if constexpr (L > 1)
+            for (; i + L <= n; i += L) {
+                const auto z = load_lanes<L>(complex(at + i));
+                const auto s = z.re * z.re + z.im * z.im;
+                const auto inside = both(less(s, splatn<L>(1.0)), less(splatn<L>(0.0), s));
+                add(z.re, z.im, s, static_cast<u32>(lanes_set(inside)));
+            }
+        for (; i < n; ++i) {
+            const f64 s = at[i].re * at[i].re + at[i].im * at[i].im;
+            put(at[i].re, at[i].im, s, s < 1.0 && s > 0.0);
+        }
     }
-    return k;
-}
+
+private:
+    void put(f64 x, f64 y, f64 s, bool accepted)
+    {
+        re[count] = x;
+        im[count] = y;
+        square[count] = s;
+        count += accepted;
+    }
+    // The lanes of a set; what lies behind them is not used. There is room for whole vectors, since of the points
+    // before these no more are accepted than there were.
+    template <class V> void add(V x, V y, V s, u32 set)
+    {
+        if constexpr (lanesMoved < sizeof(f64) >> 1) {
+            store(re + count, compressed(x, set));
+            store(im + count, compressed(y, set));
+            store(square + count, compressed(s, set));
+            count += bit_count(set);
+        } else {
+#pragma GCC unroll 4
+            for (int i = 0; i < lanes<f64>; ++i) put(x[i], y[i], s[i], set >> i & 1);
+        }
+    }
+};
 
 template <class T> struct Normal {
     NormalState<T>& state;
@@ -76,21 +94,21 @@ template <class T> struct Normal {
             state.nothingPending = 1;
             return 1;
         }
-        u32 draws[drawsAtOnce];
+        c64f at[Points::most];
         Points points;
         const size_t drawn = (n + 1) / 2 < Points::most ? (n + 1) / 2 : Points::most, pairs = n / 2;
-        draw(state.core, draws, 2 * drawn);
-        map<Heavy<2>>(2 * drawn, &points.at[0].re, Times{0x1p-31}, signed_numbers(draws));
-        map<Heavy<2>>(drawn, points.square, SquaredModulus{}, complex(points.at));
-        const size_t accepted = accept(points, drawn), whole = accepted < pairs ? accepted : pairs;
-        map_overlapped(whole, complex(reinterpret_cast<c64f*>(d)), pair, complex(points.at), points.square);
-        if (accepted == whole) return 2 * whole;
+        draw_numbers(state.core, &at[0].re, 2 * drawn, {0x1p-31, 0.0});
+        points.accept(at, static_cast<int>(drawn));
+        const size_t whole = points.count < pairs ? points.count : pairs;
+        f64 factors[Points::most]; // in a loop of their own: with the points there would not be enough registers
+        map_overlapped(points.count, factors, PolarFactor{}, points.square);
+        map<Medium>(whole, complex(reinterpret_cast<c64f*>(d)), pair, points.re, points.im, factors);
+        if (points.count == whole) return 2 * whole;
         // An odd number is wanted: the last point gives one now, and one to the next call.
-        const f64 square = points.square[whole];
-        state.u1 = points.at[whole].re;
-        state.factor = polar_factor(half_log(square), square);
+        state.u1 = points.re[whole];
+        state.factor = factors[whole];
         state.nothingPending = 0;
-        d[2 * whole] = pair.value(points.at[whole].im, state.factor);
+        d[2 * whole] = pair.value(points.im[whole], state.factor);
         return 2 * whole + 1;
     }
 };
