@@ -295,6 +295,13 @@ typedef struct IppsFIRSpec_64f IppsFIRSpec_64f;
 typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
+typedef struct IppsRandUniState_64f IppsRandUniState_64f;
+typedef struct IppsRandUniState_16s IppsRandUniState_16s;
+typedef struct IppsRandUniState_8u IppsRandUniState_8u;
+typedef struct IppsRandGaussState_64f IppsRandGaussState_64f;
+typedef struct IppsRandGaussState_32f IppsRandGaussState_32f;
+typedef struct IppsRandGaussState_16s IppsRandGaussState_16s;
+typedef struct IppsRandGaussState_8u IppsRandGaussState_8u;
 
 /* ---- Arithmetic on doubles, element by element ---- */
 
@@ -2034,6 +2041,74 @@ IppStatus SIG5D_CDECL ippsFIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, const Ipps
         pDlySrc, int dlySrcIdx, Ipp64f* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
 IppStatus SIG5D_CDECL ippsFIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, const IppsFIRSpec_64fc* pSpec, const Ipp64fc*
         pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
+
+/* ---- Random numbers ---- */
+
+/* The bytes of a state for ippsRandUniform: 64 for 64f, 56 for 16s and 8u. */
+IppStatus SIG5D_STDCALL ippsRandUniformGetSize_64f(int* pSize);
+IppStatus SIG5D_STDCALL ippsRandUniformGetSize_16s(int* pSize);
+IppStatus SIG5D_STDCALL ippsRandUniformGetSize_8u(int* pSize);
+
+/* mid = (low + high) * 0.5; scale = (high - low) * 2^-32. Fills a state, at any address, for numbers from low up
+   to high; the same seed gives the same numbers. high may be low, which gives that number, or below it. */
+IppStatus SIG5D_STDCALL ippsRandUniformInit_64f(IppsRandUniState_64f* pState, Ipp64f low, Ipp64f high, unsigned int
+        seed);
+IppStatus SIG5D_STDCALL ippsRandUniformInit_16s(IppsRandUniState_16s* pState, Ipp16s low, Ipp16s high, unsigned int
+        seed);
+IppStatus SIG5D_STDCALL ippsRandUniformInit_8u(IppsRandUniState_8u* pState, Ipp8u low, Ipp8u high, unsigned int seed);
+
+/* The bytes of a state: 72 each. */
+IppStatus SIG5D_STDCALL ippsRandGaussGetSize_32f(int* pSize);
+IppStatus SIG5D_STDCALL ippsRandGaussGetSize_16s(int* pSize);
+IppStatus SIG5D_STDCALL ippsRandGaussGetSize_8u(int* pSize);
+
+/* Fills a state, at any address, for numbers of that mean and standard deviation, which may be negative; the same
+   seed gives the same numbers. The generator is that of ippsRandUniformInit. */
+IppStatus SIG5D_STDCALL ippsRandGaussInit_32f(IppsRandGaussState_32f* pState, Ipp32f mean, Ipp32f stdDev, unsigned int
+        seed);
+IppStatus SIG5D_STDCALL ippsRandGaussInit_16s(IppsRandGaussState_16s* pState, Ipp16s mean, Ipp16s stdDev, unsigned int
+        seed);
+IppStatus SIG5D_STDCALL ippsRandGaussInit_8u(IppsRandGaussState_8u* pState, Ipp8u mean, Ipp8u stdDev, unsigned int
+        seed);
+
+/* pDst[i] = r * scale + mid. The next len numbers of the stream, each made of one draw r: from low on, below high.
+   Product and sum are rounded one after the other, so that a number may round to high. */
+IppStatus SIG5D_STDCALL ippsRandUniform_64f(Ipp64f* pDst, int len, IppsRandUniState_64f* pState);
+IppStatus SIG5D_CDECL ippsRandUniform_64f_Idx(Ipp64f* pDst, int dstIdx, int len, IppsRandUniState_64f* pState);
+
+/* pDst[i] = round(r * scale + mid). The next len numbers of the stream, each made of one draw r: the double of the
+   formula, rounded to the nearest integer, ties to the even one. low and high are half as often met as the
+   integers between them. */
+IppStatus SIG5D_STDCALL ippsRandUniform_16s(Ipp16s* pDst, int len, IppsRandUniState_16s* pState);
+IppStatus SIG5D_CDECL ippsRandUniform_16s_Idx(Ipp16s* pDst, int dstIdx, int len, IppsRandUniState_16s* pState);
+IppStatus SIG5D_STDCALL ippsRandUniform_8u(Ipp8u* pDst, int len, IppsRandUniState_8u* pState);
+IppStatus SIG5D_CDECL ippsRandUniform_8u_Idx(Ipp8u* pDst, int dstIdx, int len, IppsRandUniState_8u* pState);
+
+/* u1 = r * 2^-31; u2 = r' * 2^-31; s = u1*u1 + u2*u2; again while s >= 1 or s = 0; f = sqrt(-2*ln(s)/s); pDst[i] =
+   mean + stdDev*u2*f; pDst[i+1] = mean + stdDev*u1*f. The next len normal numbers of the stream, two from each
+   pair of draws r, r' that is accepted. The second number of the last pair, where len is odd, is the first one of
+   the next call. */
+IppStatus SIG5D_STDCALL ippsRandGauss_64f(Ipp64f* pDst, int len, IppsRandGaussState_64f* pState);
+IppStatus SIG5D_CDECL ippsRandGauss_64f_Idx(Ipp64f* pDst, int dstIdx, int len, IppsRandGaussState_64f* pState);
+
+/* pDst[i] = round(x[i]). The next len normal numbers of the stream: those that ippsRandGauss_64f would give for
+   the same mean, standard deviation and seed, rounded to the nearest integer, ties to the even one, and saturated.
+   Where len is odd a number waits for the next call there, too. */
+IppStatus SIG5D_STDCALL ippsRandGauss_16s(Ipp16s* pDst, int len, IppsRandGaussState_16s* pState);
+IppStatus SIG5D_CDECL ippsRandGauss_16s_Idx(Ipp16s* pDst, int dstIdx, int len, IppsRandGaussState_16s* pState);
+IppStatus SIG5D_STDCALL ippsRandGauss_8u(Ipp8u* pDst, int len, IppsRandGaussState_8u* pState);
+IppStatus SIG5D_CDECL ippsRandGauss_8u_Idx(Ipp8u* pDst, int dstIdx, int len, IppsRandGaussState_8u* pState);
+
+/* pDst[i] = r * scale + mid. The first len numbers of ippsRandUniform_64f from the seed at pSeed, which is not
+   changed: a second call gives them again. */
+IppStatus SIG5D_CDECL ippsRandUniform_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f low, Ipp64f high, const
+        unsigned int* pSeed);
+
+/* u1 = r * 2^-31; u2 = r' * 2^-31; s = u1*u1 + u2*u2; again while s >= 1 or s = 0; f = sqrt(-2*ln(s)/s); pDst[i] =
+   mean + stdDev*u2*f; pDst[i+1] = mean + stdDev*u1*f. The first len numbers of ippsRandGauss_64f from the seed at
+   pSeed, which is not changed: a second call gives them again. */
+IppStatus SIG5D_CDECL ippsRandGauss_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f mean, Ipp64f stdDev,
+        const unsigned int* pSeed);
 
 /* ---- Integer conversions and byte statistics ---- */
 

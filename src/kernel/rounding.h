@@ -1,8 +1,9 @@
 // Vectors of floating-point numbers times a power of two, rounded to integers within limits.
 #pragma once
 #include "kernel/lanes.h"
-#include "kernel/simd.h"
 #include "kernel/plain_rounding.h"
+#include "kernel/saturate.h"
+#include "kernel/simd.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -87,6 +88,16 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
             return low_halves(to<n / 2>(p), to<n / 2>(p + n / 2));
         else
             return lanes_of(load_lanes<n>(p));
+    }
+};
+
+// As elements of type D.
+template <class D> using LimitsOfInteger = Limits<width<D>, isSigned<D>>;
+template <class D, class Integers> struct AsElements {
+    Integers integers;
+    template <int n, class S> auto to(const S* p) const
+    {
+        return gather<D, n>(p, [this]<int k>(const S* q) { return integers.template to<k>(q); });
     }
 };
 

@@ -9,6 +9,7 @@
 #include "kernel/lanes.h"
 #include "kernel/libm.h"
 #include "kernel/libm_exp.h"
+#include "kernel/log.h"
 #include "kernel/map.h"
 #include "kernel/map_long.h"
 #include "kernel/map_short.h"

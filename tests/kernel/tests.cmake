@@ -4,7 +4,7 @@ sig5d_internal_test(stream kernel/stream_test.cpp kernel/convert_stream_test.cpp
 find_library(SIG5D_MPFR mpfr)
 find_library(SIG5D_GMP gmp)
 if(SIG5D_MPFR AND SIG5D_GMP AND NOT WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 8)
-    foreach(name libm_mpfr powers_mpfr)
+    foreach(name libm_mpfr log_mpfr powers_mpfr)
         sig5d_internal_test(${name} kernel/${name}_test.cpp)
         target_link_libraries(${name}_test PRIVATE ${SIG5D_MPFR} ${SIG5D_GMP})
     endforeach()

@@ -7,28 +7,18 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class D> using LimitsOf = Limits<width<D>, isSigned<D>>;
-
 template <class S, class D> void convert_plain(const S* a, D* d, int n, int mode, Scale scale)
 {
-    for (int i = 0; i < n; ++i) d[i] = static_cast<D>(rounded<LimitsOf<D>>(a[i], scale, mode));
+    for (int i = 0; i < n; ++i) d[i] = static_cast<D>(rounded<LimitsOfInteger<D>>(a[i], scale, mode));
 }
-
-template <class D, class Integers> struct Narrow {
-    Integers integers;
-    template <int n, class S> auto to(const S* p) const
-    {
-        return gather<D, n>(p, [this]<int k>(const S* q) { return integers.template to<k>(q); });
-    }
-};
 
 template <Rounding mode, bool scaled, class S, class D> void convert_vectors(const S* a, D* d, int n, f64 factor)
 {
     // Doubles become integers in 16 bytes: to join those to longer vectors takes more than to store them.
     constexpr int bytes = sizeof(S) == 8 ? 16 : vectorBytes;
     using Shape = InFlight<sizeof(S) / sizeof(D) >= 8 ? 1 : 2, false, bytes>; // each has as many conversions under way
-    using Integers = Rounded<S, LimitsOf<D>, mode, scaled>;
-    map<Shape>(static_cast<size_t>(n), d, Same{}, converted(a, Narrow<D, Integers>{Integers(static_cast<S>(factor))}));
+    using Integers = Rounded<S, LimitsOfInteger<D>, mode, scaled>;
+    map<Shape>(static_cast<size_t>(n), d, Same{}, converted(a, AsElements<D, Integers>{Integers(static_cast<S>(factor))}));
 }
 
 template <class S, class D> [[gnu::noinline]] void convert(const S* a, D* d, int n, int mode, int s)
