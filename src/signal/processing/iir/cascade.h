@@ -3,8 +3,8 @@
 //   y = b0*x + d0;  d0 = b1*x + d1 - a1*y;  d1 = b2*x - a2*y
 //
 // From one y to the next lead a product, a difference and a sum, and nothing shortens that. So the sections go side by
-// side, each in a lane of its own and two samples behind the one before it. With one sample between them every lane
-// would wait for its neighbour's y to move over.
+// side in lanes: each lane has a few sections that follow one another, one in each vector, and lags so many samples
+// behind the lane before it that nobody waits for a value to move from lane to lane.
 #pragma once
 #include "signal/processing/iir/numbers.h"
 
@@ -44,134 +44,107 @@ template <class T> void oneByOne(const T* src, T* dst, ptrdiff_t n, Cascade<T> c
 
 #if SIG5D_LEVEL > 0
 
-// Vectors that go side by side. One of real sections leaves the processor idle most of the time; of complex ones, two
-// times two products for each, it does not.
+// Vectors that go side by side. One of real sections leaves the processor idle most of the time; of complex ones, four
+// products and two sums for each, it does not.
 template <class T> constexpr int mostVectors = partsOf<T> == 1 ? 4 : 1;
 
-// Masks of lanes from a place on, or up to one, by where one starts to read.
-constexpr int mostPlaces = 4 * lanes<f64>;
+// Masks of lanes from one on, or up to one, by where one starts to read.
 struct Window {
-    u64 lanes[3 * mostPlaces];
+    u64 lane[3 * lanes<f64>];
 };
 constexpr Window windowOf()
 {
     Window w = {};
-    for (int i = mostPlaces; i < 2 * mostPlaces; ++i) w.lanes[i] = ~u64{0};
+    for (int i = lanes<f64>; i < 2 * lanes<f64>; ++i) w.lane[i] = ~u64{0};
     return w;
 }
 constexpr Window window = windowOf();
+inline Vec<f64> lanesFrom(int first) { return as<Vec<f64>>(loadn<lanes<f64>>(window.lane + lanes<f64> - first)); }
+inline Vec<f64> lanesBelow(int end) { return as<Vec<f64>>(loadn<lanes<f64>>(window.lane + 2 * lanes<f64> - end)); }
 
-// Places are counted through the lanes of all vectors. The first section has the last place, so that a vector moved
-// down by a lane brings each section the output of the one before it, and the last section may have any lane of the
-// first vector. Lanes below it hold zeros, their taps included. So do, in what is computed of them, the lanes of
-// sections that have no sample yet or none any more: nothing that an infinite or huge sample would raise an exception
-// with.
+// Section s is in vector s % vectors. The lanes go downwards, so that the last section is in the lowest one. Where no
+// section is there are zeros, taps included. So are, in what is computed of them, the delays of lanes that have no
+// sample yet or none any more: nothing that an infinite or huge sample would raise an exception with.
 template <class T, int vectors> struct Skewed {
-    static constexpr int w = lanes<f64>, places = vectors * w;
+    static constexpr int w = lanes<f64>;
+    static constexpr int lag =
+        vectors == 1 ? 2 : 4; // of a lane: what a value takes through all vectors and to the next lane
     using V = Number<T, w>;
     using Mask = Vec<f64, w>;
 
     Section<V> section[vectors];
     V d0[vectors], d1[vectors];
-    V even[vectors] = {}, odd[vectors] = {}; // outputs of all sections for samples of even and of odd numbers
+    V left[lag] = {};          // the last vector's outputs for the last samples
+    Mask entry, used[vectors]; // the lane of the first section; lanes that have a section in this vector
 
-    // all: only the lanes that `active` sets go on. The others keep their delays.
-    template <bool all> [[gnu::always_inline]] void step(V (&y)[vectors], V in, const Mask (&active)[vectors])
+    // all: otherwise only the lanes that `active` sets go on, and the others keep their delays. Gives the output of the
+    // cascade in the lowest lane.
+    template <bool all> [[gnu::always_inline]] V step(V in, int lastVector, Mask active = Mask{})
     {
+        V x = chosen(entry, in, lanes_shifted_down(left[lag - 1], V{})), out = x;
 #pragma GCC unroll 4
         for (int v = 0; v < vectors; ++v) {
-            const V x =
-                masked(lanes_shifted_down(y[v], v + 1 < vectors ? y[v + 1 < vectors ? v + 1 : v] : in), active[v]);
+            if (v > 0) x = masked(x, used[v]);
             if constexpr (all) {
-                y[v] = section[v](x, d0[v], d1[v]);
+                x = section[v](x, d0[v], d1[v]);
             } else {
-                V next0 = masked(d0[v], active[v]), next1 = masked(d1[v], active[v]);
-                y[v] = section[v](x, next0, next1);
-                d0[v] = chosen(active[v], next0, d0[v]);
-                d1[v] = chosen(active[v], next1, d1[v]);
+                V next0 = masked(d0[v], active), next1 = masked(d1[v], active);
+                x = section[v](x, next0, next1);
+                d0[v] = chosen(active, next0, d0[v]);
+                d1[v] = chosen(active, next1, d1[v]);
             }
+            if (v == lastVector) out = x;
         }
+#pragma GCC unroll 4
+        for (int k = lag - 1; k > 0; --k) left[k] = left[k - 1];
+        left[0] = x;
+        return out;
     }
 };
 
-template <int vectors>
-[[gnu::always_inline]] inline void loadMasks(const u64* p, Vec<f64, lanes<f64>> (&masks)[vectors])
-{
-    constexpr int w = lanes<f64>;
-    for (int v = 0; v < vectors; ++v) masks[v] = as<Vec<f64, w>>(loadn<w>(p + v * w));
-}
-
-// As many sections as the vectors have lanes, at most w - 1 less, and more samples than a section lags behind.
+// Fewer sections than vectors, or as many as the vectors have lanes, and more samples than the lanes lag behind.
 template <int vectors, class T> [[gnu::noinline]] void skewed(const T* src, T* dst, ptrdiff_t n, const Cascade<T>& c)
 {
     using S = Skewed<T, vectors>;
     using V = typename S::V;
-    constexpr int w = S::w, places = S::places, rows = tapsInSection + delaysInSection;
-    alignas(64) f64 memory[rows][partsOf<T> * places] = {};
-    const auto row = [&](int r) { return Row<T>(memory[r], places); };
-    for (int s = 0; s < c.sections; ++s) {
-        const int place = places - 1 - s;
-        for (int r = 0; r < tapsInSection; ++r) row(r).set(place, c.taps.get(s * tapsInSection + r));
-        for (int r = 0; r < delaysInSection; ++r) row(tapsInSection + r).set(place, c.d.get(s * delaysInSection + r));
-    }
+    constexpr int w = S::w, rows = tapsInSection + delaysInSection;
+    const int lanesUsed = (c.sections + vectors - 1) / vectors, lastVector = (c.sections - 1) % vectors;
+    const auto laneOf = [&](int s) { return lanesUsed - 1 - s / vectors; };
+
+    alignas(64) f64 memory[vectors][rows][partsOf<T> * w] = {};
+    const auto row = [&](int v, int r) { return Row<T>(memory[v][r], w); };
+    for (int s = 0; s < c.sections; ++s)
+        for (int r = 0; r < rows; ++r)
+            row(s % vectors, r)
+                .set(laneOf(s), r < tapsInSection ? c.taps.get(s * tapsInSection + r)
+                                                  : c.d.get(s * delaysInSection + r - tapsInSection));
     S lane;
     for (int v = 0; v < vectors; ++v) {
-        const auto get = [&](int r) { return row(r).template get<w>(v * w); };
+        const auto get = [&](int r) { return row(v, r).template get<w>(0); };
         lane.section[v] = {get(0), get(1), get(2), get(3), get(4)};
         lane.d0[v] = get(5);
         lane.d1[v] = get(6);
+        lane.used[v] = lanesFrom(v > lastVector);
     }
+    lane.entry = both(lanesFrom(lanesUsed - 1), lanesBelow(lanesUsed));
 
-    const int output = places - c.sections;
-    const ptrdiff_t lag = 2 * (c.sections - 1);
-    const auto put = [&](T* p, const V& y) { // by way of memory, where a lane has an address
-        alignas(64) f64 lowest[partsOf<T> * w];
-        const Row<T> r(lowest, w);
-        r.template set<w>(0, y);
-        setSample(p, r.get(output));
-    };
+    const ptrdiff_t lag = S::lag * (lanesUsed - 1);
     const auto in = [](const T* p) { return inAllLanes<w>(sample(p)); };
-
-    typename S::Mask active[vectors], used[vectors];
-    loadMasks(window.lanes + mostPlaces - output, used);
     ptrdiff_t i = 0;
-    for (; i < lag; i += 2) {
-        loadMasks(window.lanes + mostPlaces - places + 1 + i / 2, active);
-        lane.template step<false>(lane.even, in(src + i), active);
-        lane.template step<false>(lane.odd, in(src + i + 1), active);
-    }
-    for (; i + 1 < n; i += 2) {
-        const V x = in(src + i), next = in(src + i + 1);
-        lane.template step<true>(lane.even, x, used);
-        put(dst + i - lag, lane.even[0]);
-        lane.template step<true>(lane.odd, next, used);
-        put(dst + i + 1 - lag, lane.odd[0]);
-    }
-    if (i < n) {
-        lane.template step<true>(lane.even, in(src + i), used);
-        put(dst + i - lag, lane.even[0]);
-        for (int v = 0; v < vectors; ++v) {
-            const V y = lane.even[v];
-            lane.even[v] = lane.odd[v];
-            lane.odd[v] = y;
-        }
-    }
-    for (ptrdiff_t rest = 0; rest < lag; rest += 2) {
-        loadMasks(window.lanes + mostPlaces + (mostPlaces - places) + 1 + rest / 2, active);
-        for (int v = 0; v < vectors; ++v) active[v] = both(active[v], used[v]);
-        lane.template step<false>(lane.even, V{}, active);
-        put(dst + n + rest - lag, lane.even[0]);
-        lane.template step<false>(lane.odd, V{}, active);
-        put(dst + n + rest + 1 - lag, lane.odd[0]);
+    for (; i < lag; ++i) lane.template step<false>(in(src + i), lastVector, lanesFrom(lanesUsed - 1 - i / S::lag));
+    for (; i < n; ++i) setSample(dst + i - lag, lowestLane(lane.template step<true>(in(src + i), lastVector)));
+    for (i = 0; i < lag; ++i) {
+        const auto active = lanesBelow(lanesUsed - 1 - i / S::lag);
+        setSample(dst + n + i - lag, lowestLane(lane.template step<false>(V{}, lastVector, active)));
     }
 
     for (int v = 0; v < vectors; ++v) {
-        row(5).template set<w>(v * w, lane.d0[v]);
-        row(6).template set<w>(v * w, lane.d1[v]);
+        row(v, 5).template set<w>(0, lane.d0[v]);
+        row(v, 6).template set<w>(0, lane.d1[v]);
     }
     for (int s = 0; s < c.sections; ++s)
         for (int r = 0; r < delaysInSection; ++r)
-            c.d.set(s * delaysInSection + r, row(tapsInSection + r).get(places - 1 - s));
+            c.d.set(s * delaysInSection + r, row(s % vectors, tapsInSection + r).get(laneOf(s)));
 }
 
 // A zero times an infinite tap raises an exception.
@@ -193,7 +166,7 @@ template <class T> void filter(const T* src, T* dst, ptrdiff_t n, Cascade<T> c)
     while (c.sections > 0) {
         const int sections = c.sections < most ? c.sections : most, vectors = (sections + w - 1) / w;
         const Cascade<T> now = {sections, c.taps, c.d};
-        if (sections == 1 || n <= 4 * sections || !allFinite(c.taps, sections * tapsInSection))
+        if (sections == 1 || n < 32 || !allFinite(c.taps, sections * tapsInSection))
             oneByOne(src, dst, n, now);
         else if (vectors == 1)
             skewed<1>(src, dst, n, now);

@@ -49,79 +49,102 @@ template <int order, class T> void ofLowOrder(const T* src, T* dst, ptrdiff_t n,
     for (int k = 0; k < order; ++k) f.d.set(k, d[k]);
 }
 
-template <class V> inline V allButLastLane()
+// What changes no sum in the present rounding mode: the opposite of the zero that equal numbers leave.
+inline f64 neutralZero()
 {
-    typename BitsOf<V>::type bits{};
-    for (size_t i = 0; i + 1 < sizeof(V) / sizeof(u64); ++i) bits[i] = ~u64{0};
-    return BitsOf<V>::back(bits);
+    f64 one = 1.0;
+    asm volatile("" : "+x"(one));
+    const f64 zero = one - one;
+    return -zero;
 }
 
-// Two samples at a time, so that a vector of delays waits for memory every other sample only. d[0] and d[1] are single
-// numbers. From d[2] on whole vectors stand in memory, each of which takes the lowest lane of the next one. The last w
-// delays are a vector in a register, however many of them the vectors below have too: nothing goes into its last lane,
-// and the lane that the topmost of the others takes is read back from a copy.
+template <class T> inline Number<T> neutral()
+{
+    if constexpr (partsOf<T> == 1)
+        return neutralZero();
+    else
+        return {neutralZero(), neutralZero()};
+}
+
+// Two samples at a time, so that a vector of delays waits for memory every other sample only. The first delays are
+// single numbers, as many as it takes for the others to come in time. Then follow whole vectors, each of which takes
+// the lowest lane of the next one; the first of them is in a register. So are the last w delays, however many of them
+// the other vectors have too: their last lane takes nothing, and the lane that the topmost vector below takes is read
+// back from a copy.
 template <int w, class T> void byVectors(const T* src, T* dst, ptrdiff_t pairs, Direct<T> f)
 {
     using X = Number<T>;
     using V = Number<T, w>;
-    const int top = f.order - w, vectors = (f.order - 3) / w, laneTaken = 2 + vectors * w - top;
-    const X b0 = f.b.get(0), b1 = f.b.get(1), b2 = f.b.get(2), a1 = f.a.get(1), a2 = f.a.get(2);
-    X d0 = f.d.get(0), d1 = f.d.get(1);
-    V last = f.d.template get<w>(top);
-    const auto keeping = allButLastLane<Vec<f64, w>>();
+    constexpr int head = partsOf<T> == 1 ? 3 : 2;
+    const int top = f.order - w, vectors = (f.order - head - 1) / w, laneTaken = head + vectors * w - top;
+    X b[head + 1], a[head + 1], d[head];
+    for (int k = 0; k <= head; ++k) {
+        b[k] = f.b.get(k);
+        if (k > 0) a[k] = f.a.get(k);
+        if (k < head) d[k] = f.d.get(k);
+    }
+    V start = {}, last = f.d.template get<w>(top), nothing = inAllLanes<w>(neutral<T>());
+    if (vectors > 0) start = f.d.template get<w>(head);
     f64 copies[2][partsOf<T> * w];
     const Row<T> copyOfFirst(copies[0], w), copyOfSecond(copies[1], w); // after the first sample of a pair, the second
     copyOfSecond.template set<w>(0, last);
 
-    const auto input = [&](int k, V x, V y) { return f.b.template get<w>(k + 1) * x - f.a.template get<w>(k + 1) * y; };
-    const auto lastAfter = [&](V x, V y) {
-        const V in = input(top, x, y);
-        return chosen(keeping, in + masked(lanes_shifted_down(last, last), keeping), in);
+    const auto input = [&](int k, V x, V y) { // of the delays from d[k] on
+        return f.b.template get<w>(k + 1) * x - f.a.template get<w>(k + 1) * y;
+    };
+    const auto moveHead = [&](X x, X y, X above) {
+#pragma GCC unroll 4
+        for (int k = 0; k < head; ++k)
+            d[k] = b[k + 1] * x - a[k + 1] * y + (k + 1 < head ? d[k + 1 < head ? k + 1 : k] : above);
     };
 
     for (; pairs > 0; --pairs, src += 2, dst += 2) {
+        const X taken = copyOfSecond.get(laneTaken);
         const X x = sample(src), x2 = sample(src + 1);
-        const X y = b0 * x + d0;
-        d0 = b1 * x - a1 * y + d1;
-        const X y2 = b0 * x2 + d0;
+        const X y = b[0] * x + d[0];
+        moveHead(x, y, vectors > 0 ? lowestLane(start) : taken);
+        const X y2 = b[0] * x2 + d[0];
         setSample(dst, y);
         setSample(dst + 1, y2);
-        const V xs = inAllLanes<w>(x), ys = inAllLanes<w>(y), xs2 = inAllLanes<w>(x2), ys2 = inAllLanes<w>(y2);
 
-        const X taken = copyOfSecond.get(laneTaken);
-        last = lastAfter(xs, ys);
+        const V xs = inAllLanes<w>(x), ys = inAllLanes<w>(y), xs2 = inAllLanes<w>(x2), ys2 = inAllLanes<w>(y2);
+        last = input(top, xs, ys) + lanes_shifted_down(last, nothing);
         copyOfFirst.template set<w>(0, last);
-        last = lastAfter(xs2, ys2);
+        last = input(top, xs2, ys2) + lanes_shifted_down(last, nothing);
         copyOfSecond.template set<w>(0, last);
         const X taken2 = copyOfFirst.get(laneTaken);
 
-        X d2 = taken, d2next = taken2;
+        X aboveHead = taken2;
         if (vectors > 0) {
-            V now = f.d.template get<w>(2), above;
-            const auto next = [&](int k) {
-                above = k < vectors ? f.d.template get<w>(2 + k * w) : inAllLanes<w>(taken);
+            const auto stored = [&](int k) {
+                return k < vectors ? f.d.template get<w>(head + k * w) : inAllLanes<w>(taken);
             };
-            d2 = lowestLane(now);
-            next(1);
-            V first = input(2, xs, ys) + lanes_shifted_down(now, above), second = input(2, xs2, ys2);
-            d2next = lowestLane(first);
+            V above = stored(1);
+            V first = input(head, xs, ys) + lanes_shifted_down(start, above), second = input(head, xs2, ys2);
+            aboveHead = lowestLane(first);
             for (int k = 1; k < vectors; ++k) {
-                now = above;
-                next(k + 1);
-                const V firstAbove = input(2 + k * w, xs, ys) + lanes_shifted_down(now, above);
-                f.d.template set<w>(2 + (k - 1) * w, second + lanes_shifted_down(first, firstAbove));
-                second = input(2 + k * w, xs2, ys2);
-                first = firstAbove;
+                const V now = above;
+                above = stored(k + 1);
+                const V next = input(head + k * w, xs, ys) + lanes_shifted_down(now, above);
+                const V finished = second + lanes_shifted_down(first, next);
+                if (k == 1)
+                    start = finished;
+                else
+                    f.d.template set<w>(head + (k - 1) * w, finished);
+                second = input(head + k * w, xs2, ys2);
+                first = next;
             }
-            f.d.template set<w>(2 + (vectors - 1) * w, second + lanes_shifted_down(first, inAllLanes<w>(taken2)));
+            const V finished = second + lanes_shifted_down(first, inAllLanes<w>(taken2));
+            if (vectors == 1)
+                start = finished;
+            else
+                f.d.template set<w>(head + (vectors - 1) * w, finished);
         }
-        d1 = b2 * x - a2 * y + d2;
-        d0 = b1 * x2 - a1 * y2 + d1;
-        d1 = b2 * x2 - a2 * y2 + d2next;
+        moveHead(x2, y2, aboveHead);
     }
+    if (vectors > 0) f.d.template set<w>(head, start);
     f.d.template set<w>(top, last);
-    f.d.set(0, d0);
-    f.d.set(1, d1);
+    for (int k = 0; k < head; ++k) f.d.set(k, d[k]);
 }
 
 #endif
