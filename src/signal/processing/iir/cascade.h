@@ -3,8 +3,7 @@
 //   y = b0*x + d0;  d0 = b1*x + d1 - a1*y;  d1 = b2*x - a2*y
 //
 // From one y to the next lead a product, a difference and a sum, and nothing shortens that. So the sections go side by
-// side in lanes: each lane has a few sections that follow one another, one in each vector, and lags so many samples
-// behind the lane before it that nobody waits for a value to move from lane to lane.
+// side, in lanes of several vectors, each so many samples behind the one before it that nobody waits for its input.
 #pragma once
 #include "signal/processing/iir/numbers.h"
 
@@ -62,89 +61,109 @@ constexpr Window window = windowOf();
 inline Vec<f64> lanesFrom(int first) { return as<Vec<f64>>(loadn<lanes<f64>>(window.lane + lanes<f64> - first)); }
 inline Vec<f64> lanesBelow(int end) { return as<Vec<f64>>(loadn<lanes<f64>>(window.lane + 2 * lanes<f64> - end)); }
 
-// Section s is in vector s % vectors. The lanes go downwards, so that the last section is in the lowest one. Where no
-// section is there are zeros, taps included. So are, in what is computed of them, the delays of lanes that have no
-// sample yet or none any more: nothing that an infinite or huge sample would raise an exception with.
+// Sections that follow one another go through the vectors of a lane and then to the next lane below, so that the last
+// one is in the last vector's lowest lane. The first lane may have fewer. Each vector lags a sample behind the one
+// before it, so that all of them can go on at once. Where no section is there are zeros, taps included. So are, in what
+// is computed of them, the delays of lanes that have no sample yet or none any more: nothing that an infinite or huge
+// sample would raise an exception with.
 template <class T, int vectors> struct Skewed {
     static constexpr int w = lanes<f64>;
-    static constexpr int lag =
-        vectors == 1 ? 2 : 4; // of a lane: what a value takes through all vectors and to the next lane
     using V = Number<T, w>;
-    using Mask = Vec<f64, w>;
 
     Section<V> section[vectors];
-    V d0[vectors], d1[vectors];
-    V left[lag] = {};          // the last vector's outputs for the last samples
-    Mask entry, used[vectors]; // the lane of the first section; lanes that have a section in this vector
+    V d0[vectors], d1[vectors], y[vectors] = {};
+    int firstVector;
+    Vec<f64> firstLane; // where the input enters
 
-    // all: otherwise only the lanes that `active` sets go on, and the others keep their delays. Gives the output of the
-    // cascade in the lowest lane.
-    template <bool all> [[gnu::always_inline]] V step(V in, int lastVector, Mask active = Mask{})
+    // The next sample in each lane. `before` is what the last vector gave for those that come to the next lane now.
+    // Only the lanes that active(v) sets go on, unless all do; the others keep their delays.
+    template <bool all, class Active> [[gnu::always_inline]] V step(V in, V before, Active active)
     {
-        V x = chosen(entry, in, lanes_shifted_down(left[lag - 1], V{})), out = x;
 #pragma GCC unroll 4
-        for (int v = 0; v < vectors; ++v) {
-            if (v > 0) x = masked(x, used[v]);
+        for (int v = vectors - 1; v >= 0; --v) {
+            V x = v > 0 ? y[v > 0 ? v - 1 : 0] : lanes_shifted_down(before, V{});
+            if (vectors == 1 || v == firstVector) x = chosen(firstLane, in, x);
             if constexpr (all) {
-                x = section[v](x, d0[v], d1[v]);
+                y[v] = section[v](x, d0[v], d1[v]);
             } else {
-                V next0 = masked(d0[v], active), next1 = masked(d1[v], active);
-                x = section[v](x, next0, next1);
-                d0[v] = chosen(active, next0, d0[v]);
-                d1[v] = chosen(active, next1, d1[v]);
+                const Vec<f64> mask = active(v);
+                V next0 = masked(d0[v], mask), next1 = masked(d1[v], mask);
+                y[v] = section[v](x, next0, next1);
+                d0[v] = chosen(mask, next0, d0[v]);
+                d1[v] = chosen(mask, next1, d1[v]);
             }
-            if (v == lastVector) out = x;
         }
-#pragma GCC unroll 4
-        for (int k = lag - 1; k > 0; --k) left[k] = left[k - 1];
-        left[0] = x;
-        return out;
+        return y[vectors - 1];
     }
 };
 
-// Fewer sections than vectors, or as many as the vectors have lanes, and more samples than the lanes lag behind.
+// More sections than vectors, at most as many as these have lanes, and at least `fewestSamples`.
+constexpr int fewestSamples = 40; // more than any lane lags behind
 template <int vectors, class T> [[gnu::noinline]] void skewed(const T* src, T* dst, ptrdiff_t n, const Cascade<T>& c)
 {
     using S = Skewed<T, vectors>;
     using V = typename S::V;
     constexpr int w = S::w, rows = tapsInSection + delaysInSection;
-    const int lanesUsed = (c.sections + vectors - 1) / vectors, lastVector = (c.sections - 1) % vectors;
-    const auto laneOf = [&](int s) { return lanesUsed - 1 - s / vectors; };
+    const int used = (c.sections + vectors - 1) / vectors, missing = used * vectors - c.sections;
 
     alignas(64) f64 memory[vectors][rows][partsOf<T> * w] = {};
     const auto row = [&](int v, int r) { return Row<T>(memory[v][r], w); };
-    for (int s = 0; s < c.sections; ++s)
-        for (int r = 0; r < rows; ++r)
-            row(s % vectors, r)
-                .set(laneOf(s), r < tapsInSection ? c.taps.get(s * tapsInSection + r)
-                                                  : c.d.get(s * delaysInSection + r - tapsInSection));
+    const auto eachNumber = [&](auto exchange, int from, int to) {
+        for (int s = 0; s < c.sections; ++s)
+            for (int r = from; r < to; ++r)
+                exchange(row((s + missing) % vectors, r), used - 1 - (s + missing) / vectors,
+                         r < tapsInSection ? c.taps : c.d,
+                         r < tapsInSection ? s * tapsInSection + r : s * delaysInSection + r - tapsInSection);
+    };
+    eachNumber([](Row<T> r, int lane, Row<T> given, int i) { r.set(lane, given.get(i)); }, 0, rows);
     S lane;
     for (int v = 0; v < vectors; ++v) {
         const auto get = [&](int r) { return row(v, r).template get<w>(0); };
         lane.section[v] = {get(0), get(1), get(2), get(3), get(4)};
         lane.d0[v] = get(5);
         lane.d1[v] = get(6);
-        lane.used[v] = lanesFrom(v > lastVector);
     }
-    lane.entry = both(lanesFrom(lanesUsed - 1), lanesBelow(lanesUsed));
+    lane.firstVector = missing;
+    lane.firstLane = both(lanesFrom(used - 1), lanesBelow(used));
 
-    const ptrdiff_t lag = S::lag * (lanesUsed - 1);
-    const auto in = [](const T* p) { return inAllLanes<w>(sample(p)); };
+    // What the last vector gave waits for some samples until the next lane comes to it: in registers where there are
+    // two of them, since the way through memory takes longer than two samples of a single vector.
+    constexpr int waiting = vectors == 2 ? 4 : 2, lag = vectors - 1 + waiting;
+    V newest = {}, older = {};
+    alignas(64) f64 places[waiting][partsOf<T> * w] = {};
+    const auto step = [&]<bool all>(ptrdiff_t i, V in, auto active) {
+        if constexpr (vectors == 1) {
+            const V y = lane.template step<all>(in, older, active);
+            older = newest;
+            newest = y;
+            return lowestLane(y);
+        } else {
+            const Row<T> place(places[i % waiting], w);
+            const V y = lane.template step<all>(in, place.template get<w>(0), active);
+            place.template set<w>(0, y);
+            return lowestLane(y);
+        }
+    };
+    const auto in = [&](ptrdiff_t i) { return inAllLanes<w>(sample(src + i)); };
+    // Lanes, from the top, that a sample has reached in a vector by the time that the input is at i; -1: none.
+    const auto reached = [&](ptrdiff_t i, int v) { return (static_cast<int>(i) - v + missing + lag) / lag - 1; };
+    const ptrdiff_t late = lag * (used - 1) + vectors - 1 - missing;
+    static_assert(fewestSamples >= lag * (w - 1) + vectors - 1);
+
     ptrdiff_t i = 0;
-    for (; i < lag; ++i) lane.template step<false>(in(src + i), lastVector, lanesFrom(lanesUsed - 1 - i / S::lag));
-    for (; i < n; ++i) setSample(dst + i - lag, lowestLane(lane.template step<true>(in(src + i), lastVector)));
-    for (i = 0; i < lag; ++i) {
-        const auto active = lanesBelow(lanesUsed - 1 - i / S::lag);
-        setSample(dst + n + i - lag, lowestLane(lane.template step<false>(V{}, lastVector, active)));
+    for (; i < late; ++i)
+        step.template operator()<false>(i, in(i), [&](int v) { return lanesFrom(used - 1 - reached(i, v)); });
+    for (; i < n; ++i) setSample(dst + i - late, step.template operator()<true>(i, in(i), 0));
+    for (; i < n + late; ++i) {
+        const auto active = [&](int v) { return lanesBelow(used - 1 - reached(i - n, v)); };
+        setSample(dst + i - late, step.template operator()<false>(i, V{}, active));
     }
 
     for (int v = 0; v < vectors; ++v) {
         row(v, 5).template set<w>(0, lane.d0[v]);
         row(v, 6).template set<w>(0, lane.d1[v]);
     }
-    for (int s = 0; s < c.sections; ++s)
-        for (int r = 0; r < delaysInSection; ++r)
-            c.d.set(s * delaysInSection + r, row(s % vectors, tapsInSection + r).get(laneOf(s)));
+    eachNumber([](Row<T> r, int lane, Row<T> given, int i) { given.set(i, r.get(lane)); }, tapsInSection, rows);
 }
 
 // A zero times an infinite tap raises an exception.
@@ -166,7 +185,7 @@ template <class T> void filter(const T* src, T* dst, ptrdiff_t n, Cascade<T> c)
     while (c.sections > 0) {
         const int sections = c.sections < most ? c.sections : most, vectors = (sections + w - 1) / w;
         const Cascade<T> now = {sections, c.taps, c.d};
-        if (sections == 1 || n < 32 || !allFinite(c.taps, sections * tapsInSection))
+        if (sections == 1 || n < fewestSamples || !allFinite(c.taps, sections * tapsInSection))
             oneByOne(src, dst, n, now);
         else if (vectors == 1)
             skewed<1>(src, dst, n, now);

@@ -41,7 +41,7 @@ template <int order, class T> void ofLowOrder(const T* src, T* dst, ptrdiff_t n,
     }
     for (ptrdiff_t i = 0; i < n; ++i) {
         const Number<T> x = sample(src + i), y = b[0] * x + d[0];
-#pragma GCC unroll 4
+#pragma GCC unroll 8
         for (int k = 0; k + 1 < order; ++k) d[k] = b[k + 1] * x - a[k + 1] * y + d[k + 1];
         d[order - 1] = b[order] * x - a[order] * y;
         setSample(dst + i, y);
@@ -155,6 +155,10 @@ template <class T> void filter(const T* src, T* dst, ptrdiff_t n, Direct<T> f)
     if (f.order == 1) return ofLowOrder<1>(src, dst, n, f);
     if (f.order == 2) return ofLowOrder<2>(src, dst, n, f);
     if (f.order == 3) return ofLowOrder<3>(src, dst, n, f);
+    if constexpr (partsOf<T> == 1) { // of complex numbers vectors take less
+        if (f.order == 4) return ofLowOrder<4>(src, dst, n, f);
+        if (f.order == 5) return ofLowOrder<5>(src, dst, n, f);
+    }
     const ptrdiff_t pairs = n / 2;
     if (pairs > 0) {
         constexpr int widest = lanes<f64>;
