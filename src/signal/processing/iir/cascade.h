@@ -126,16 +126,19 @@ template <int vectors, class T> [[gnu::noinline]] void skewed(const T* src, T* d
     lane.firstVector = missing;
     lane.firstLane = both(lanesFrom(used - 1), lanesBelow(used));
 
-    // What the last vector gave waits for some samples until the next lane comes to it: in registers where there are
-    // two of them, since the way through memory takes longer than two samples of a single vector.
-    constexpr int waiting = vectors == 2 ? 4 : 2, lag = vectors - 1 + waiting;
-    V newest = {}, older = {};
+    // What the last vector gave waits for some samples until the next lane comes to it: as many as the way there takes.
+    // A single vector waits for nothing else, and its outputs stay in registers; with more of them they go through
+    // memory, which takes longer.
+    constexpr int waiting = vectors == 1 ? (partsOf<T> == 1 ? 3 : 2) : vectors == 2 ? 4 : 2;
+    constexpr int lag = vectors - 1 + waiting;
+    V recent[vectors == 1 ? waiting : 1] = {};
     alignas(64) f64 places[waiting][partsOf<T> * w] = {};
     const auto step = [&]<bool all>(ptrdiff_t i, V in, auto active) {
         if constexpr (vectors == 1) {
-            const V y = lane.template step<all>(in, older, active);
-            older = newest;
-            newest = y;
+            const V y = lane.template step<all>(in, recent[waiting - 1], active);
+#pragma GCC unroll 4
+            for (int k = waiting - 1; k > 0; --k) recent[k] = recent[k - 1];
+            recent[0] = y;
             return lowestLane(y);
         } else {
             const Row<T> place(places[i % waiting], w);
