@@ -53,6 +53,11 @@ public:
     double elements = 0; // of one call: cycles are given per element
     // Arithmetic on doubles in one call, where it may be the limit: additions and multiplications, divisions, roots.
     double flops = 0, divisions = 0, squareRoots = 0;
+    // Operations that wait for one another: so many multiplications, then so many additions, again and again.
+    struct Chain {
+        int multiplications = 0, additions = 0;
+        double times = 0;
+    } chain;
 
     // The library's function, measured in each variant.
     template <class F> void run(F f) { batch = repeated(f); }

@@ -174,6 +174,20 @@ Kernel Emitter::arithmetic(int width, Operation operation, int registers)
     return end(start_, width == 32, false);
 }
 
+// The value in register 0 stays where it is: it is multiplied by less than one, and what is added is small.
+Kernel Emitter::chain(int multiplications, int additions)
+{
+    begin(1);
+    for (int r = 0; r < 3; ++r) transfer(16, load, r, baseRegister[0], r * 16);
+    uint8_t* const top = at_;
+    for (int link = 0; link < linksPerStep; ++link) {
+        for (int i = 0; i < multiplications; ++i) operate(16, multiply, 0, 0, 1);
+        for (int i = 0; i < additions; ++i) operate(16, add, 0, 0, 2);
+    }
+    loopWhileSteps(top);
+    return end(start_, false, false);
+}
+
 Emitter::Function Emitter::nothing(size_t poppedBytes)
 {
     uint8_t* const start = at_;

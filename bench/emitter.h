@@ -31,6 +31,9 @@ public:
     // A step is operationsPerStep operations on vectors (pairs of multiplication and addition).
     Kernel arithmetic(int width, Operation operation, int registers);
     static constexpr int operationsPerStep = 60;
+    // A step is linksPerStep times so many multiplications and additions, each of which waits for the one before.
+    Kernel chain(int multiplications, int additions);
+    static constexpr int linksPerStep = 8;
     // Returns at once, taking its arguments off the stack.
     using Function = void (*)();
     Function nothing(size_t poppedBytes);

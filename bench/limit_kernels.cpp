@@ -92,11 +92,24 @@ void addArithmetic(std::vector<Limit>& all, Emitter& emitter, Limit::Kind kind, 
     }
 }
 
+void addChain(std::vector<Limit>& all, Emitter& emitter, const Setup::Chain& chain)
+{
+    if (chain.times <= 0) return;
+    alignas(64) static double constants[6] = {1, 1, 0.5, 0.5, 0.25, 0.25};
+    constexpr size_t steps = 100;
+    const Kernel kernel = emitter.chain(chain.multiplications, chain.additions);
+    const auto batch = repeated([=] {
+        void* const array = constants;
+        kernel(&array, steps);
+    });
+    all.push_back({Limit::chain, 0, {"", batch, {}, {}}, chain.times / (steps * Emitter::linksPerStep)});
+}
+
 } // namespace
 
 const char* nameOf(Limit::Kind kind)
 {
-    static const char* const names[] = {"bandwidth", "mul+add", "divide", "sqrt", "call"};
+    static const char* const names[] = {"bandwidth", "mul+add", "divide", "sqrt", "chain", "call"};
     return names[kind];
 }
 
@@ -110,6 +123,7 @@ std::vector<Limit> limitsOf(const Setup& setup, const std::set<int>& widths, Emi
         addArithmetic(all, emitter, Limit::divide, width, setup.divisions);
         addArithmetic(all, emitter, Limit::squareRoot, width, setup.squareRoots);
     }
+    addChain(all, emitter, setup.chain);
     return all;
 }
 

@@ -7,7 +7,7 @@
 namespace bench {
 
 struct Limit {
-    enum Kind { bandwidth, multiplyAdd, divide, squareRoot, call } kind;
+    enum Kind { bandwidth, multiplyAdd, divide, squareRoot, chain, call } kind;
     int width; // bytes of the vectors; 0: any
     Candidate candidate;
     double scale; // cycles of the kernel to cycles of the case's work

@@ -20,6 +20,9 @@ private:
     unsigned saved_ = _mm_getcsr();
 };
 
+constexpr Limit::Kind everyKind[] = {Limit::bandwidth,  Limit::multiplyAdd, Limit::divide,
+                                     Limit::squareRoot, Limit::chain,       Limit::call};
+
 template <class T, class U> bool contains(const std::vector<T>& all, const U& one)
 {
     return std::find(all.begin(), all.end(), one) != all.end();
@@ -86,7 +89,7 @@ public:
             result.peers.push_back({all_[i].name, median(theirs) * perElement, spread(theirs),
                                     ratio(theirs, all_[widths_.size() - 1].cycles)});
         }
-        for (Limit::Kind kind : {Limit::bandwidth, Limit::multiplyAdd, Limit::divide, Limit::squareRoot, Limit::call})
+        for (Limit::Kind kind : everyKind)
             for (int width : {0, 16, 32})
                 if (const Candidate* l = best(kind, width, width))
                     result.limits.push_back({kind, width, median(l->cycles) * perElement});
@@ -139,7 +142,7 @@ private:
     const Candidate* limitFor(int width, Limit::Kind& bound) const
     {
         const Candidate* binding = nullptr;
-        for (Limit::Kind kind : {Limit::bandwidth, Limit::multiplyAdd, Limit::divide, Limit::squareRoot, Limit::call}) {
+        for (Limit::Kind kind : everyKind) {
             const Candidate* l = best(kind, 0, width);
             if (!l || (binding && median(l->cycles) <= median(binding->cycles))) continue;
             binding = l;

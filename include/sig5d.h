@@ -302,6 +302,8 @@ typedef struct IppsRandGaussState_64f IppsRandGaussState_64f;
 typedef struct IppsRandGaussState_32f IppsRandGaussState_32f;
 typedef struct IppsRandGaussState_16s IppsRandGaussState_16s;
 typedef struct IppsRandGaussState_8u IppsRandGaussState_8u;
+typedef struct IppsIIRState_64f IppsIIRState_64f;
+typedef struct IppsIIRState_64fc IppsIIRState_64fc;
 
 /* ---- Arithmetic on doubles, element by element ---- */
 
@@ -2109,6 +2111,55 @@ IppStatus SIG5D_CDECL ippsRandUniform_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, i
    pSeed, which is not changed: a second call gives them again. */
 IppStatus SIG5D_CDECL ippsRandGauss_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f mean, Ipp64f stdDev,
         const unsigned int* pSeed);
+/* ---- IIR filters ---- */
+
+/* The bytes of a buffer for the state of a filter of that order N. */
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_64f(int order, int* pBufferSize);
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_64fc(int order, int* pBufferSize);
+
+/* The bytes of a buffer for the state of a cascade of B = numBq sections of second order. */
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_BiQuad_64f(int numBq, int* pBufferSize);
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_BiQuad_64fc(int numBq, int* pBufferSize);
+
+/* Builds the state of a filter in the buffer, at its first multiple of 32 bytes, and stores where that is. The
+   taps are b0 to bN, then a0 to aN. The delay line is copied, or starts with zeros where it is null. */
+IppStatus SIG5D_STDCALL ippsIIRInit_64f(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int order, const Ipp64f*
+        pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_64f_Idx(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int tapsIdx, int order,
+        const Ipp64f* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+IppStatus SIG5D_STDCALL ippsIIRInit_64fc(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int order, const Ipp64fc*
+        pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_64fc_Idx(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int tapsIdx, int order,
+        const Ipp64fc* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+
+/* Builds the state of a cascade in the buffer, as ippsIIRInit does. The taps are b0 b1 b2 a0 a1 a2 of each
+   section, the delay line d0 d1 of each. */
+IppStatus SIG5D_STDCALL ippsIIRInit_BiQuad_64f(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int numBq, const
+        Ipp64f* pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_BiQuad_64f_Idx(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int tapsIdx, int
+        numBq, const Ipp64f* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+IppStatus SIG5D_STDCALL ippsIIRInit_BiQuad_64fc(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int numBq, const
+        Ipp64fc* pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_BiQuad_64fc_Idx(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int tapsIdx, int
+        numBq, const Ipp64fc* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+
+/* a0*y[n] = sum over k = 0..N of b[k]*x[n-k] - sum over k = 1..N of a[k]*y[n-k]. Filters the next len samples of
+   the stream that the state carries from call to call: several calls give what one over all the samples gives, to
+   the bit. */
+IppStatus SIG5D_STDCALL ippsIIR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, IppsIIRState_64f* pState);
+IppStatus SIG5D_CDECL ippsIIR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        IppsIIRState_64f* pState);
+IppStatus SIG5D_STDCALL ippsIIR_64f_I(Ipp64f* pSrcDst, int len, IppsIIRState_64f* pState);
+IppStatus SIG5D_CDECL ippsIIR_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, IppsIIRState_64f* pState);
+IppStatus SIG5D_STDCALL ippsIIR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, IppsIIRState_64fc* pState);
+IppStatus SIG5D_CDECL ippsIIR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        IppsIIRState_64fc* pState);
+IppStatus SIG5D_STDCALL ippsIIR_64fc_I(Ipp64fc* pSrcDst, int len, IppsIIRState_64fc* pState);
+IppStatus SIG5D_CDECL ippsIIR_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, IppsIIRState_64fc* pState);
+
+/* Filters one sample: ippsIIR with len 1. */
+IppStatus SIG5D_CDECL ippsIIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, IppsIIRState_64f* pState);
+IppStatus SIG5D_CDECL ippsIIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, IppsIIRState_64fc* pState);
 
 /* ---- Integer conversions and byte statistics ---- */
 

@@ -129,5 +129,8 @@ inline Vec<f32, 4> singles(Vec<f64, 2> x) { return _mm_cvtpd_ps(x); }
 // v moved up by a lane, and the last lane of the vector before it.
 inline Vec<f64, 2> pairs_shifted_in(Vec<f64, 2> before, Vec<f64, 2> v) { return shuffled<1>(before, v); }
 
+// v moved down by a lane, and the first lane of the vector above it.
+inline Vec<f64, 2> lanes_shifted_down(Vec<f64, 2> v, Vec<f64, 2> above) { return shuffled<1>(v, above); }
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

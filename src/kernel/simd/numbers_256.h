@@ -91,5 +91,10 @@ inline Vec<f64, 4> pairs_shifted_in(Vec<f64, 4> before, Vec<f64, 4> v)
     return shuffled<5>(_mm256_permute2f128_pd(before, v, 0x21), v);
 }
 
+inline Vec<f64, 4> lanes_shifted_down(Vec<f64, 4> v, Vec<f64, 4> above)
+{
+    return shuffled<5>(v, _mm256_permute2f128_pd(v, above, 0x21));
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -103,5 +103,10 @@ inline void stream_bits(void* p, __m512i v) { _mm512_stream_si512(static_cast<__
 
 inline Vec<f32, 8> singles(Vec<f64, 8> x) { return _mm512_cvtpd_ps(x); }
 
+inline Vec<f64, 8> lanes_shifted_down(Vec<f64, 8> v, Vec<f64, 8> above)
+{
+    return as<Vec<f64, 8>>(_mm512_alignr_epi64(bits(above), bits(v), 1));
+}
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT
