@@ -1,0 +1,122 @@
+// Weights mean - a1 cos t - a2 cos 2t with t = 2 pi i / (n - 1), each within 0.6 units of the last place or of 2^-53 of
+// the amplitudes.
+//
+// In blocks: the weight at the block's start s is computed in twice the precision, and those behind it are
+//     w(s + k) = w(s) + sum of a_h ((1 - cos h t_k) cos h t_s + sin h t_k sin h t_s),
+// where a table has the sines, and the cosines as their small distances from 1. What is added is small as blocks are
+// short, and so are its rounding errors.
+#pragma once
+#include "kernel/indexes.h"
+#include "kernel/turns.h"
+#include "signal/processing/windows/both_ends.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+constexpr size_t startsAtOnce = 16;
+
+// A factor whose products are wanted exactly.
+struct ExactFactor {
+    f64 value, head, tail;
+    explicit ExactFactor(f64 x) : value(x), head(front(x)), tail(x - head) {}
+
+    template <class V> static V front(V x) { return keep_bits(x, ~u64{0x7FFFFFF}); }
+    // x times the factor, and what rounding lost.
+    template <class V> Complex<V> times(V x) const
+    {
+        const V product = x * all_lanes<V>(value), xHead = front(x), xTail = x - xHead, a = all_lanes<V>(head),
+                b = all_lanes<V>(tail);
+        return {product, ((xHead * a - product) + (xTail * a + xHead * b)) + xTail * b};
+    }
+};
+
+template <int terms> class CosineWeights
+{
+public:
+    // n: elements of the window. Of few weights each is a block of its own; more have up to 16 blocks, or such of 128
+    // weights.
+    CosineWeights(size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms])
+        : weights_(n / 2), circle_(static_cast<f64>(static_cast<i32>(n - 1))), mean_(mean)
+    {
+        for (int h = 0; h < terms; ++h) amplitudes_[h] = amplitudes[h];
+        if (weights_ <= 4 * startsAtOnce) return;
+        for (block_ = 8; block_ < weightsAtOnce && startsAtOnce * block_ < weights_;) block_ *= 2;
+        makeTable();
+    }
+
+    [[gnu::noinline]] void fill(f64* w, size_t first, size_t n)
+    {
+        for (size_t i = first; i < first + n; i += block_) {
+            const size_t start = i / block_ % startsAtOnce;
+            if (start == 0) makeStarts(i);
+            if (block_ == 1)
+                w[i - first] = high_[start];
+            else
+                fillBlock(w + (i - first), start);
+        }
+    }
+
+private:
+    using V = Vec<f64>;
+    static constexpr size_t L = lanes<f64>;
+
+    void makeTable()
+    {
+        for (size_t k = 0; k < block_; k += L)
+            for (int h = 0; h < terms; ++h) {
+                const QuarterAngle<V> angle = circle_.small_angle(indexes_from(k) * all_lanes<V>(h + 1));
+                const NearZero<V> a = near_zero(angle.rest, angle.below);
+                store(sine_[h] + k, angle.rest - a.sine_rest);
+                store(lessThanOne_[h] + k, a.half - a.cosine_rest);
+            }
+    }
+
+    void makeStarts(size_t first)
+    {
+        const size_t left = (weights_ - first + block_ - 1) / block_, n = left < startsAtOnce ? left : startsAtOnce;
+        for (size_t i = 0; i < n; i += L) {
+            const V at = indexes_from(i) * all_lanes<V>(static_cast<f64>(static_cast<i32>(block_))) +
+                         all_lanes<V>(static_cast<f64>(static_cast<i32>(first)));
+            V high = all_lanes<V>(mean_.hi), low = all_lanes<V>(mean_.lo);
+            for (int h = 0; h < terms; ++h) {
+                const ExactFactor amplitude(amplitudes_[h]);
+                const WideCosSin<V> a = wide_cos_sin(circle_.angle(at * all_lanes<V>(h + 1)));
+                const Complex<V> cosine = amplitude.times(a.value.re);
+                const V less = high - cosine.re, part = less - high;
+                const V more = cosine.im + a.left.re * all_lanes<V>(amplitude.value);
+                low = low + (((high - (less - part)) - (cosine.re + part)) - more);
+                high = less;
+                store(startCosine_[h] + i, cosine.re + more);
+                store(startSine_[h] + i, (a.value.im + a.left.im) * all_lanes<V>(amplitude.value));
+            }
+            const V sum = high + low;
+            store(high_ + i, sum);
+            store(low_ + i, (high - sum) + low);
+        }
+    }
+
+    void fillBlock(f64* w, size_t start)
+    {
+        const V high = splat(high_[start]), low = splat(low_[start]);
+        for (size_t k = 0; k < block_; k += L) {
+            V more{};
+            for (int h = 0; h < terms; ++h) {
+                const V term = load(lessThanOne_[h] + k) * splat(startCosine_[h][start]) +
+                               load(sine_[h] + k) * splat(startSine_[h][start]);
+                more = h == 0 ? term : more + term;
+            }
+            store(w + k, high + (low + more));
+        }
+    }
+
+    size_t weights_, block_ = 1;
+    Circle circle_;
+    sig5d::Doubled mean_;
+    f64 amplitudes_[terms];
+    alignas(64) f64 sine_[terms][weightsAtOnce], lessThanOne_[terms][weightsAtOnce];
+    alignas(64) f64 high_[startsAtOnce], low_[startsAtOnce];
+    alignas(64) f64 startCosine_[terms][startsAtOnce], startSine_[terms][startsAtOnce];
+};
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
