@@ -10,15 +10,32 @@ namespace {
 
 [[gnu::noinline]] void stretch(f64* d, size_t n, const Jaehne& signal) { generate(d, n, signal); }
 
-using Whole = Limits<32, true>;
+// The processor rounds to the nearest as long as this lives: what is made of integers depends on no mode.
+class NearestMode
+{
+public:
+    NearestMode() : direction_(_mm_getcsr() & _MM_ROUND_MASK)
+    {
+        if (direction_ != _MM_ROUND_NEAREST) _mm_setcsr(_mm_getcsr() & ~static_cast<u32>(_MM_ROUND_MASK));
+    }
+    ~NearestMode()
+    {
+        if (direction_ != _MM_ROUND_NEAREST) _mm_setcsr(_mm_getcsr() | direction_);
+    }
+
+private:
+    u32 direction_;
+};
+
 void to_integers(const f64* a, i32* d, size_t n)
 {
-    if constexpr (vectorBytes > 0)
-        if (rounds_to_nearest())
-            return map<InFlight<2, false, 16>>(n, d, Same{},
-                                               converted(a, Rounded<f64, Whole, NearestEven, false>(1.0)));
-    const Scale one(0);
-    for (size_t i = 0; i < n; ++i) d[i] = rounded<Whole>(a[i], one, NearestEven);
+    using Whole = Limits<32, true>;
+    if constexpr (vectorBytes > 0) {
+        map<InFlight<2, false, 16>>(n, d, Same{}, converted(a, Rounded<f64, Whole, NearestEven, false>(1.0)));
+    } else {
+        const Scale one(0);
+        for (size_t i = 0; i < n; ++i) d[i] = rounded<Whole>(a[i], one, NearestEven);
+    }
 }
 
 // put(i, n) takes the n elements from the i-th on.
@@ -34,13 +51,18 @@ void vector_jaehne(f64* d, int n, f64 magn)
     in_stretches(static_cast<size_t>(n), Jaehne(magn, n),
                  [d](size_t i, size_t count, const Jaehne& signal) { stretch(d + i, count, signal); });
 }
-void vector_jaehne(i32* d, int n, i32 magn)
+[[gnu::noinline]] void integer_jaehne(i32* d, int n, i32 magn)
 {
     alignas(64) f64 x[elementsAtOnce];
     in_stretches(static_cast<size_t>(n), Jaehne(magn, n), [d, &x](size_t i, size_t count, const Jaehne& signal) {
         stretch(x, count, signal);
         to_integers(x, d + i, count);
     });
+}
+void vector_jaehne(i32* d, int n, i32 magn)
+{
+    const NearestMode mode;
+    integer_jaehne(d, n, magn);
 }
 
 } // namespace

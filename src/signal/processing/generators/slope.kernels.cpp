@@ -65,7 +65,7 @@ template <class D> [[gnu::noinline]] void vector_slope(D* d, int n, f64 offset, 
 {
     const Line line{offset, slope};
     if constexpr (std::is_floating_point_v<D>) {
-        draw<Light>(d, n, line);
+        draw<std::conditional_t<sizeof(D) == sizeof(f64), Light, Medium>>(d, n, line);
     } else {
         if constexpr (vectorBytes > 0) // 16 bytes at a time, since that is how doubles become integers
             if (rounds_to_nearest()) return draw<InFlight<2, false, 16>>(d, n, line);

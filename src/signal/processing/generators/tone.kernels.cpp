@@ -65,8 +65,8 @@ void tone(c64f* d, int n, f64 magn, f64 frequency, f64* pPhase, int)
             fill(starts, startsAtOnce, atStart);
             k = 0;
         }
-        map_pairs(all - i < block ? all - i : block, d + i, TimesFactor{Factor(starts[k])},
-                  static_cast<const c64f*>(table));
+        map_pairs<Heavy<2>>(all - i < block ? all - i : block, d + i, TimesFactor{Factor(starts[k])},
+                            static_cast<const c64f*>(table));
     }
 }
 

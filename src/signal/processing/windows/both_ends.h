@@ -51,6 +51,7 @@ template <class T>
     }
 #endif
     for (; k < n; ++k) {
+        asm("" : "+r"(k)); // no vectors of less than a vector
         const T first = weighted(a[front + k], w[k]), last = weighted(a[back - 1 - k], w[k]);
         d[front + k] = first;
         d[back - 1 - k] = last;

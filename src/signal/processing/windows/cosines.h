@@ -60,7 +60,7 @@ private:
     using V = Vec<f64>;
     static constexpr size_t L = lanes<f64>;
 
-    void makeTable()
+    [[gnu::noinline]] void makeTable()
     {
         for (size_t k = 0; k < block_; k += L)
             for (int h = 0; h < terms; ++h) {

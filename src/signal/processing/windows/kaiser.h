@@ -40,7 +40,7 @@ template <class V> inline V bessel(V x)
 class KaiserWeights
 {
 public:
-    KaiserWeights(size_t n, f64 alpha)
+    [[gnu::noinline]] KaiserWeights(size_t n, f64 alpha)
         : weights_(static_cast<f64>(static_cast<i32>(n / 2))), last_(static_cast<f64>(static_cast<i32>(n - 1))),
           slope_(absolute_value(alpha)), inverse_(constant<V>(1.0) / bessel(splat(slope_ * last_ * 0.5)))
     {
