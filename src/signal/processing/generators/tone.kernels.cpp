@@ -23,6 +23,7 @@ void tone(f64* d, int n, f64 magn, f64 frequency, f64* pPhase, int)
         b = odd;
         even = nextEven;
         odd = nextOdd;
+        asm("" : "+x"(even), "+x"(odd)); // in registers of their own: to make pairs of them takes longer
         d[i] = even;
         if (i + 1 < n) d[i + 1] = odd;
     }
@@ -33,10 +34,14 @@ constexpr size_t startsAtOnce = 16, longestBlock = 64;
 // magn * e^(i angle) of elements at equal distances.
 struct Exponentials {
     ToneAngle angle;
-    f64 magnitude, first, distance;
-    template <class V> Complex<V> operator()(V i) const
+    f64 magnitude, start, distance;
+    template <class V> QuarterAngle<V> first(V i) const
     {
-        const Complex<V> a = cos_sin(angle(i * all_lanes<V>(distance) + all_lanes<V>(first)));
+        return angle(i * all_lanes<V>(distance) + all_lanes<V>(start));
+    }
+    template <class V> Complex<V> second(const QuarterAngle<V>& angleThere) const
+    {
+        const Complex<V> a = cos_sin(angleThere);
         return {a.re * all_lanes<V>(magnitude), a.im * all_lanes<V>(magnitude)};
     }
 };
@@ -61,7 +66,7 @@ void tone(c64f* d, int n, f64 magn, f64 frequency, f64* pPhase, int)
     Exponentials atStart = {ToneAngle(frequency, phase), magn, 0.0, static_cast<f64>(static_cast<i32>(block))};
     for (size_t i = 0, k = startsAtOnce; i < all; i += block, ++k) {
         if (k == startsAtOnce) {
-            atStart.first = static_cast<f64>(static_cast<i32>(i));
+            atStart.start = static_cast<f64>(static_cast<i32>(i));
             fill(starts, startsAtOnce, atStart);
             k = 0;
         }

@@ -18,7 +18,7 @@ public:
         quarter_ = 0.5 * rising;
     }
     // The part of a period, from 0 to 1, at element i.
-    template <class V> V at(V i) const
+    template <class V> V first(V i) const
     {
         const V shift = constant<V>(0x1.8p52);
         const Fraction<V> f = turns_.fraction(i);
@@ -49,14 +49,10 @@ private:
 };
 
 struct RealTriangle : Triangle {
-    template <class V> V operator()(V i) const { return value(at(i)); }
+    template <class V> V second(V part) const { return value(part); }
 };
 struct ComplexTriangle : Triangle {
-    template <class V> Complex<V> operator()(V i) const
-    {
-        const V part = at(i);
-        return {value(part), later(part)};
-    }
+    template <class V> Complex<V> second(V part) const { return {value(part), later(part)}; }
 };
 
 void triangle(f64* d, int n, f64 magn, f64 frequency, f64 asymmetry, f64* pPhase)

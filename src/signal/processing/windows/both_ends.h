@@ -1,13 +1,13 @@
-// A symmetric window over an array: from both ends towards the middle, each weight for two elements. Weights are made
-// by "weights.fill(w, i, n)": those of elements i to i + n - 1, where i is a multiple of weightsAtOnce; up to a
-// vector's end it may write more.
+// A symmetric window over an array: from both ends towards the middle, each weight for two elements. Weights come in
+// stretches: "weights.stretch(i, n, use)" calls use(w), where w.at(k) is a vector of weights from element i + k on;
+// "weights.length()" tells how many there are at most. What a vector has beyond n is not used.
 #pragma once
 #include "kernel/pairs.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-constexpr size_t weightsAtOnce = 128;
+constexpr size_t mostWeights = 128; // of a stretch
 
 template <class V, size_t... i> inline V reversed_lanes(V v, std::index_sequence<i...>)
 {
@@ -22,50 +22,67 @@ template <size_t first, class V, size_t... i> inline V doubled_lanes(V v, std::i
 inline f64 weighted(f64 x, f64 w) { return x * w; }
 inline c64f weighted(c64f x, f64 w) { return {x.re * w, x.im * w}; }
 
+struct StoredWeights {
+    const f64* w;
+    Vec<f64> at(size_t k) const { return load(w + k); }
+};
+
 // d = a * w from `front` on, and d = a * w backwards from the element before `back`.
-template <class T>
-[[gnu::noinline]] void weigh_ends(const T* a, T* d, size_t front, size_t back, const f64* w, size_t n)
+template <class T, class W>
+[[gnu::noinline]] void weigh_ends(const T* a, T* d, size_t front, size_t back, const W& weights, size_t n)
 {
+    const W w = weights; // in registers: stores could change it elsewhere
+    constexpr size_t L = lanes<f64>;
     size_t k = 0;
 #if SIG5D_LEVEL > 0
-    constexpr size_t L = lanes<f64>;
     constexpr auto all = std::make_index_sequence<L>{};
-    for (; k + L <= n; k += L) {
-        const Vec<f64> v = load(w + k);
-        if constexpr (sizeof(T) == sizeof(f64)) {
-            const Vec<f64> first = load(a + front + k) * v, last = load(a + back - k - L) * reversed_lanes(v, all);
-            store(d + front + k, first);
-            store(d + back - k - L, last);
-        } else {
+    if constexpr (sizeof(T) == sizeof(f64)) {
+        // Two at each end: stores to one cache line go together.
+        for (; k + 2 * L <= n; k += 2 * L) {
+            const Vec<f64> v0 = w.at(k), v1 = w.at(k + L);
+            const f64 *const p = a + front + k, *const q = a + back - k - 2 * L;
+            f64 *const to = d + front + k, *const toLast = d + back - k - 2 * L;
+            const Vec<f64> first0 = load(p) * v0, first1 = load(p + L) * v1;
+            const Vec<f64> last0 = load(q) * reversed_lanes(v1, all), last1 = load(q + L) * reversed_lanes(v0, all);
+            store(to, first0);
+            store(to + L, first1);
+            store(toLast, last0);
+            store(toLast + L, last1);
+        }
+    } else {
+        for (; k + L <= n; k += L) {
+            const Vec<f64> v = w.at(k);
             const f64 *const p = parts_of(a + front + k), *const q = parts_of(a + back - k - L);
             f64 *const to = parts_of(d + front + k), *const toLast = parts_of(d + back - k - L);
             const Vec<f64> low = doubled_lanes<0>(v, all), high = doubled_lanes<L / 2>(v, all);
-            const Vec<f64> first = load(p) * low, second = load(p + L) * high;
-            const Vec<f64> lastButOne = load(q) * reversed_lanes(high, all),
-                           last = load(q + L) * reversed_lanes(low, all);
-            store(to, first);
-            store(to + L, second);
-            store(toLast, lastButOne);
-            store(toLast + L, last);
+            const Vec<f64> first0 = load(p) * low, first1 = load(p + L) * high;
+            const Vec<f64> last0 = load(q) * reversed_lanes(high, all), last1 = load(q + L) * reversed_lanes(low, all);
+            store(to, first0);
+            store(to + L, first1);
+            store(toLast, last0);
+            store(toLast + L, last1);
         }
     }
 #endif
-    for (; k < n; ++k) {
-        asm("" : "+r"(k)); // no vectors of less than a vector
-        const T first = weighted(a[front + k], w[k]), last = weighted(a[back - 1 - k], w[k]);
-        d[front + k] = first;
-        d[back - 1 - k] = last;
+    for (; k < n; k += L) {
+        f64 left[L];
+        store(left, w.at(k));
+        for (size_t i = k; i < n && i < k + L; ++i) {
+            asm("" : "+r"(i)); // no vectors of less than a vector
+            const T first = weighted(a[front + i], left[i - k]), last = weighted(a[back - 1 - i], left[i - k]);
+            d[front + i] = first;
+            d[back - 1 - i] = last;
+        }
     }
 }
 
 // All but the middle of an odd number of elements.
 template <class T, class Weights> inline void weigh(const T* a, T* d, size_t n, Weights& weights)
 {
-    alignas(64) f64 w[weightsAtOnce];
+    const size_t most = weights.length();
     for (size_t i = 0, count; i < n / 2; i += count) {
-        count = n / 2 - i < weightsAtOnce ? n / 2 - i : weightsAtOnce;
-        weights.fill(w, i, count);
-        weigh_ends(a, d, i, n - i, w, count);
+        count = n / 2 - i < most ? n / 2 - i : most;
+        weights.stretch(i, count, [=](const auto& w) { weigh_ends(a, d, i, n - i, w, count); });
     }
 }
 template <class T> inline void copy_middle(const T* a, T* d, size_t n)

@@ -30,6 +30,23 @@ struct ExactFactor {
     }
 };
 
+// The weights of a block, by its start.
+template <int terms> struct CosineBlock {
+    using V = Vec<f64>;
+    V high, low, cosine[terms], sine[terms];
+    const f64 *lessThanOnes[terms], *sines[terms];
+
+    V at(size_t k) const
+    {
+        V more{};
+        for (int h = 0; h < terms; ++h) {
+            const V term = load(lessThanOnes[h] + k) * cosine[h] + load(sines[h] + k) * sine[h];
+            more = h == 0 ? term : more + term;
+        }
+        return high + (low + more);
+    }
+};
+
 template <int terms> class CosineWeights
 {
 public:
@@ -40,20 +57,26 @@ public:
     {
         for (int h = 0; h < terms; ++h) amplitudes_[h] = amplitudes[h];
         if (weights_ <= 4 * startsAtOnce) return;
-        for (block_ = 8; block_ < weightsAtOnce && startsAtOnce * block_ < weights_;) block_ *= 2;
+        for (shift_ = 3; block() < mostWeights && startsAtOnce * block() < weights_;) ++shift_;
         makeTable();
     }
 
-    [[gnu::noinline]] void fill(f64* w, size_t first, size_t n)
+    size_t length() const { return shift_ == 0 ? startsAtOnce : block(); }
+    template <class Use> void stretch(size_t first, size_t, Use use)
     {
-        for (size_t i = first; i < first + n; i += block_) {
-            const size_t start = i / block_ % startsAtOnce;
-            if (start == 0) makeStarts(i);
-            if (block_ == 1)
-                w[i - first] = high_[start];
-            else
-                fillBlock(w + (i - first), start);
+        const size_t start = (first >> shift_) % startsAtOnce;
+        if (start == 0) makeStarts(first);
+        if (shift_ == 0) return use(StoredWeights{high_});
+        CosineBlock<terms> b;
+        b.high = splat(high_[start]);
+        b.low = splat(low_[start]);
+        for (int h = 0; h < terms; ++h) {
+            b.cosine[h] = splat(startCosine_[h][start]);
+            b.sine[h] = splat(startSine_[h][start]);
+            b.lessThanOnes[h] = lessThanOne_[h];
+            b.sines[h] = sine_[h];
         }
+        use(b);
     }
 
 private:
@@ -62,7 +85,7 @@ private:
 
     [[gnu::noinline]] void makeTable()
     {
-        for (size_t k = 0; k < block_; k += L)
+        for (size_t k = 0; k < block(); k += L)
             for (int h = 0; h < terms; ++h) {
                 const QuarterAngle<V> angle = circle_.small_angle(indexes_from(k) * all_lanes<V>(h + 1));
                 const NearZero<V> a = near_zero(angle.rest, angle.below);
@@ -71,11 +94,11 @@ private:
             }
     }
 
-    void makeStarts(size_t first)
+    [[gnu::noinline]] void makeStarts(size_t first)
     {
-        const size_t left = (weights_ - first + block_ - 1) / block_, n = left < startsAtOnce ? left : startsAtOnce;
+        const size_t left = (weights_ - first + block() - 1) >> shift_, n = left < startsAtOnce ? left : startsAtOnce;
         for (size_t i = 0; i < n; i += L) {
-            const V at = indexes_from(i) * all_lanes<V>(static_cast<f64>(static_cast<i32>(block_))) +
+            const V at = indexes_from(i) * all_lanes<V>(static_cast<f64>(static_cast<i32>(block()))) +
                          all_lanes<V>(static_cast<f64>(static_cast<i32>(first)));
             V high = all_lanes<V>(mean_.hi), low = all_lanes<V>(mean_.lo);
             for (int h = 0; h < terms; ++h) {
@@ -95,25 +118,13 @@ private:
         }
     }
 
-    void fillBlock(f64* w, size_t start)
-    {
-        const V high = splat(high_[start]), low = splat(low_[start]);
-        for (size_t k = 0; k < block_; k += L) {
-            V more{};
-            for (int h = 0; h < terms; ++h) {
-                const V term = load(lessThanOne_[h] + k) * splat(startCosine_[h][start]) +
-                               load(sine_[h] + k) * splat(startSine_[h][start]);
-                more = h == 0 ? term : more + term;
-            }
-            store(w + k, high + (low + more));
-        }
-    }
+    size_t block() const { return size_t{1} << shift_; }
 
-    size_t weights_, block_ = 1;
+    size_t weights_, shift_ = 0;
     Circle circle_;
     sig5d::Doubled mean_;
     f64 amplitudes_[terms];
-    alignas(64) f64 sine_[terms][weightsAtOnce], lessThanOne_[terms][weightsAtOnce];
+    alignas(64) f64 sine_[terms][mostWeights], lessThanOne_[terms][mostWeights];
     alignas(64) f64 high_[startsAtOnce], low_[startsAtOnce];
     alignas(64) f64 startCosine_[terms][startsAtOnce], startSine_[terms][startsAtOnce];
 };

@@ -10,12 +10,17 @@ namespace {
 // Multiples of the step by adding it again and again, which fixes their rounding.
 struct BartlettWeights {
     f64 step, next = 0.0;
-    void fill(f64* w, size_t, size_t n)
+    alignas(64) f64 w[mostWeights];
+
+    explicit BartlettWeights(f64 each) : step(each) {}
+    size_t length() const { return mostWeights; }
+    template <class Use> void stretch(size_t, size_t n, Use use)
     {
         for (size_t i = 0; i < n; ++i) {
             w[i] = next;
             next += step;
         }
+        use(StoredWeights{w});
     }
 };
 
@@ -31,7 +36,7 @@ template <class T> void bartlett(const T* a, T* d, int n)
 {
     if (n == 3) return keep_middle(a, d);
     const size_t all = static_cast<size_t>(n);
-    BartlettWeights weights{2.0 / static_cast<f64>(n - 1)};
+    BartlettWeights weights(2.0 / static_cast<f64>(n - 1));
     weigh(a, d, all, weights);
     copy_middle(a, d, all);
 }

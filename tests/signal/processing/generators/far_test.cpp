@@ -46,10 +46,11 @@ TEST(FarElements, JaehneSquaresAreExact)
                 const auto units = static_cast<int64_t>(static_cast<uint64_t>(at) * static_cast<uint64_t>(at) %
                                                         (4 * static_cast<uint64_t>(n)));
                 const long double right = oracle::ofTurn(units, 4 * int64_t{n}).sin;
-                worst = std::max(worst, support::ulps(signal(static_cast<double>(k)), support::Wide(right)));
+                worst = std::max(
+                    worst, support::ulps(signal.second(signal.first(static_cast<double>(k))), support::Wide(right)));
             }
         }
     }
     std::printf("largest error of a long Jaehne signal: %.3f ulp\n", worst);
-    EXPECT_LE(worst, 1);
+    EXPECT_LE(worst, 2.5);
 }

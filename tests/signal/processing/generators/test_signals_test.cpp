@@ -99,7 +99,7 @@ TEST(Jaehne, SinesAreExactAtEveryIndex)
                 const auto k = static_cast<size_t>(i);
                 const long double right = oracle::ofTurn(i * i, 4 * int64_t{n}).sin;
                 worst = std::max(worst, ulps(d[k], Wide(right)));
-                ASSERT_LE(ulps(d[k], Wide(right)), 1) << n << ' ' << i;
+                ASSERT_LE(ulps(d[k], Wide(right)), 2.5) << n << ' ' << i;
                 ASSERT_EQ(minus[k], d[k] * magn) << n << ' ' << i;
                 ASSERT_EQ(whole[k], nearest<int32_t>(minus[k])) << n << ' ' << i;
             }

@@ -3,7 +3,13 @@
 #include "signal/processing/windows/cosines.h"
 
 using sig5d::px::CosineWeights;
-using sig5d::px::weightsAtOnce;
+using sig5d::px::mostWeights;
+
+template <int terms> static void copy(const sig5d::px::CosineBlock<terms>& block, double (&w)[mostWeights])
+{
+    for (size_t i = 0; i < mostWeights; ++i) w[i] = block.at(i);
+}
+static void copy(const sig5d::px::StoredWeights&, double (&)[mostWeights]) { ADD_FAILURE() << "not in blocks"; }
 
 TEST(LongWindows, CosineWeightsStayAsExact)
 {
@@ -14,10 +20,10 @@ TEST(LongWindows, CosineWeightsStayAsExact)
         CosineWeights<2> blackman(n, {(alpha + 1) / 2, 0.0}, {0.5, alpha / 2});
         for (size_t part = 0; part < 64; ++part) {
             const size_t first = n / 2 / 64 * part / 2048 * 2048; // where starts are computed anew
-            double v[weightsAtOnce], w[weightsAtOnce];
-            hann.fill(v, first, weightsAtOnce);
-            blackman.fill(w, first, weightsAtOnce);
-            for (size_t i = 0; i < weightsAtOnce; ++i) {
+            double v[mostWeights], w[mostWeights];
+            hann.stretch(first, mostWeights, [&](const auto& all) { copy(all, v); });
+            blackman.stretch(first, mostWeights, [&](const auto& all) { copy(all, w); });
+            for (size_t i = 0; i < mostWeights; ++i) {
                 const auto at = static_cast<int64_t>(first + i), turn = static_cast<int64_t>(n - 1);
                 const long double c = oracle::ofTurn(at, turn).cos, c2 = oracle::ofTurn(2 * at, turn).cos;
                 const long double a = alpha, right = (a + 1) / 2 - c / 2 - a / 2 * c2;
