@@ -10,8 +10,8 @@ namespace {
 template <int n, class S> inline auto load_as_16(const S* p) { return widened_to_16<n>(load_lanes<n>(p)); }
 template <int n, class S> inline auto load_as_32(const S* p) { return widened_to_32<n>(load_lanes<n>(p)); }
 
-// n elements of type D, made of integers that are as long or longer: part<k>(p) gives k of those from p on.
-template <class D, int n, class S, class Part> inline auto gather(const S* p, Part part)
+// n elements of type D, made of integers that are as long or longer: part<k>(p) gives k of those from the source p on.
+template <class D, int n, class A, class Part> inline auto gather(A p, Part part)
 {
     using X = Lane<decltype(part.template operator()<1>(p))>;
     constexpr int bytes = n * sizeof(D), whole = bytes > 32 ? 64 : bytes > 16 ? 32 : 16;

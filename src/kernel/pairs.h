@@ -95,12 +95,13 @@ template <class Op> struct OnPairs : Op {
 };
 
 // d[i] = op(a[i], ...) for 0 <= i < n, where the sources are complex arrays or give pairs.
-template <class C, class Op, class... A> [[gnu::always_inline]] inline void map_pairs(size_t n, C* d, Op op, A... a)
+template <class Shape = Light, class C, class Op, class... A>
+[[gnu::always_inline]] inline void map_pairs(size_t n, C* d, Op op, A... a)
 {
 #if SIG5D_LEVEL == 0
-    map(n, d, op, a...);
+    map<Shape>(n, d, op, a...);
 #else
-    map(2 * n, parts_of(d), OnPairs<Op>{op}, parts_of(a)...);
+    map<Shape>(2 * n, parts_of(d), OnPairs<Op>{op}, parts_of(a)...);
 #endif
 }
 

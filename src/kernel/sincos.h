@@ -38,32 +38,49 @@ template <class V> inline ReducedAngle<V> reduced_angle(V x)
     return angle;
 }
 
-// Of rest - below in [-pi/4, pi/4]. The first terms of both series are added last, with what their rounding lost; the
-// others are minimax polynomials in rest^2 with errors of 2^-58 (sine) and 2^-64 (cosine).
-template <class V> inline Complex<V> near_zero_cos_sin(V rest, V below)
+// Of rest - below in [-pi/4, pi/4]: the cosine is 1 - (half - cosine_rest), the sine rest - sine_rest. The rests are
+// minimax polynomials in rest^2 with errors of 2^-58 (sine) and 2^-64 (cosine), and what comes of "below".
+template <class V> struct NearZero {
+    V half, cosine_rest, sine_rest;
+};
+template <class V> inline NearZero<V> near_zero(V rest, V below)
 {
     static constexpr f64 sine[] = {0x1.5555555555549p-3,   -0x1.111111110f8a6p-7, 0x1.a01a019c16191p-13,
                                    -0x1.71de357b1a5cap-19, 0x1.ae5e689d17ad5p-26, -0x1.5d93a3b6fc2d0p-33};
     static constexpr f64 cosine[] = {0x1.555555555554cp-5,   -0x1.6c16c16c1521fp-10, 0x1.a01a019cbf61ep-16,
                                      -0x1.27e4f812b5515p-22, 0x1.1ee9f15162e55p-29,  -0x1.8fb13027e8b9dp-37};
-    const V one = constant<V>(1.0);
-    const V z = rest * rest, half = z * constant<V>(0.5), c = one - half;
-    const V cosine_rest = ((one - c) - half) + (z * z * polynomial(cosine, z) + rest * below);
-    const V sine_rest = rest * (z * polynomial(sine, z)) + below * c;
-    return {c + cosine_rest, rest - sine_rest};
+    const V z = rest * rest, half = z * constant<V>(0.5);
+    return {half, z * z * polynomial(cosine, z) + rest * below,
+            rest * (z * polynomial(sine, z)) + below * (constant<V>(1.0) - half)};
+}
+
+// Cosine and sine, each as a double and what is left of it. The first terms of both series are added last, with what
+// their rounding lost.
+template <class V> struct WideCosSin {
+    Complex<V> value, left;
+};
+template <class V> inline WideCosSin<V> near_zero_cos_sin(V rest, V below)
+{
+    const NearZero<V> a = near_zero(rest, below);
+    const V one = constant<V>(1.0), c = one - a.half;
+    return {{c, rest}, {((one - c) - a.half) + a.cosine_rest, -a.sine_rest}};
+}
+
+// (cos, sin) of an angle in the first quadrant, turned by so many of them: odd numbers exchange the two.
+template <class V, class Bits> inline Complex<V> in_quadrant(Complex<V> a, Bits quadrant)
+{
+    using B = BitsOf<V>;
+    const auto one = B::all(1), sign = B::all(signBit), cosine = B::of(a.re), sine = B::of(a.im);
+    const auto exchange = (cosine ^ sine) & (B::all(0) - (quadrant & one));
+    return {B::back(cosine ^ exchange ^ (((quadrant + one) << 62) & sign)),
+            B::back(sine ^ exchange ^ ((quadrant << 62) & sign))};
 }
 
 // (cos, sin) of x, |x| <= 2^15. The sine of -0 is -0.
 template <class V> inline Complex<V> moderate_cos_sin(const ReducedAngle<V>& angle)
 {
-    using Bits = BitsOf<V>;
-    const Complex<V> a = near_zero_cos_sin(angle.rest, angle.below);
-    const auto quadrant = angle.quadrant, one = Bits::all(1), sign = Bits::all(signBit);
-    // Odd multiples of pi/2 exchange the two.
-    const auto cosine = Bits::of(a.re), sine = Bits::of(a.im);
-    const auto exchange = (cosine ^ sine) & (Bits::all(0) - (quadrant & one));
-    return {Bits::back(cosine ^ exchange ^ (((quadrant + one) << 62) & sign)),
-            Bits::back(sine ^ exchange ^ ((quadrant << 62) & sign))};
+    const WideCosSin<V> a = near_zero_cos_sin(angle.rest, angle.below);
+    return in_quadrant(Complex<V>{a.value.re + a.left.re, a.value.im + a.left.im}, angle.quadrant);
 }
 
 inline void replace_far(Complex<f64>& w, int, f64 x)

@@ -2,6 +2,7 @@
 // description says that it may.
 #include "support/stage.h"
 #include <algorithm>
+#include <cstring>
 #include <gtest/gtest.h>
 
 namespace {
@@ -23,6 +24,10 @@ void spoil(Arguments& a, registry::Random& random)
             a.values[i].im = random.oneIn(2) ? a.values[i].re : numbers[random.below(8)]; // also zero for both
         } else if (arg.kind == Kind::scalar) {
             a.values[i].i = registry::fitting(odd[random.below(sizeof odd / sizeof *odd)], arg.element);
+        } else if (arg.domainSize && random.oneIn(2)) { // a number by pointer
+            static const double numbers[] = {-1, 7, 1e9, -1e9};
+            registry::setNumber(a, i, numbers[random.below(4)]);
+            std::memcpy(a.values[i].p, a.content[i].data(), a.content[i].size());
         } else if (arg.kind != Kind::index) {
             a.values[i].p = nullptr;
         }

@@ -18,7 +18,7 @@ class CExpression:
     PYTHON = {"||": "or", "&&": "and", "/": "//"}
 
     def __init__(self, text, arguments):
-        self.tokens = re.findall(r"[A-Za-z_]\w*(?:\.\w+)*|\d+|\|\||&&|[<>=!]=|\S", text)
+        self.tokens = re.findall(r"[A-Za-z_]\w*(?:\.\w+)*|\d+(?:\.\d+)?|\|\||&&|[<>=!]=|\S", text)
         self.arguments = arguments
         self.python = self.choice()
         if self.tokens:
@@ -46,6 +46,8 @@ class CExpression:
     def unary(self):
         if operator := self.take("!", "-"):
             return f"({'not' if operator == '!' else '-'} {self.unary()})"
+        if self.take("*"):
+            return f"at({self.unary()})"
         if self.take("("):
             inner = self.choice()
             assert self.take(")")
@@ -58,7 +60,7 @@ class CExpression:
                 self.take(",")
             return f"{name}({', '.join(given)})"
         head, _, part = name.partition(".")
-        if name.isdigit():
+        if name[0].isdigit():
             return name
         if head not in self.arguments or part not in ("", "re", "im"):
             return "spec." + (part or head)

@@ -36,7 +36,18 @@ class Form:
         return next((code for code, fails in self.checks if fails(values)), 0)
 
 
+@dataclass(frozen=True)
+class Place:
+    """Where a number stands: a pointer to a single value that is read."""
+
+    number: float
+
+
 # What the table's expressions may call.
+
+
+def at(place):
+    return place.number
 
 
 def block(rows, cols, stride):
@@ -72,7 +83,7 @@ def delay(spec):
     return (spec.tapsLen + spec.upFactor - 1) // spec.upFactor
 
 
-CALLS = {f.__name__: f for f in (block, lower, upper, reach, bytes_of, words_of, delay, max, min)}
+CALLS = {f.__name__: f for f in (at, block, lower, upper, reach, bytes_of, words_of, delay, max, min)}
 # Properties of filters. The lengths are apart by one, so that a rounding that is off by one shows.
 SPECS = [
     SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down)

@@ -15,13 +15,15 @@ sys.dont_write_bytecode = True
 sys.path.append(str(HERE))
 
 from contract_described import described
-from contract_table import SPECS, witnessed
+from contract_table import SPECS, Place, witnessed
 
 INTEGERS = [-(2**31), -33, -8, -2, -1, 0, 1, 2, 3, 4, 5, 7, 8, 9, 13, 14, 19, 20, 31, 32, 33, 64, 1000, 2**31 - 1]
 NUMBERS = [-math.inf, -1.5, -5e-324, -0.0, 0.0, 5e-324, 0.5, 1.0, 4.0, math.inf, math.nan]
 
 
 def samples(arg):
+    if arg.kind == "value" and arg.role == "io":
+        return [Place(1), Place(0), Place(6.28), Place(2 * math.pi), Place(-1), Place(7), Place(math.nan), 0]
     if arg.pointer():
         return [4096, 0]
     if arg.kind == "index":

@@ -5,6 +5,8 @@
 #include "kernel/complex.h"
 #include "kernel/doubled.h"
 #include "kernel/doubled_exp.h"
+#include "kernel/exp.h"
+#include "kernel/indexes.h"
 #include "kernel/lane_shifts.h"
 #include "kernel/lanes.h"
 #include "kernel/libm.h"
@@ -27,3 +29,4 @@
 #include "kernel/sincos.h"
 #include "kernel/sources.h"
 #include "kernel/stream.h"
+#include "kernel/turns.h"

@@ -91,8 +91,9 @@ void Numbers::replaceIn(Arguments& a)
     if (a.f.ruleCount) return;
     for (int i = 0; i < a.f.argCount; ++i) {
         const registry::Arg& arg = a.f.args[i];
+        if (arg.domainSize) continue;
         if (arg.kind == Kind::scalar) {
-            if (!registry::isFloating(arg.element) || arg.domainSize) continue;
+            if (!registry::isFloating(arg.element)) continue;
             const registry::Value before = a.values[i];
             a.values[i].re = arg.element == Element::f32 ? static_cast<float>(next()) : next();
             a.values[i].im = next();

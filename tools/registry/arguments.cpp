@@ -109,9 +109,7 @@ void chooseArgument(Arguments& a, int i, Random& random, long long length, int l
     } else if (arg.kind == Kind::index) {
         v.i = 0;
     } else if (arg.domainSize) { // a number by pointer, which checks look at
-        const int chosen = static_cast<int>(choose(arg.domain, arg.domainSize, a.values.data(), random).i);
-        a.content[i].resize(sizeof chosen);
-        std::memcpy(a.content[i].data(), &chosen, sizeof chosen);
+        setNumber(a, i, choose(arg.domain, arg.domainSize, a.values.data(), random).re);
         v.p = a.content[i].data();
     } else {
         v.p = somewhere();
@@ -222,6 +220,15 @@ bool Arguments::valid() const
     for (int i = 0; i < f.checkCount; ++i)
         if (f.checks[i].fails(values.data())) return false;
     return true;
+}
+
+void setNumber(Arguments& a, int i, double number)
+{
+    const int whole = static_cast<int>(number);
+    const bool floating = a.f.args[i].element == Element::f64;
+    const void* const from = floating ? static_cast<const void*>(&number) : &whole;
+    a.content[i].resize(floating ? sizeof number : sizeof whole);
+    std::memcpy(a.content[i].data(), from, a.content[i].size());
 }
 
 bool Arguments::inGap(int i, size_t byte) const

@@ -40,6 +40,9 @@ struct Outlier {
 Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,
                 const Outlier& outlier = {}, const Maker* maker = nullptr);
 
+// The number that a pointer argument has at first (a double or an int).
+void setNumber(Arguments& a, int argument, double number);
+
 // The same call on the data that follow: new contents for what is read, the same states.
 void further(Arguments& a, Random& random, Pattern pattern);
 

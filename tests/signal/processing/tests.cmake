@@ -16,3 +16,9 @@ foreach(body ${SIG5D_BODIES_signal_processing_fft})
 endforeach()
 sig5d_internal_test(fft signal/processing/fft/transforms_test.cpp)
 target_link_libraries(fft_test PRIVATE sig5d_fft_bodies)
+
+sig5d_test(windows signal/processing/windows/windows_test.cpp)
+sig5d_test(test_signals signal/processing/generators/test_signals_test.cpp)
+# What no call can ask for, of the plain body.
+sig5d_internal_test(far_elements signal/processing/windows/weights_test.cpp signal/processing/generators/far_test.cpp)
+target_compile_definitions(far_elements_test PRIVATE SIG5D_VARIANT=px SIG5D_LEVEL=0)

@@ -1,0 +1,133 @@
+// Weights mean - a1 cos t - a2 cos 2t with t = 2 pi i / (n - 1), each within 0.6 units of the last place or of 2^-53 of
+// the amplitudes.
+//
+// In blocks: the weight at the block's start s is computed in twice the precision, and those behind it are
+//     w(s + k) = w(s) + sum of a_h ((1 - cos h t_k) cos h t_s + sin h t_k sin h t_s),
+// where a table has the sines, and the cosines as their small distances from 1. What is added is small as blocks are
+// short, and so are its rounding errors.
+#pragma once
+#include "kernel/indexes.h"
+#include "kernel/turns.h"
+#include "signal/processing/windows/both_ends.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+constexpr size_t startsAtOnce = 16;
+
+// A factor whose products are wanted exactly.
+struct ExactFactor {
+    f64 value, head, tail;
+    explicit ExactFactor(f64 x) : value(x), head(front(x)), tail(x - head) {}
+
+    template <class V> static V front(V x) { return keep_bits(x, ~u64{0x7FFFFFF}); }
+    // x times the factor, and what rounding lost.
+    template <class V> Complex<V> times(V x) const
+    {
+        const V product = x * all_lanes<V>(value), xHead = front(x), xTail = x - xHead, a = all_lanes<V>(head),
+                b = all_lanes<V>(tail);
+        return {product, ((xHead * a - product) + (xTail * a + xHead * b)) + xTail * b};
+    }
+};
+
+// The weights of a block, by its start.
+template <int terms> struct CosineBlock {
+    using V = Vec<f64>;
+    V high, low, cosine[terms], sine[terms];
+    const f64 *lessThanOnes[terms], *sines[terms];
+
+    V at(size_t k) const
+    {
+        V more{};
+        for (int h = 0; h < terms; ++h) {
+            const V term = load(lessThanOnes[h] + k) * cosine[h] + load(sines[h] + k) * sine[h];
+            more = h == 0 ? term : more + term;
+        }
+        return high + (low + more);
+    }
+};
+
+template <int terms> class CosineWeights
+{
+public:
+    // n: elements of the window. Of few weights each is a block of its own; more have up to 16 blocks, or such of 128
+    // weights.
+    CosineWeights(size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms])
+        : weights_(n / 2), circle_(static_cast<f64>(static_cast<i32>(n - 1))), mean_(mean)
+    {
+        for (int h = 0; h < terms; ++h) amplitudes_[h] = amplitudes[h];
+        if (weights_ <= 4 * startsAtOnce) return;
+        for (shift_ = 3; block() < mostWeights && startsAtOnce * block() < weights_;) ++shift_;
+        makeTable();
+    }
+
+    size_t length() const { return shift_ == 0 ? startsAtOnce : block(); }
+    template <class Use> void stretch(size_t first, size_t, Use use)
+    {
+        const size_t start = (first >> shift_) % startsAtOnce;
+        if (start == 0) makeStarts(first);
+        if (shift_ == 0) return use(StoredWeights{high_});
+        CosineBlock<terms> b;
+        b.high = splat(high_[start]);
+        b.low = splat(low_[start]);
+        for (int h = 0; h < terms; ++h) {
+            b.cosine[h] = splat(startCosine_[h][start]);
+            b.sine[h] = splat(startSine_[h][start]);
+            b.lessThanOnes[h] = lessThanOne_[h];
+            b.sines[h] = sine_[h];
+        }
+        use(b);
+    }
+
+private:
+    using V = Vec<f64>;
+    static constexpr size_t L = lanes<f64>;
+
+    [[gnu::noinline]] void makeTable()
+    {
+        for (size_t k = 0; k < block(); k += L)
+            for (int h = 0; h < terms; ++h) {
+                const QuarterAngle<V> angle = circle_.small_angle(indexes_from(k) * all_lanes<V>(h + 1));
+                const NearZero<V> a = near_zero(angle.rest, angle.below);
+                store(sine_[h] + k, angle.rest - a.sine_rest);
+                store(lessThanOne_[h] + k, a.half - a.cosine_rest);
+            }
+    }
+
+    [[gnu::noinline]] void makeStarts(size_t first)
+    {
+        const size_t left = (weights_ - first + block() - 1) >> shift_, n = left < startsAtOnce ? left : startsAtOnce;
+        for (size_t i = 0; i < n; i += L) {
+            const V at = indexes_from(i) * all_lanes<V>(static_cast<f64>(static_cast<i32>(block()))) +
+                         all_lanes<V>(static_cast<f64>(static_cast<i32>(first)));
+            V high = all_lanes<V>(mean_.hi), low = all_lanes<V>(mean_.lo);
+            for (int h = 0; h < terms; ++h) {
+                const ExactFactor amplitude(amplitudes_[h]);
+                const WideCosSin<V> a = wide_cos_sin(circle_.angle(at * all_lanes<V>(h + 1)));
+                const Complex<V> cosine = amplitude.times(a.value.re);
+                const V less = high - cosine.re, part = less - high;
+                const V more = cosine.im + a.left.re * all_lanes<V>(amplitude.value);
+                low = low + (((high - (less - part)) - (cosine.re + part)) - more);
+                high = less;
+                store(startCosine_[h] + i, cosine.re + more);
+                store(startSine_[h] + i, (a.value.im + a.left.im) * all_lanes<V>(amplitude.value));
+            }
+            const V sum = high + low;
+            store(high_ + i, sum);
+            store(low_ + i, (high - sum) + low);
+        }
+    }
+
+    size_t block() const { return size_t{1} << shift_; }
+
+    size_t weights_, shift_ = 0;
+    Circle circle_;
+    sig5d::Doubled mean_;
+    f64 amplitudes_[terms];
+    alignas(64) f64 sine_[terms][mostWeights], lessThanOne_[terms][mostWeights];
+    alignas(64) f64 high_[startsAtOnce], low_[startsAtOnce];
+    alignas(64) f64 startCosine_[terms][startsAtOnce], startSine_[terms][startsAtOnce];
+};
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
