@@ -125,6 +125,27 @@ template <class V> SIG5D_INLINE void putTransposed(f64* const* rows, const Four<
     }
 }
 
+// Numbers against memory order: lane 0 from the last of them.
+template <class V = Vector> SIG5D_INLINE V getBackwards(const f64* p)
+{
+    if constexpr (sizeof(V) == sizeof(f64)) {
+        return *p;
+    } else {
+        const V a = getHalves<V>(p + width - 2, p + width - 4);
+        return swapped(a);
+    }
+}
+template <class V = Vector> SIG5D_INLINE void putBackwards(f64* p, V a)
+{
+    if constexpr (sizeof(V) == sizeof(f64)) {
+        *p = a;
+    } else {
+        const V b = swapped(a);
+        putLowHalf(p + width - 2, b);
+        putHighHalf(p + width - 4, b);
+    }
+}
+
 // Interleaved complex values in memory order or, with step -1, lane 0 from the last of them.
 template <int step, class V = Vector> SIG5D_INLINE Complex<V> getInterleaved(const f64* p)
 {
