@@ -27,9 +27,11 @@ struct MixedTile {
 struct MixedPlan {
     i64 points, rows, columns;
     i64 kept, stride; // rows that are kept of a transformed column, and that number with some to fill groups of four
-    i64 pairs;        // of columns: c and c + columns / 2. Of an odd number the one in the middle is in two pairs
+    i64 pairs;        // of columns, c and c + b / 2, at least four. If b is odd the middle column is in two of them
     MixedTile ofColumns, ofRows;
-    i64 turns; // w_N^(c k) / 2: real parts of all columns, imaginary parts of all columns, for each k
+    i64 turns; // w_N^(c k) / 2: real parts of all columns, imaginary parts of all columns, for each k; zeros in the end
+    i64 taken; // the rows of values k and -k in the tile of transformed columns
+    i64 given; // where they are put for the way back; row a is one that nobody reads
     i64 bytes;
 };
 

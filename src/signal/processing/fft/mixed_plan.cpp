@@ -28,12 +28,12 @@ MixedTile tileOf(i64 length)
     return tile;
 }
 
-// What a row of a tile costs, in about half a cycle of a processor with four lanes.
-i64 costOfRow(const MixedTile& tile)
+// What a tile costs, in about half a cycle of a processor with four lanes.
+i64 costOf(const MixedTile& tile)
 {
-    i64 cost = 14;
-    for (int i = 0; i < tile.passes; ++i) cost += tile.radix[i] > 8 ? 8 + 2 * tile.radix[i] : 4 + tile.radix[i];
-    return cost;
+    i64 row = 14;
+    for (int i = 0; i < tile.passes; ++i) row += tile.radix[i] > 8 ? 8 + 2 * tile.radix[i] : 4 + tile.radix[i];
+    return 40 + 20 * tile.passes + row * tile.length;
 }
 
 i64 groups(i64 n) { return (n + 3) / 4; }
@@ -46,11 +46,10 @@ MixedPlan layout(i64 points)
     auto look = [&](i64 rows, i64 columns) {
         const MixedTile ofColumns = tileOf(rows), ofRows = tileOf(columns);
         const i64 kept = rows / 2 + 1, pairs = (columns + 1) / 2;
-        const i64 cost =
-            groups(pairs) * rows * (costOfRow(ofColumns) + 4) + groups(kept) * columns * costOfRow(ofRows);
-        if (least && cost >= least) return;
+        const i64 cost = groups(pairs) * costOf(ofColumns) + groups(kept) * costOf(ofRows);
+        if (pairs < 4 || (least && cost >= least)) return;
         least = cost;
-        best = {points, rows, columns, kept, 4 * groups(kept), pairs, ofColumns, ofRows, 0, 0};
+        best = {points, rows, columns, kept, 4 * groups(kept), pairs, ofColumns, ofRows, 0, 0, 0, 0};
     };
     for (i64 side = 2; side * side <= points; ++side)
         if (points % side == 0) {
@@ -79,7 +78,10 @@ MixedPlan layout(i64 points)
         tile->circle = take(16 * circles);
         tile->places = take(4 * i64(tile->length));
     }
-    best.turns = take(16 * best.kept * best.columns);
+    const i64 filled = 4 * groups(best.kept);
+    best.turns = take(16 * filled * best.columns);
+    best.taken = take(8 * filled);
+    best.given = take(8 * filled);
     best.bytes = end;
     return best;
 }
@@ -144,12 +146,20 @@ void mixedInit(void* place, i64 points)
     setTile(base, plan.ofColumns);
     setTile(base, plan.ofRows);
     f64* turn = reinterpret_cast<f64*>(base + plan.turns);
-    for (i64 k = 0; k < plan.kept; ++k, turn += 2 * plan.columns)
+    i32 *taken = reinterpret_cast<i32*>(base + plan.taken), *given = reinterpret_cast<i32*>(base + plan.given);
+    const i32* const places = tableAt<i32>(plan, plan.ofColumns.places);
+    for (i64 k = 0; k < 4 * groups(plan.kept); ++k, turn += 2 * plan.columns, taken += 2, given += 2) {
+        const bool real = k < plan.kept;
         for (i64 c = 0; c < plan.columns; ++c) {
             const libm::CosSin t = libm::cosSinTurn(-c * k, points);
-            turn[c] = 0.5 * t.cos;
-            turn[c + plan.columns] = 0.5 * t.sin;
+            turn[c] = real ? 0.5 * t.cos : 0.0;
+            turn[c + plan.columns] = real ? 0.5 * t.sin : 0.0;
         }
+        taken[0] = real ? places[k] : 0;
+        taken[1] = real && k ? places[plan.rows - k] : 0;
+        given[0] = static_cast<i32>(real ? k : plan.rows);
+        given[1] = static_cast<i32>(real ? plan.rows - k : plan.rows);
+    }
 }
 
 i64 mixedPlace(const void* place, i64 f)

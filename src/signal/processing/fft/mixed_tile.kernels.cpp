@@ -7,6 +7,7 @@ namespace {
 
 using Value = Complex<Vector>;
 
+constexpr f64 oneHalf = 0.5, oneQuarter = 0.25;
 constexpr f64 sinThird = 0x1.bb67ae8584caap-1;                                     // of 2 pi / 3
 constexpr f64 rootQuarter = 0x1.1e3779b97f4a8p-1;                                  // sqrt(5) / 4
 constexpr f64 sinFifth = 0x1.e6f0e134454ffp-1, sinTwoFifths = 0x1.2cf2304755a5ep-1; // of 2 pi / 5 and 4 pi / 5
@@ -37,7 +38,7 @@ template <int r> SIG5D_INLINE void butterfly(Value* v)
         v[1] = a - v[1];
     } else if constexpr (r == 3) {
         const Value sum = v[1] + v[2], difference = times(v[1] - v[2], every(sinThird));
-        const Value middle = v[0] - times(sum, every(0.5));
+        const Value middle = v[0] - times(sum, every(oneHalf));
         v[0] = v[0] + sum;
         v[1] = minusTurned(middle, difference);
         v[2] = plusTurned(middle, difference);
@@ -45,7 +46,7 @@ template <int r> SIG5D_INLINE void butterfly(Value* v)
         four(v[0], v[1], v[2], v[3]);
     } else if constexpr (r == 5) {
         const Value s1 = v[1] + v[4], s2 = v[2] + v[3], d1 = v[1] - v[4], d2 = v[2] - v[3], sum = s1 + s2;
-        const Value middle = v[0] - times(sum, every(0.25)), spread = times(s1 - s2, every(rootQuarter));
+        const Value middle = v[0] - times(sum, every(oneQuarter)), spread = times(s1 - s2, every(rootQuarter));
         const Value even1 = middle + spread, even2 = middle - spread;
         const Vector s = every(sinFifth), t = every(sinTwoFifths);
         const Value odd1 = times(d1, s) + times(d2, t), odd2 = times(d1, t) - times(d2, s);
@@ -93,33 +94,49 @@ template <int r> SIG5D_INLINE void butterfly(Value* v)
 
 SIG5D_INLINE Value turn(const f64* p) { return {broadcast<width>(p), broadcast<width>(p + 1)}; }
 
-// Row p of each part, of all blocks.
-template <int r, bool turned> SIG5D_INLINE void rowsOfParts(f64* row, f64* end, Count block, const f64* turns)
+// A row of each part, and so on for `count` of them.
+template <int r, bool turned>
+SIG5D_INLINE void rowsOfParts(const f64* source, Count sourceApart, Count sourceStep, Count imaginary, f64* row,
+                              Count apart, Count step, Count count, const f64* turns)
 {
-    const Count apart = block / r;
-    for (; row < end; row += block) {
+    for (; count > 0; --count, source += sourceStep, row += step) {
         Value v[r];
-        for (int j = 0; j < r; ++j) v[j] = getRow(row + j * apart);
+        for (int j = 0; j < r; ++j) {
+            const f64* const p = source + j * sourceApart;
+            v[j] = {load(p), load(p + imaginary)};
+        }
         butterfly<r>(v);
         putRow(row, v[0]);
         for (int k = 1; k < r; ++k) putRow(row + k * apart, turned ? v[k] * turn(turns + 2 * k - 2) : v[k]);
+        if (turned) turns += 2 * (r - 1);
     }
 }
-template <int r> [[gnu::noinline]] const f64* pass(f64* tile, f64* end, Count block, const f64* turns)
+// The first rows of all blocks, which meet no factors, then the others block by block.
+template <int r>
+[[gnu::noinline]] const f64* pass(const Rows& from, f64* tile, Count length, Count block, const f64* turns)
 {
-    rowsOfParts<r, false>(tile, end, block, nullptr);
-    for (Count p = rowSize; p < block / r; p += rowSize, turns += 2 * (r - 1))
-        rowsOfParts<r, true>(tile + p, end, block, turns);
-    return turns;
+    const Count part = block / r, blocks = length / block;
+    rowsOfParts<r, false>(from.first, part * from.apart, block * from.apart, from.imaginary, tile, part * rowSize,
+                          block * rowSize, blocks, nullptr);
+    if (part == 1) return turns;
+    for (Count i = 0; i < blocks; ++i)
+        rowsOfParts<r, true>(from.first + (i * block + 1) * from.apart, part * from.apart, from.apart, from.imaginary,
+                             tile + (i * block + 1) * rowSize, part * rowSize, rowSize, part - 1, turns);
+    return turns + 2 * (r - 1) * (part - 1);
 }
 
 // Any odd radix, by sums of the definition over the sums and differences of the rows j and r - j, which are kept apart.
-[[gnu::noinline]] void oddRows(f64* row, Count apart, int r, const f64* circle, const f64* turns, f64* spare)
+[[gnu::noinline]] void oddRows(const f64* source, Count sourceApart, Count imaginary, f64* row, Count apart, int r,
+                               const f64* circle, const f64* turns, f64* spare)
 {
-    const Value first = getRow(row);
+    auto in = [&](int j) {
+        const f64* const p = source + j * sourceApart;
+        return Value{load(p), load(p + imaginary)};
+    };
+    const Value first = in(0);
     Value sum = first;
     for (int j = 1; 2 * j < r; ++j) {
-        const Value a = getRow(row + j * apart), b = getRow(row + (r - j) * apart);
+        const Value a = in(j), b = in(r - j);
         putRow(spare + j * rowSize, a + b);
         putRow(spare + (r - j) * rowSize, a - b);
         sum = sum + (a + b);
@@ -142,36 +159,41 @@ template <int r> [[gnu::noinline]] const f64* pass(f64* tile, f64* end, Count bl
         putRow(row + (r - k) * apart, b);
     }
 }
-const f64* oddPass(f64* tile, f64* end, Count block, int r, const f64* circle, const f64* turns, f64* spare)
+const f64* oddPass(const Rows& from, f64* tile, Count length, Count block, int r, const f64* circle, const f64* turns,
+                   f64* spare)
 {
-    const Count apart = block / r;
-    for (f64* row = tile; row < end; row += block) oddRows(row, apart, r, circle, nullptr, spare);
-    for (Count p = rowSize; p < apart; p += rowSize, turns += 2 * (r - 1))
-        for (f64* row = tile + p; row < end; row += block) oddRows(row, apart, r, circle, turns, spare);
+    const Count part = block / r;
+    for (Count p = 0; p < part; ++p) {
+        for (Count i = p; i < length; i += block)
+            oddRows(from.first + i * from.apart, part * from.apart, from.imaginary, tile + i * rowSize, part * rowSize, r,
+                    circle, p ? turns : nullptr, spare);
+        if (p) turns += 2 * (r - 1);
+    }
     return turns;
 }
 
 } // namespace
 
-void transformTile(f64* tile, f64* spare, const MixedPlan& plan, const MixedTile& shape)
+void transformTile(Rows from, f64* tile, f64* spare, const MixedPlan& plan, const MixedTile& shape)
 {
     const f64 *turns = tableAt<f64>(plan, shape.turns), *circle = tableAt<f64>(plan, shape.circle);
-    Count block = shape.length * Count(rowSize);
-    f64* const end = tile + block;
+    const Count length = shape.length;
+    Count block = length;
     for (int i = 0; i < shape.passes; ++i) {
         const int r = shape.radix[i];
         switch (r) {
-        case 2: turns = pass<2>(tile, end, block, turns); break;
-        case 3: turns = pass<3>(tile, end, block, turns); break;
-        case 4: turns = pass<4>(tile, end, block, turns); break;
-        case 5: turns = pass<5>(tile, end, block, turns); break;
-        case 7: turns = pass<7>(tile, end, block, turns); break;
-        case 8: turns = pass<8>(tile, end, block, turns); break;
+        case 2: turns = pass<2>(from, tile, length, block, turns); break;
+        case 3: turns = pass<3>(from, tile, length, block, turns); break;
+        case 4: turns = pass<4>(from, tile, length, block, turns); break;
+        case 5: turns = pass<5>(from, tile, length, block, turns); break;
+        case 7: turns = pass<7>(from, tile, length, block, turns); break;
+        case 8: turns = pass<8>(from, tile, length, block, turns); break;
         default:
-            turns = oddPass(tile, end, block, r, circle, turns, spare);
+            turns = oddPass(from, tile, length, block, r, circle, turns, spare);
             circle += 2 * r;
         }
         block /= r;
+        from = rowsOf(tile);
     }
 }
 

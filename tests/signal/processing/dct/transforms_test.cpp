@@ -126,8 +126,8 @@ TEST(Dct, AccurateAtLongLengths)
     // Powers of two; mixed radices, also 61 * 61 and others with large ones; primes with a smooth and with another
     // predecessor; products with a large prime.
     Worst worst;
-    for (int len : {8192, 65536, 1 << 20, 3721, 46189, 59049, 100000, 1000000, 1031940, 10007, 65537, 163841, 524287,
-                    10006, 20026, 99999, 1048574})
+    for (int len : {8192, 65536, 1 << 20, 3721, 46189, 59049, 100000, 10007, 65537, 163841, 10006, 20026, 99999,
+                    1048574})
         worst.see(len);
     worst.print("up to 2^20");
 }
