@@ -83,41 +83,45 @@ void inverseFast(const DctSpec* spec, const f64* y, f64* x, f64* work)
     naturalOrder(work, x, spec->len);
 }
 
+// By methods that need a buffer.
+[[gnu::noinline]] Status forwardBuffered(const DctSpec* spec, const f64* x, f64* y, u8* buffer)
+{
+    if (!buffer) return StsNullPtrErr;
+    f64* const work = reinterpret_cast<f64*>(dctAligned(buffer));
+    switch (spec->method) {
+    case DctMethod::direct: forwardDirect(spec, x, y); break;
+    case DctMethod::prime: forwardPrime(spec, x, y, work); break;
+    case DctMethod::chirp: forwardChirp(spec, x, y, reinterpret_cast<c64f*>(work)); break;
+    default: forwardFast(spec, x, y, work);
+    }
+    return StsNoErr;
+}
+[[gnu::noinline]] Status inverseBuffered(const DctSpec* spec, const f64* y, f64* x, u8* buffer)
+{
+    if (!buffer) return StsNullPtrErr;
+    f64* const work = reinterpret_cast<f64*>(dctAligned(buffer));
+    switch (spec->method) {
+    case DctMethod::direct: inverseDirect(spec, y, x); break;
+    case DctMethod::prime: inversePrime(spec, y, x, work); break;
+    case DctMethod::chirp: inverseChirp(spec, y, x, reinterpret_cast<c64f*>(work)); break;
+    default: inverseFast(spec, y, x, work);
+    }
+    return StsNoErr;
+}
+
 Status dctForward(const f64* pSrc, f64* pDst, const void* pDCTSpec, u8* pBuffer)
 {
     const DctSpec* const spec = static_cast<const DctSpec*>(pDCTSpec);
     if (spec->tag != dctTag) return StsContextMatchErr;
-    if (spec->method == DctMethod::small) {
-        forwardSmall(spec->len, pSrc, pDst);
-        return StsNoErr;
-    }
-    if (!pBuffer) return StsNullPtrErr;
-    f64* const work = reinterpret_cast<f64*>(dctAligned(pBuffer));
-    switch (spec->method) {
-    case DctMethod::direct: forwardDirect(spec, pSrc, pDst); break;
-    case DctMethod::prime: forwardPrime(spec, pSrc, pDst, work); break;
-    case DctMethod::chirp: forwardChirp(spec, pSrc, pDst, reinterpret_cast<c64f*>(work)); break;
-    default: forwardFast(spec, pSrc, pDst, work);
-    }
-    return StsNoErr;
+    if (spec->method != DctMethod::small) return forwardBuffered(spec, pSrc, pDst, pBuffer);
+    return forwardSmall(spec->len, pSrc, pDst);
 }
 Status dctInverse(const f64* pSrc, f64* pDst, const void* pDCTSpec, u8* pBuffer)
 {
     const DctSpec* const spec = static_cast<const DctSpec*>(pDCTSpec);
     if (spec->tag != dctTag) return StsContextMatchErr;
-    if (spec->method == DctMethod::small) {
-        inverseSmall(spec->len, pSrc, pDst);
-        return StsNoErr;
-    }
-    if (!pBuffer) return StsNullPtrErr;
-    f64* const work = reinterpret_cast<f64*>(dctAligned(pBuffer));
-    switch (spec->method) {
-    case DctMethod::direct: inverseDirect(spec, pSrc, pDst); break;
-    case DctMethod::prime: inversePrime(spec, pSrc, pDst, work); break;
-    case DctMethod::chirp: inverseChirp(spec, pSrc, pDst, reinterpret_cast<c64f*>(work)); break;
-    default: inverseFast(spec, pSrc, pDst, work);
-    }
-    return StsNoErr;
+    if (spec->method != DctMethod::small) return inverseBuffered(spec, pSrc, pDst, pBuffer);
+    return inverseSmall(spec->len, pSrc, pDst);
 }
 
 } // namespace

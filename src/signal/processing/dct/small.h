@@ -28,11 +28,12 @@ template <> struct SmallCosines<8> {
 };
 
 // Pairwise, so that no sum waits for many.
-template <int n, class V> SIG5D_INLINE V sumOf(V* v)
+template <int n, class V> SIG5D_INLINE V sumOf(const V* v)
 {
-    for (int step = 1; step < n; step *= 2)
-        for (int i = 0; i < n; i += 2 * step) v[i] = v[i] + v[i + step];
-    return v[0];
+    if constexpr (n == 1)
+        return v[0];
+    else
+        return sumOf<n / 2>(v) + sumOf<n / 2>(v + n / 2);
 }
 
 // Shorter transforms than that of 8 points go number by number.
@@ -86,19 +87,29 @@ template <int len> SIG5D_INLINE void inverseSmallCosine(const f64* y, f64* x)
     }
 }
 
-void forwardSmall(int len, const f64* x, f64* y)
+Status forwardSmall(int len, const f64* x, f64* y)
 {
-    if (len == 8) return forwardSmallCosine<8>(x, y);
-    if (len == 4) return forwardSmallCosine<4>(x, y);
-    if (len == 2) return forwardSmallCosine<2>(x, y);
-    *y = *x;
+    if (len == 8)
+        forwardSmallCosine<8>(x, y);
+    else if (len == 4)
+        forwardSmallCosine<4>(x, y);
+    else if (len == 2)
+        forwardSmallCosine<2>(x, y);
+    else
+        *y = *x;
+    return StsNoErr;
 }
-void inverseSmall(int len, const f64* y, f64* x)
+Status inverseSmall(int len, const f64* y, f64* x)
 {
-    if (len == 8) return inverseSmallCosine<8>(y, x);
-    if (len == 4) return inverseSmallCosine<4>(y, x);
-    if (len == 2) return inverseSmallCosine<2>(y, x);
-    *x = *y;
+    if (len == 8)
+        inverseSmallCosine<8>(y, x);
+    else if (len == 4)
+        inverseSmallCosine<4>(y, x);
+    else if (len == 2)
+        inverseSmallCosine<2>(y, x);
+    else
+        *x = *y;
+    return StsNoErr;
 }
 
 } // namespace

@@ -40,34 +40,35 @@ template <class F> SIG5D_INLINE void forPairs(const MixedPlan& plan, F f)
 {
     for (Count c = 0; c < plan.pairs; c += width) f(c + width <= plan.pairs ? c : plan.pairs - width);
 }
-SIG5D_INLINE Value turnAt(const MixedPlan& plan, const f64* turns, int i)
+// Of row i: real parts of all columns, imaginary parts of all columns.
+SIG5D_INLINE Value turnAt(const f64* turns, Count columns, int i)
 {
-    const f64* const p = turns + 2 * i * plan.columns;
-    return {load(p), load(p + plan.columns)};
+    return {load(turns + 2 * i * columns), load(turns + (2 * i + 1) * columns)};
 }
 
 // Columns of x into lines of values: transformed, taken apart, multiplied.
 [[gnu::noinline]] void fromColumns(const MixedPlan& plan, const f64* x, const Parts& work)
 {
-    const Count apart = plan.columns / 2, line = lineDoubles(plan);
+    // (Of the plan only copies are used in loops that store, since it could be what they store to.)
+    const Count columns = plan.columns, apart = columns / 2, line = lineDoubles(plan), kept = plan.kept;
     forPairs(plan, [&](Count c) {
-        transformTile({x + c, plan.columns, apart}, work.tile, work.spare, plan, plan.ofColumns);
+        transformRows(x + c, columns, apart, work.tile, work.spare, plan, plan.ofColumns);
         Lines<f64> first(work.lines + c * line, line), second(work.lines + (c + apart) * line, line);
         const i32* at = tableAt<i32>(plan, plan.taken);
         const f64* turns = tableAt<f64>(plan, plan.turns) + c;
-        for (Count k = 0; k < plan.kept; k += 4, at += 8, turns += 8 * plan.columns) {
+        for (Count k = 0; k < kept; k += 4, at += 8, turns += 8 * columns) {
             Quad<Vector> v;
             // A column that is in both halves counts as one of the first.
 #pragma GCC unroll 4
             for (int i = 0; i < 4; ++i) {
                 const Value z = getRow(work.tile + at[2 * i] * rowSize), y = getRow(work.tile + at[2 * i + 1] * rowSize);
-                v.v[i] = Value{z.im + y.im, y.re - z.re} * turnAt(plan, turns + apart, i);
+                v.v[i] = Value{z.im + y.im, y.re - z.re} * turnAt(turns + apart, columns, i);
             }
             putLanes(second.row, v);
 #pragma GCC unroll 4
             for (int i = 0; i < 4; ++i) {
                 const Value z = getRow(work.tile + at[2 * i] * rowSize), y = getRow(work.tile + at[2 * i + 1] * rowSize);
-                v.v[i] = Value{z.re + y.re, z.im - y.im} * turnAt(plan, turns, i);
+                v.v[i] = Value{z.re + y.re, z.im - y.im} * turnAt(turns, columns, i);
             }
             putLanes(first.row, v);
             first.advance();
@@ -78,27 +79,27 @@ SIG5D_INLINE Value turnAt(const MixedPlan& plan, const f64* turns, int i)
 // The way back, from half of what the definition says to all of it.
 [[gnu::noinline]] void toColumns(const MixedPlan& plan, f64* x, const Parts& work)
 {
-    const Count apart = plan.columns / 2, line = lineDoubles(plan);
+    const Count columns = plan.columns, apart = columns / 2, line = lineDoubles(plan), kept = plan.kept;
     const i32* const places = tableAt<i32>(plan, plan.ofColumns.places);
     forPairs(plan, [&](Count c) {
         Lines<const f64> first(work.lines + c * line, line), second(work.lines + (c + apart) * line, line);
         const i32* at = tableAt<i32>(plan, plan.given);
         const f64* turns = tableAt<f64>(plan, plan.turns) + c;
-        for (Count k = 0; k < plan.kept; k += 4, at += 8, turns += 8 * plan.columns) {
+        for (Count k = 0; k < kept; k += 4, at += 8, turns += 8 * columns) {
             const Quad<Vector> of = getLanes(first.row), other = getLanes(second.row);
 #pragma GCC unroll 4
             for (int i = 0; i < 4; ++i) {
-                const Value y = timesConj(of.v[i], turnAt(plan, turns, i));
-                const Value z = timesConj(other.v[i], turnAt(plan, turns + apart, i));
+                const Value y = timesConj(of.v[i], turnAt(turns, columns, i));
+                const Value z = timesConj(other.v[i], turnAt(turns + apart, columns, i));
                 putRow(work.tile + at[2 * i + 1] * rowSize, exchanged(Value{y.re + z.im, z.re - y.im}));
                 putRow(work.tile + at[2 * i] * rowSize, exchanged(Value{y.re - z.im, y.im + z.re}));
             }
             first.advance();
             second.advance();
         }
-        transformTile(rowsOf(work.tile), work.tile, work.spare, plan, plan.ofColumns);
+        transformTile(work.tile, work.spare, plan, plan.ofColumns);
         f64* p = x + c;
-        for (Count j = 0; j < plan.rows; ++j, p += plan.columns) {
+        for (Count j = 0, rows = plan.rows; j < rows; ++j, p += columns) {
             const Value v = exchanged(getRow(work.tile + places[j] * rowSize));
             store(p + apart, v.im);
             store(p, v.re);
@@ -113,14 +114,14 @@ template <class F> SIG5D_INLINE void forRows(const MixedPlan& plan, F f)
 }
 SIG5D_INLINE void rowsFromLines(const MixedPlan& plan, const Parts& work, Count place)
 {
-    transformTile({work.lines + place, lineDoubles(plan), 4}, work.tile, work.spare, plan, plan.ofRows);
+    transformRows(work.lines + place, lineDoubles(plan), 4, work.tile, work.spare, plan, plan.ofRows);
 }
 SIG5D_INLINE void linesFromRows(const MixedPlan& plan, const Parts& work, f64* tile, Count place)
 {
     const i32* const places = tableAt<i32>(plan, plan.ofRows.places);
-    transformTile(rowsOf(tile), tile, work.spare, plan, plan.ofRows);
+    transformTile(tile, work.spare, plan, plan.ofRows);
     f64* p = work.lines + place;
-    for (Count c = 0; c < plan.columns; ++c, p += lineDoubles(plan))
+    for (Count c = 0, columns = plan.columns, line = lineDoubles(plan); c < columns; ++c, p += line)
         putBlock(p, exchanged(getRow(tile + places[c] * rowSize)));
 }
 
@@ -159,8 +160,9 @@ void mixedForward(const void* place, const f64* x, f64* spectrum, void* buffer)
     fromColumns(plan, x, work);
     forRows(plan, [&](Count, Count first) {
         rowsFromLines(plan, work, first);
-        for (Count l = 0; l < plan.columns; ++l)
-            putBlock(spectrum + l * lineDoubles(plan) + first, getRow(work.tile + places[l] * rowSize));
+        f64* p = spectrum + first;
+        for (Count l = 0, columns = plan.columns, line = lineDoubles(plan); l < columns; ++l, p += line)
+            putBlock(p, getRow(work.tile + places[l] * rowSize));
     });
 }
 
@@ -169,12 +171,13 @@ void mixedTurned(const void* place, const f64* x, const f64* turns, f64* y, void
     const MixedPlan& plan = mixedPlanAt(place);
     const Parts work(plan, buffer);
     fromColumns(plan, x, work);
+    const Count a = plan.rows, columns = plan.columns, line = lineDoubles(plan), kept = plan.kept, points = plan.points;
+    const i32* const places = tableAt<i32>(plan, plan.ofRows.places);
     forRows(plan, [&](Count k, Count first) {
-        const Count n = plan.kept - k;
+        const Count n = kept - k;
         rowsFromLines(plan, work, first);
-        const i32* const places = tableAt<i32>(plan, plan.ofRows.places);
         const f64* t = turns + first;
-        f64 *up = y + k, *down = y + plan.points - k;
+        f64 *up = y + k, *down = y + points - k;
         Count l = 0;
         if (k == 0) { // X[0] has no partner
             const Value v = getRow(work.tile), r = getBlock(t);
@@ -182,12 +185,12 @@ void mixedTurned(const void* place, const f64* x, const f64* turns, f64* y, void
             f64 lane[width];
             store(lane, v.re * r.im - v.im * r.re);
             for (Count i = 1; i < width && i < n; ++i) down[-i] = lane[i];
-            l = 1;
+            l = 1, t += line, up += a, down -= a;
         }
-        for (; l < plan.columns; ++l) {
-            const Value v = getRow(work.tile + places[l] * rowSize), r = getBlock(t + l * lineDoubles(plan));
-            putSome<1>(up + l * plan.rows, n, v.re * r.re + v.im * r.im);
-            putSome<-1>(down - l * plan.rows, n, v.re * r.im - v.im * r.re);
+        for (; l < columns; ++l, t += line, up += a, down -= a) {
+            const Value v = getRow(work.tile + places[l] * rowSize), r = getBlock(t);
+            putSome<1>(up, n, v.re * r.re + v.im * r.im);
+            putSome<-1>(down, n, v.re * r.im - v.im * r.re);
         }
     });
 }
@@ -196,15 +199,16 @@ void mixedFromTurned(const void* place, const f64* y, const f64* turns, f64* x, 
 {
     const MixedPlan& plan = mixedPlanAt(place);
     const Parts work(plan, buffer);
+    const Count a = plan.rows, columns = plan.columns, line = lineDoubles(plan), kept = plan.kept, points = plan.points;
     forRows(plan, [&](Count k, Count first) {
         // What lies beyond the rows that are kept meets factors of zero.
-        const Count n = k + width <= plan.rows ? width : plan.kept - k;
-        const f64* t = turns + first;
-        const f64 *up = y + k, *down = y + plan.points - k;
-        Count l = 0;
-        auto put = [&](Vector a, Vector b) {
-            const Value r = getBlock(t + l * lineDoubles(plan));
-            putRow(work.tile + l * rowSize, {a * r.im - b * r.re, a * r.re + b * r.im});
+        const Count n = k + width <= a ? width : kept - k;
+        const f64 *t = turns + first, *up = y + k, *down = y + points - k;
+        f64 *row = work.tile, *const end = row + columns * rowSize;
+        auto put = [&](Vector even, Vector odd) {
+            const Value r = getBlock(t);
+            putRow(row, {even * r.im - odd * r.re, even * r.re + odd * r.im});
+            row += rowSize, t += line, up += a, down -= a;
         };
         if (k == 0) { // X[0] counts twice and has no partner
             f64 of[width], other[width];
@@ -214,9 +218,8 @@ void mixedFromTurned(const void* place, const f64* y, const f64* turns, f64* x, 
                 other[i] = j ? down[-j] : 0.0;
             }
             put(load(of), load(other));
-            l = 1;
         }
-        for (; l < plan.columns; ++l) put(getSome<1>(up + l * plan.rows, n), getSome<-1>(down - l * plan.rows, n));
+        while (row < end) put(getSome<1>(up, n), getSome<-1>(down, n));
         linesFromRows(plan, work, work.tile, first);
     });
     toColumns(plan, x, work);
@@ -230,10 +233,9 @@ void mixedConvolve(const void* place, const f64* x, const f64* h, f64* y, void* 
     fromColumns(plan, x, work);
     forRows(plan, [&](Count, Count first) {
         rowsFromLines(plan, work, first);
-        for (Count l = 0; l < plan.columns; ++l) {
-            const Value v = getRow(work.tile + places[l] * rowSize);
-            putRow(work.second + l * rowSize, exchanged(v * getBlock(h + l * lineDoubles(plan) + first)));
-        }
+        const f64* p = h + first;
+        for (Count l = 0, columns = plan.columns, line = lineDoubles(plan); l < columns; ++l, p += line)
+            putRow(work.second + l * rowSize, exchanged(getRow(work.tile + places[l] * rowSize) * getBlock(p)));
         linesFromRows(plan, work, work.second, first);
     });
     toColumns(plan, y, work);

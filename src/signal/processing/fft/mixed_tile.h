@@ -5,21 +5,20 @@
 
 namespace sig5d::SIG5D_VARIANT {
 
-// Where rows are to be had: vectors of real parts, and of imaginary parts so many doubles further.
-struct Rows {
-    const f64* first;
-    Count apart, imaginary;
-};
-
-// Forward, of rows that are the tile's own or come from elsewhere; value f is in row tableAt<i32>(plan, shape.places)[f]
-// of the tile then. `spare` has largestRadix rows.
-void transformTile(Rows from, f64* tile, f64* spare, const MixedPlan& plan, const MixedTile& shape);
+// Forward. Rows come from vectors of real parts `apart` doubles from each other, with imaginary parts so much further, or
+// are the tile's own. Value f is in row tableAt<i32>(plan, shape.places)[f] of the tile then. `spare` has largestRadix
+// rows.
+void transformRows(const f64* from, Count apart, Count imaginary, f64* tile, f64* spare, const MixedPlan& plan,
+                   const MixedTile& shape);
 
 namespace {
 
 constexpr int rowSize = 2 * width; // doubles
 
-inline Rows rowsOf(const f64* tile) { return {tile, rowSize, width}; }
+inline void transformTile(f64* tile, f64* spare, const MixedPlan& plan, const MixedTile& shape)
+{
+    transformRows(tile, rowSize, width, tile, spare, plan, shape);
+}
 
 SIG5D_INLINE Complex<Vector> getRow(const f64* p)
 {

@@ -113,15 +113,16 @@ SIG5D_INLINE void rowsOfParts(const f64* source, Count sourceApart, Count source
 }
 // The first rows of all blocks, which meet no factors, then the others block by block.
 template <int r>
-[[gnu::noinline]] const f64* pass(const Rows& from, f64* tile, Count length, Count block, const f64* turns)
+[[gnu::noinline]] const f64* pass(const f64* from, Count apart, Count imaginary, f64* tile, Count length, Count block,
+                                  const f64* turns)
 {
-    const Count part = block / r, blocks = length / block;
-    rowsOfParts<r, false>(from.first, part * from.apart, block * from.apart, from.imaginary, tile, part * rowSize,
-                          block * rowSize, blocks, nullptr);
+    const Count part = block / r;
+    rowsOfParts<r, false>(from, part * apart, block * apart, imaginary, tile, part * rowSize, block * rowSize,
+                          length / block, nullptr);
     if (part == 1) return turns;
-    for (Count i = 0; i < blocks; ++i)
-        rowsOfParts<r, true>(from.first + (i * block + 1) * from.apart, part * from.apart, from.apart, from.imaginary,
-                             tile + (i * block + 1) * rowSize, part * rowSize, rowSize, part - 1, turns);
+    for (Count i = 1; i < length; i += block)
+        rowsOfParts<r, true>(from + i * apart, part * apart, apart, imaginary, tile + i * rowSize, part * rowSize,
+                             rowSize, part - 1, turns);
     return turns + 2 * (r - 1) * (part - 1);
 }
 
@@ -159,14 +160,14 @@ template <int r>
         putRow(row + (r - k) * apart, b);
     }
 }
-const f64* oddPass(const Rows& from, f64* tile, Count length, Count block, int r, const f64* circle, const f64* turns,
-                   f64* spare)
+const f64* oddPass(const f64* from, Count fromApart, Count imaginary, f64* tile, Count length, Count block, int r,
+                   const f64* circle, const f64* turns, f64* spare)
 {
     const Count part = block / r;
     for (Count p = 0; p < part; ++p) {
         for (Count i = p; i < length; i += block)
-            oddRows(from.first + i * from.apart, part * from.apart, from.imaginary, tile + i * rowSize, part * rowSize, r,
-                    circle, p ? turns : nullptr, spare);
+            oddRows(from + i * fromApart, part * fromApart, imaginary, tile + i * rowSize, part * rowSize, r, circle,
+                    p ? turns : nullptr, spare);
         if (p) turns += 2 * (r - 1);
     }
     return turns;
@@ -174,7 +175,8 @@ const f64* oddPass(const Rows& from, f64* tile, Count length, Count block, int r
 
 } // namespace
 
-void transformTile(Rows from, f64* tile, f64* spare, const MixedPlan& plan, const MixedTile& shape)
+void transformRows(const f64* from, Count apart, Count imaginary, f64* tile, f64* spare, const MixedPlan& plan,
+                   const MixedTile& shape)
 {
     const f64 *turns = tableAt<f64>(plan, shape.turns), *circle = tableAt<f64>(plan, shape.circle);
     const Count length = shape.length;
@@ -182,18 +184,20 @@ void transformTile(Rows from, f64* tile, f64* spare, const MixedPlan& plan, cons
     for (int i = 0; i < shape.passes; ++i) {
         const int r = shape.radix[i];
         switch (r) {
-        case 2: turns = pass<2>(from, tile, length, block, turns); break;
-        case 3: turns = pass<3>(from, tile, length, block, turns); break;
-        case 4: turns = pass<4>(from, tile, length, block, turns); break;
-        case 5: turns = pass<5>(from, tile, length, block, turns); break;
-        case 7: turns = pass<7>(from, tile, length, block, turns); break;
-        case 8: turns = pass<8>(from, tile, length, block, turns); break;
+        case 2: turns = pass<2>(from, apart, imaginary, tile, length, block, turns); break;
+        case 3: turns = pass<3>(from, apart, imaginary, tile, length, block, turns); break;
+        case 4: turns = pass<4>(from, apart, imaginary, tile, length, block, turns); break;
+        case 5: turns = pass<5>(from, apart, imaginary, tile, length, block, turns); break;
+        case 7: turns = pass<7>(from, apart, imaginary, tile, length, block, turns); break;
+        case 8: turns = pass<8>(from, apart, imaginary, tile, length, block, turns); break;
         default:
-            turns = oddPass(from, tile, length, block, r, circle, turns, spare);
+            turns = oddPass(from, apart, imaginary, tile, length, block, r, circle, turns, spare);
             circle += 2 * r;
         }
         block /= r;
-        from = rowsOf(tile);
+        from = tile;
+        apart = rowSize;
+        imaginary = width;
     }
 }
 
