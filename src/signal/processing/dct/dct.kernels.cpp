@@ -1,8 +1,9 @@
 // Discrete cosine transforms, orthonormal: forward (DCT-II) and its inverse (DCT-III).
 #include "frame/entry.h"
-#include "signal/processing/dct/convolved.h"
+#include "signal/processing/dct/chirp.h"
 #include "signal/processing/dct/direct.h"
 #include "signal/processing/dct/order.h"
+#include "signal/processing/dct/prime.h"
 #include "signal/processing/dct/small.h"
 #include "signal/processing/dct/spec.h"
 #include "signal/processing/fft/transforms.h"

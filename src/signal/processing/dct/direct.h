@@ -7,79 +7,104 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-using Pair = Complex<f64>;
+// What meets a cosine and what meets the sine of the same angle; the two belong to different outputs.
+using Pair = Vec<f64, 2>;
 
-constexpr int longestDirect = 86;
+constexpr int longestDirect = 86, sumsAtOnce = 4;
 
-// The angles pi (start + step i) / 2N, i = 0, 1, ..., of which the table has half a circle.
+// The angles of a sum: start, start + step, ... round the circle, which has 2N steps if N is odd, since even k suffice
+// then, and otherwise 4N, of which the table has half.
 struct Angles {
-    const f64* table;
-    int half, at, step;
-    f64 sign = 1.0;
-    Angles(const DctSpec* spec, int start, int by)
-        : table(dctPart<f64>(spec, spec->turns)), half(2 * spec->len), at(start), step(by)
-    {
-    }
-    Pair next()
-    {
-        const Pair t = {sign * table[2 * at], sign * table[2 * at + 1]};
-        at += step;
-        if (at >= half) {
-            at -= half;
-            sign = -sign;
-        }
-        return t;
-    }
+    int start, step;
 };
 
-[[gnu::noinline]] void forwardDirect(const DctSpec* spec, const f64* x, f64* y)
+template <bool odd>
+[[gnu::noinline]] void sumsOfTerms(const DctSpec* spec, const Pair* terms, int count, const Angles* angles, Pair* sums)
+{
+    static constexpr f64 signs[] = {1.0, 1.0, -1.0, -1.0};
+    const f64* const table = dctPart<f64>(spec, spec->turns);
+    const int tabled = 2 * spec->len, circle = odd ? tabled : 2 * tabled;
+    Pair sum[sumsAtOnce] = {};
+    int at[sumsAtOnce];
+    for (int i = 0; i < sumsAtOnce; ++i) at[i] = angles[i].start;
+    for (int n = 0; n < count; ++n)
+#pragma GCC unroll 4
+        for (int i = 0; i < sumsAtOnce; ++i) {
+            const bool beyond = !odd && at[i] >= tabled;
+            const Pair t = loadn<2>(table + 2 * (beyond ? at[i] - tabled : at[i]));
+            sum[i] += terms[n] * (odd ? t : t * loadn<2>(signs + 2 * beyond));
+            at[i] += angles[i].step;
+            at[i] -= at[i] >= circle ? circle : 0;
+        }
+    for (int i = 0; i < sumsAtOnce; ++i) sums[i] = sum[i];
+}
+
+template <bool odd> void forwardDirectly(const DctSpec* spec, const f64* x, f64* y)
 {
     const int len = spec->len, some = (len + 1) / 2;
-    // For even and for odd k: what meets the cosines and the sines.
-    Pair terms[2][longestDirect / 2];
+    Pair terms[2][longestDirect / 2]; // for even and for odd k
     for (int n = 0; n < some; ++n) {
         const bool middle = 2 * n + 1 == len;
         const f64 a = x[n], b = x[len - 1 - n], sum = middle ? a : a + b, difference = middle ? 0.0 : a - b;
-        const f64 evenPartner = len % 2 ? difference : sum, oddPartner = len % 2 ? sum : difference;
-        terms[0][n] = {sum, n % 2 ? -evenPartner : evenPartner};
-        terms[1][n] = {difference, n % 2 ? -oddPartner : oddPartner};
+        const f64 partner = odd ? difference : sum;
+        terms[0][n] = Pair{sum, n % 2 ? -partner : partner};
+        terms[1][n] = Pair{difference, n % 2 ? -difference : difference};
     }
-    for (int k = 0; 2 * k <= len; ++k) {
-        Angles angles(spec, k, 2 * k);
-        Pair sum = {0.0, 0.0};
-        for (int n = 0; n < some; ++n) {
-            const Pair t = angles.next(), a = terms[k & 1][n];
-            sum.re += a.re * t.re;
-            sum.im += a.im * t.im;
+    const int last = odd ? len - 1 : len / 2;
+    for (int parity = 0; parity < (odd ? 1 : 2); ++parity)
+        for (int first = parity; first <= last; first += 2 * sumsAtOnce) {
+            Angles angles[sumsAtOnce];
+            Pair sums[sumsAtOnce];
+            for (int i = 0; i < sumsAtOnce; ++i) {
+                const int k = first + 2 * i <= last ? first + 2 * i : first;
+                angles[i] = odd ? Angles{k / 2, k} : Angles{k, 2 * k};
+            }
+            sumsOfTerms<odd>(spec, terms[parity], some, angles, sums);
+            for (int i = 0; i < sumsAtOnce && first + 2 * i <= last; ++i) {
+                const int k = first + 2 * i;
+                const f64 scale = k ? spec->other : spec->first;
+                if (k) y[len - k] = sums[i][1] * scale;
+                y[k] = sums[i][0] * scale;
+            }
         }
+}
+
+template <bool odd> void inverseDirectly(const DctSpec* spec, const f64* y, f64* x)
+{
+    const int len = spec->len, last = odd ? len - 1 : len / 2;
+    Pair terms[2][longestDirect / 2]; // of even and of odd k
+    for (int k = 0; k <= last; k += odd ? 2 : 1) {
         const f64 scale = k ? spec->other : spec->first;
-        if (k) y[len - k] = sum.im * scale;
-        y[k] = sum.re * scale;
+        terms[k & 1][k / 2] = Pair{y[k] * scale, k && 2 * k != len ? y[len - k] * scale : 0.0};
+    }
+    for (int first = 0; 2 * first < len; first += sumsAtOnce) {
+        Angles angles[2][sumsAtOnce];
+        Pair even[sumsAtOnce], uneven[sumsAtOnce] = {};
+        for (int i = 0; i < sumsAtOnce; ++i) {
+            const int n = 2 * (first + i) < len ? first + i : first;
+            angles[0][i] = {0, odd ? 2 * n + 1 : 4 * n + 2};
+            angles[1][i] = {2 * n + 1, 4 * n + 2};
+        }
+        sumsOfTerms<odd>(spec, terms[0], last / 2 + 1, angles[0], even);
+        if (!odd) sumsOfTerms<odd>(spec, terms[1], (last + 1) / 2, angles[1], uneven);
+        for (int i = 0; i < sumsAtOnce && 2 * (first + i) < len; ++i) {
+            const int n = first + i;
+            const f64 sign = n % 2 ? -1.0 : 1.0;
+            const f64 a = odd ? even[i][0] : even[i][0] + sign * even[i][1];
+            const f64 b = odd ? sign * even[i][1] : uneven[i][0] + sign * uneven[i][1];
+            x[len - 1 - n] = a - b;
+            x[n] = a + b;
+        }
     }
 }
 
+[[gnu::noinline]] void forwardDirect(const DctSpec* spec, const f64* x, f64* y)
+{
+    spec->len % 2 ? forwardDirectly<true>(spec, x, y) : forwardDirectly<false>(spec, x, y);
+}
 [[gnu::noinline]] void inverseDirect(const DctSpec* spec, const f64* y, f64* x)
 {
-    const int len = spec->len, some = len / 2 + 1;
-    Pair terms[longestDirect / 2 + 1];
-    for (int k = 0; k < some; ++k) {
-        const f64 scale = k ? spec->other : spec->first;
-        terms[k] = {y[k] * scale, k && 2 * k < len ? y[len - k] * scale : 0.0};
-    }
-    for (int n = 0; 2 * n < len; ++n) {
-        Pair sums[2] = {};
-        Angles angles(spec, 0, 2 * n + 1);
-        for (int k = 0; k < some; ++k) {
-            const Pair t = angles.next(), a = terms[k];
-            sums[k & 1].re += a.re * t.re;
-            sums[k & 1].im += a.im * t.im;
-        }
-        const f64 evenSines = sums[len & 1].im, oddSines = sums[~len & 1].im;
-        const f64 even = n % 2 ? sums[0].re - evenSines : sums[0].re + evenSines;
-        const f64 odd = n % 2 ? sums[1].re - oddSines : sums[1].re + oddSines;
-        x[len - 1 - n] = even - odd;
-        x[n] = even + odd;
-    }
+    spec->len % 2 ? inverseDirectly<true>(spec, y, x) : inverseDirectly<false>(spec, y, x);
 }
 
 } // namespace

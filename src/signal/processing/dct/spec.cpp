@@ -77,11 +77,11 @@ struct Layout {
             break;
         }
         case DctMethod::chirp: {
-            const int order = orderOf(len + len / 2);
+            const int order = orderOf(len % 2 ? len + len / 2 : len - 1);
             padded = i64(1) << order;
             plan = take(fftPlanBytes(FftKind::complex, FftSpectrum::unordered, order));
             kernel = take(16 * padded);
-            turns = take(16 * (len + len / 2 + 1));
+            turns = take(16 * (len % 2 ? len + len / 2 + 1 : len / 2 + 2 * (len / 4 + 1)));
             work = 16 * padded + fftWorkBytes(FftKind::complex, order);
             init = work;
             break;
@@ -107,11 +107,11 @@ libm::CosSin turnOf(const DctSpec* spec, i64 k, f64 scale = 1.0)
     const f64 c = scale * scaleOf(k, spec->len);
     return {c * t.cos, c * t.sin};
 }
-// exp(-i pi n^2 / N)
-libm::CosSin chirpOf(i64 n, i64 len)
+// exp(-i pi n^2 / P)
+libm::CosSin chirpOf(i64 n, i64 points)
 {
     const u64 square = static_cast<u64>(n) * static_cast<u64>(n);
-    return libm::cosSinTurn(-static_cast<i64>(square % static_cast<u64>(2 * len)), 2 * len);
+    return libm::cosSinTurn(-static_cast<i64>(square % static_cast<u64>(2 * points)), 2 * points);
 }
 
 template <class T> T* at(DctSpec* spec, u32 offset) { return const_cast<T*>(dctPart<T>(spec, offset)); }
@@ -139,12 +139,12 @@ i64 generatorOf(i64 p)
     }
 }
 
-// (cos, sin) of pi j / 2N for half of the circle.
+// (cos, sin) of pi j / N for the whole circle if N is odd, otherwise of pi j / 2N for half of it.
 void setDirect(DctSpec* spec)
 {
     c64f* const turns = at<c64f>(spec, spec->turns);
     for (i64 j = 0; j < 2 * spec->len; ++j) {
-        const libm::CosSin t = libm::cosSinTurn(j, 4 * i64(spec->len));
+        const libm::CosSin t = libm::cosSinTurn(j, (spec->len % 2 ? 2 : 4) * i64(spec->len));
         turns[j] = {t.cos, t.sin};
     }
 }
@@ -190,20 +190,26 @@ void setPrime(DctSpec* spec)
         outputs[q] = static_cast<i32>(k);
     }
 }
-// exp(-i pi n^2 / N) for all n, then the same times c(k) exp(-pi i k / 2N) for half of them.
+// exp(-i pi n^2 / P) for all n below P, which is N if that is odd and half of N otherwise. Then c(k) times the same for
+// 2 k^2 + k steps of a 4N-th of the circle, 2k < N; or c(k) / 2 times those for k steps and for 5 k.
 void setChirp(DctSpec* spec)
 {
-    const i64 len = spec->len;
-    c64f *const chirp = at<c64f>(spec, spec->turns), *const turns = chirp + len;
-    for (i64 n = 0; n < len; ++n) {
-        const libm::CosSin t = chirpOf(n, len);
+    const i64 len = spec->len, points = len % 2 ? len : len / 2;
+    c64f *const chirp = at<c64f>(spec, spec->turns), *const turns = chirp + points;
+    auto turned = [&](i64 k, u64 steps, f64 scale) -> c64f {
+        const libm::CosSin t = libm::cosSinTurn(-static_cast<i64>(steps % static_cast<u64>(4 * len)), 4 * len);
+        const f64 c = scale * scaleOf(k, len);
+        return {c * t.cos, c * t.sin};
+    };
+    for (i64 n = 0; n < points; ++n) {
+        const libm::CosSin t = chirpOf(n, points);
         chirp[n] = {t.cos, t.sin};
     }
-    for (i64 k = 0; k <= len / 2; ++k) { // 2 k^2 + k steps of a 4N-th of the circle
-        const u64 steps = static_cast<u64>(k) * static_cast<u64>(2 * k + 1);
-        const libm::CosSin t = libm::cosSinTurn(-static_cast<i64>(steps % static_cast<u64>(4 * len)), 4 * len);
-        const f64 c = scaleOf(k, len);
-        turns[k] = {c * t.cos, c * t.sin};
+    for (i64 k = 0; len % 2 && 2 * k < len; ++k)
+        turns[k] = turned(k, static_cast<u64>(k) * static_cast<u64>(2 * k + 1), 1.0);
+    for (i64 k = 0; len % 2 == 0 && 4 * k <= len; ++k) {
+        turns[2 * k] = turned(k, static_cast<u64>(k), 0.5);
+        turns[2 * k + 1] = turned(k, static_cast<u64>(5 * k), 0.5);
     }
 }
 
@@ -280,13 +286,13 @@ void dctSignal(const DctSpec* spec, f64* signal)
         if (points > period && d) signal[points - period + d] = value;
     }
 }
-// exp(i pi m^2 / N) for m = -(N - 1) ... N / 2.
+// exp(i pi m^2 / P) for the distances m of inputs and outputs, P - 1 at most in one direction and N / 2 in the other.
 void dctSignal(const DctSpec* spec, c64f* signal)
 {
-    const i64 len = spec->len, points = spec->padded;
+    const i64 len = spec->len, points = spec->padded, count = len % 2 ? len : len / 2;
     const c64f* const chirp = dctPart<c64f>(spec, spec->turns);
     for (i64 i = 0; i < points; ++i) signal[i] = {};
-    for (i64 m = 0; m < len; ++m) {
+    for (i64 m = 0; m < count; ++m) {
         const c64f value = {chirp[m].re, -chirp[m].im};
         if (m <= len / 2) signal[m] = value;
         if (m) signal[points - m] = value;

@@ -16,7 +16,7 @@ enum class DctMethod : i32 {
     power,  // powers of two: real transform in natural order
     mixed,  // products of small primes: real transform of mixed radices
     prime,  // primes: by a circular convolution of N - 1 values (Rader, 1968)
-    chirp,  // all others: by a complex convolution with exp(i pi n^2 / N) (Bluestein, 1970)
+    chirp,  // all others: by a complex convolution with a chirp (Bluestein, 1970)
 };
 
 // The head of a specification, at a multiple of 64. What it refers to is told by offsets from it, so that a block may be

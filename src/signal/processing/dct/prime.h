@@ -1,4 +1,4 @@
-// Lengths with large prime factors, by convolutions of other lengths.
+// Large primes, by a convolution of one value less.
 #pragma once
 #include "signal/processing/dct/spec.h"
 #include "signal/processing/fft/lanes.h"
@@ -6,6 +6,20 @@
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
+
+// Lane by lane, with the number of the lane as a constant: without a way through memory.
+template <int i, class V> SIG5D_INLINE f64 lane(V v)
+{
+    if constexpr (sizeof(V) == sizeof(f64))
+        return v;
+    else
+        return v[i];
+}
+template <class F, int... i> SIG5D_INLINE void forEach(F f, std::integer_sequence<int, i...>)
+{
+    (f(std::integral_constant<int, i>{}), ...);
+}
+template <class F> SIG5D_INLINE void forLanes(F f) { forEach(f, std::make_integer_sequence<int, width>{}); }
 
 // A prime length N has a generator g, whose powers are all numbers from 1 to N - 1. With H[k] = sum of v[n] times cos -
 // sin of 2 pi n k / N (Hartley), which is the sum of the parts of V[k] and its own inverse but for a factor,
@@ -59,6 +73,7 @@ void forwardPrime(const DctSpec* spec, const f64* x, f64* y, f64* u)
     const PrimeTables at(spec);
     const Count len = spec->len;
     const f64 first = x[0], twice = 2.0 * first;
+#pragma GCC unroll 8
     for (Count p = 0; p < len - 1; ++p) u[p] = x[at.sources[p]];
     const f64 sum = first + sumOfAll(u, len - 1);
     convolvePrime(spec, u);
@@ -66,14 +81,12 @@ void forwardPrime(const DctSpec* spec, const f64* x, f64* y, f64* u)
     at.forBins([&](Count q) {
         const Vector a = load(u + q), b = load(u + q + at.half);
         const Complex<Vector> v = {both + (a + b), a - b}, t = at.turns(q);
-        f64 up[width], down[width];
-        store(up, v.re * t.re + v.im * t.im);
-        store(down, v.re * t.im - v.im * t.re);
-        for (int i = 0; i < width; ++i) {
+        const Vector up = v.re * t.re + v.im * t.im, down = v.re * t.im - v.im * t.re;
+        forLanes([&](auto i) {
             const Count k = at.outputs[q + i];
-            y[k] = up[i];
-            y[len - k] = down[i];
-        }
+            y[k] = lane<i>(up);
+            y[len - k] = lane<i>(down);
+        });
     });
     y[0] = sum * spec->first;
 }
@@ -94,52 +107,18 @@ void inversePrime(const DctSpec* spec, const f64* y, f64* x, f64* u)
         }
         const Vector a = load(up), b = load(down);
         const Complex<Vector> t = at.turns(q), v = {a * t.re + b * t.im, a * t.im - b * t.re};
-        store(up, v.re + v.im);
-        store(down, v.re - v.im);
-        for (int i = 0; i < width; ++i) {
-            u[place(q + i)] = up[i];
-            u[at.half - q - i] = down[i];
-        }
+        const Vector sum = v.re + v.im, difference = v.re - v.im;
+        forLanes([&](auto i) {
+            u[place(q + i)] = lane<i>(sum);
+            u[at.half - q - i] = lane<i>(difference);
+        });
     });
     const f64 sum = first + sumOfAll(u, len - 1);
     convolvePrime(spec, u);
-    for (Count q = 0; q < len - 1; ++q) x[at.sources[place(q)]] = first + u[q];
+    x[at.sources[0]] = first + u[0];
+#pragma GCC unroll 8
+    for (Count q = 1; q < len - 1; ++q) x[at.sources[len - 1 - q]] = first + u[q];
     x[0] = sum;
-}
-
-// Any length: n k = (n^2 + k^2 - (k - n)^2) / 2, so that the transform is a convolution with exp(i pi m^2 / N) between
-// products with exp(-i pi n^2 / N). Of N inputs and N/2 + 1 outputs, or the other way round and backwards.
-void forwardChirp(const DctSpec* spec, const f64* x, f64* y, c64f* u)
-{
-    const Count len = spec->len, points = spec->padded;
-    const c64f *const chirp = dctPart<c64f>(spec, spec->turns), *const turns = chirp + len;
-    for (Count n = 0; n < len; ++n) {
-        const f64 v = x[dctSource(n, len)];
-        u[n] = {v * chirp[n].re, v * chirp[n].im};
-    }
-    for (Count n = len; n < points; ++n) u[n] = {};
-    fftConvolve(dctPart<void>(spec, spec->plan), u, dctPart<c64f>(spec, spec->kernel), u, u + points);
-    y[0] = u[0].re * turns[0].re;
-    for (Count k = 1; 2 * k <= len; ++k) {
-        y[len - k] = -(u[k].re * turns[k].im + u[k].im * turns[k].re);
-        y[k] = u[k].re * turns[k].re - u[k].im * turns[k].im;
-    }
-}
-void inverseChirp(const DctSpec* spec, const f64* y, f64* x, c64f* u)
-{
-    const Count len = spec->len, points = spec->padded;
-    const c64f *const chirp = dctPart<c64f>(spec, spec->turns), *const turns = chirp + len;
-    for (Count n = 1; n < points - len / 2; ++n) u[n] = {};
-    u[0] = {y[0] * turns[0].re, 0.0};
-    for (Count k = 1; 2 * k <= len; ++k) {
-        const f64 half = 2 * k == len ? 0.5 : 1.0, a = half * y[k], b = half * y[len - k];
-        u[points - k] = {a * turns[k].re - b * turns[k].im, a * turns[k].im + b * turns[k].re};
-    }
-    fftConvolve(dctPart<void>(spec, spec->plan), u, dctPart<c64f>(spec, spec->kernel), u, u + points);
-    for (Count n = 0; n < len; ++n) {
-        const c64f v = u[n ? points - n : 0];
-        x[dctSource(n, len)] = v.re * chirp[n].re - v.im * chirp[n].im;
-    }
 }
 
 } // namespace
