@@ -1,6 +1,6 @@
-// Cosine transforms, and what they are measured against: FFTW's real transform of the same length in even-odd order with
-// one rotation for each pair of outputs, three times as fast as its own cosine transform; of a prime length, by two such
-// transforms of one point less (Rader); of 8 points, straight-line code.
+// Cosine transforms, and what they are measured against: FFTW's real transform of the same length in even-odd order
+// with one rotation for each pair of outputs, three times as fast as its own cosine transform; of a prime length, by
+// two such transforms of one point less (Rader); of 8 points, straight-line code.
 #include "case.h"
 #include <cmath>
 #include <cstring>
@@ -21,8 +21,8 @@ public:
     {
         v_ = fftw_alloc_real(static_cast<size_t>(n));
         spectrum_ = fftw_alloc_real(static_cast<size_t>(n + 4));
-        plan_ = fftw_plan_dft_r2c_1d(n, v_, reinterpret_cast<fftw_complex*>(spectrum_),
-                                     FFTW_MEASURE | FFTW_DESTROY_INPUT);
+        plan_ =
+            fftw_plan_dft_r2c_1d(n, v_, reinterpret_cast<fftw_complex*>(spectrum_), FFTW_MEASURE | FFTW_DESTROY_INPUT);
         for (int k = 0; 2 * k <= n; ++k) {
             turns_[static_cast<size_t>(2 * k)] = std::sqrt(2.0 / n) * std::cos(M_PI * k / (2.0 * n));
             turns_[static_cast<size_t>(2 * k + 1)] = std::sqrt(2.0 / n) * std::sin(M_PI * k / (2.0 * n));
@@ -83,8 +83,8 @@ template <class Spec> void transforms()
     using F = Functions<Spec>;
     // Short; of powers of two; of mixed radices, even and odd; primes; with a large prime.
     std::vector<bench::Size> sizes = {{2, bench::Level::tiny}, {4, bench::Level::tiny}, {8, bench::Level::tiny}};
-    for (long long n : {8, 16, 30, 60, 64, 85, 100, 128, 256, 243, 500, 1000, 1001, 1024, 1009, 1019, 1006, 4096, 10000,
-                        65536, 100000, 1 << 20})
+    for (long long n : {8,    16,   30,   60,   64,   85,   100,  128,   256,   243,    500,
+                        1000, 1001, 1024, 1009, 1019, 1006, 4096, 10000, 65536, 100000, 1 << 20})
         sizes.push_back(n == 8 ? bench::Size(8, bench::Level::L1) : bench::Size(n));
     bench::addCase(F::name, sizes, [](Setup& s) {
         const int n = static_cast<int>(s.size);
@@ -100,8 +100,7 @@ template <class Spec> void transforms()
         s.flops = 2.5 * n * std::log2(n);
         s.run([=] { F::run(x, y, spec, work); });
 #ifdef SIG5D_FFTW
-        if (n > 8)
-            s.peer("FFTW r2c + rotation", [peer = std::make_shared<Rotated>(n), x, y] { peer->run(x, y); });
+        if (n > 8) s.peer("FFTW r2c + rotation", [peer = std::make_shared<Rotated>(n), x, y] { peer->run(x, y); });
 #endif
     });
 }

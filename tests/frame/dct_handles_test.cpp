@@ -67,7 +67,8 @@ TEST(DctHandles, NoMemoryLeavesNothingBehind)
             EXPECT_EQ(held, len == 4 ? 2 : 3) << len; // handle, specification, buffer
             EXPECT_EQ(failing - 1, len == 89 || len == 206 ? 4 : held) << len;
             std::vector<double> x(size_t(len), 1.0);
-            EXPECT_EQ(support::onCountedHeap([&] { status = ippsDCTFwd_64f_I_Idx(x.data(), 0, handle); }).allocations, 0);
+            EXPECT_EQ(support::onCountedHeap([&] { status = ippsDCTFwd_64f_I_Idx(x.data(), 0, handle); }).allocations,
+                      0);
             const auto released = support::onCountedHeap([&] { ippsDCTFree_64f_Idx(handle); });
             EXPECT_EQ(released.held, 0);
             EXPECT_EQ(released.strange, 0);

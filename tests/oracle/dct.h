@@ -109,8 +109,8 @@ private:
     Spectrum chirp_, kernel_;
 };
 
-// With the even elements forwards and the odd ones backwards behind them: the real part of exp(-i pi k / 2N) times their
-// spectrum.
+// With the even elements forwards and the odd ones backwards behind them: the real part of exp(-i pi k / 2N) times
+// their spectrum.
 inline Values cosines(const Values& x, const AnyLength& transform)
 {
     const size_t n = x.size();

@@ -53,8 +53,8 @@ inline void putNumber(c64f* p, Number a) { *p = {a.re, a.im}; }
 
 constexpr f64 rootHalf = 0x1.6a09e667f3bcdp-1;
 
-// Even lengths: pairs of neighbours in v are M = N / 2 complex values z. The parts E and O of their spectrum Z that come
-// of even and odd n, turned each by its own angle, give the four outputs k, M - k, M + k and N - k.
+// Even lengths: pairs of neighbours in v are M = N / 2 complex values z. The parts E and O of their spectrum Z that
+// come of even and odd n, turned each by its own angle, give the four outputs k, M - k, M + k and N - k.
 void transformPairs(const DctSpec* spec, c64f* u)
 {
     const Count half = spec->len / 2;

@@ -90,10 +90,17 @@ void inverseFast(const DctSpec* spec, const f64* y, f64* x, f64* work)
     if (!buffer) return StsNullPtrErr;
     f64* const work = reinterpret_cast<f64*>(dctAligned(buffer));
     switch (spec->method) {
-    case DctMethod::direct: forwardDirect(spec, x, y); break;
-    case DctMethod::prime: forwardPrime(spec, x, y, work); break;
-    case DctMethod::chirp: forwardChirp(spec, x, y, reinterpret_cast<c64f*>(work)); break;
-    default: forwardFast(spec, x, y, work);
+    case DctMethod::direct:
+        forwardDirect(spec, x, y);
+        break;
+    case DctMethod::prime:
+        forwardPrime(spec, x, y, work);
+        break;
+    case DctMethod::chirp:
+        forwardChirp(spec, x, y, reinterpret_cast<c64f*>(work));
+        break;
+    default:
+        forwardFast(spec, x, y, work);
     }
     return StsNoErr;
 }
@@ -102,10 +109,17 @@ void inverseFast(const DctSpec* spec, const f64* y, f64* x, f64* work)
     if (!buffer) return StsNullPtrErr;
     f64* const work = reinterpret_cast<f64*>(dctAligned(buffer));
     switch (spec->method) {
-    case DctMethod::direct: inverseDirect(spec, y, x); break;
-    case DctMethod::prime: inversePrime(spec, y, x, work); break;
-    case DctMethod::chirp: inverseChirp(spec, y, x, reinterpret_cast<c64f*>(work)); break;
-    default: inverseFast(spec, y, x, work);
+    case DctMethod::direct:
+        inverseDirect(spec, y, x);
+        break;
+    case DctMethod::prime:
+        inversePrime(spec, y, x, work);
+        break;
+    case DctMethod::chirp:
+        inverseChirp(spec, y, x, reinterpret_cast<c64f*>(work));
+        break;
+    default:
+        inverseFast(spec, y, x, work);
     }
     return StsNoErr;
 }

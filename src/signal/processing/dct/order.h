@@ -1,5 +1,5 @@
-// The even elements of a signal forwards and the odd ones backwards behind them, and back; and what turns the spectrum of
-// that order, packed as re[0], re[N/2], re[1], im[1], ..., into cosine coefficients.
+// The even elements of a signal forwards and the odd ones backwards behind them, and back; and what turns the spectrum
+// of that order, packed as re[0], re[N/2], re[1], im[1], ..., into cosine coefficients.
 #pragma once
 #include "signal/processing/dct/spec.h"
 #include "signal/processing/fft/lanes.h"

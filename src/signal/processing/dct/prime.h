@@ -15,11 +15,11 @@ template <int i, class V> SIG5D_INLINE f64 lane(V v)
     else
         return v[i];
 }
-template <class F, int... i> SIG5D_INLINE void forEach(F f, std::integer_sequence<int, i...>)
+template <int i = 0, class F> SIG5D_INLINE void forLanes(F f)
 {
-    (f(std::integral_constant<int, i>{}), ...);
+    f.template operator()<i>();
+    if constexpr (i + 1 < width) forLanes<i + 1>(f);
 }
-template <class F> SIG5D_INLINE void forLanes(F f) { forEach(f, std::make_integer_sequence<int, width>{}); }
 
 // A prime length N has a generator g, whose powers are all numbers from 1 to N - 1. With H[k] = sum of v[n] times cos -
 // sin of 2 pi n k / N (Hartley), which is the sum of the parts of V[k] and its own inverse but for a factor,
@@ -82,7 +82,7 @@ void forwardPrime(const DctSpec* spec, const f64* x, f64* y, f64* u)
         const Vector a = load(u + q), b = load(u + q + at.half);
         const Complex<Vector> v = {both + (a + b), a - b}, t = at.turns(q);
         const Vector up = v.re * t.re + v.im * t.im, down = v.re * t.im - v.im * t.re;
-        forLanes([&](auto i) {
+        forLanes([&]<int i>() {
             const Count k = at.outputs[q + i];
             y[k] = lane<i>(up);
             y[len - k] = lane<i>(down);
@@ -108,7 +108,7 @@ void inversePrime(const DctSpec* spec, const f64* y, f64* x, f64* u)
         const Vector a = load(up), b = load(down);
         const Complex<Vector> t = at.turns(q), v = {a * t.re + b * t.im, a * t.im - b * t.re};
         const Vector sum = v.re + v.im, difference = v.re - v.im;
-        forLanes([&](auto i) {
+        forLanes([&]<int i>() {
             u[place(q + i)] = lane<i>(sum);
             u[at.half - q - i] = lane<i>(difference);
         });

@@ -1,5 +1,5 @@
-// Cosine transforms of 1, 2, 4 and 8 points. Even outputs depend on the sums of an element and its mirror image only, odd
-// ones on the differences: two products of half the length with a matrix.
+// Cosine transforms of 1, 2, 4 and 8 points. Even outputs depend on the sums of an element and its mirror image only,
+// odd ones on the differences: two products of half the length with a matrix.
 #pragma once
 #include "signal/processing/fft/lanes.h"
 
@@ -21,9 +21,9 @@ template <> struct SmallCosines<8> {
     static constexpr f64 d = 0x1.f6297cff75cb0p-2, e = 0x1.a9b66290ea1a3p-2;
     static constexpr f64 f = 0x1.1c73b39ae68c8p-2, g = 0x1.8f8b83c69a60bp-4;
     static constexpr f64 value[] = {
-        a, b, a, c, a, c,  -a, -b, a, -c, -a, b,  a, -b, a, -c, // n by even k
-        d, e, f, g, e, -g, -d, -f, f, -d, g,  e,  g, -f, e, -d, // n by odd k
-        a, a, a, a, b, c,  -c, -b, a, -a, -a, a,  c, -b, b, -c, // even k by n
+        a, b, a, c, a, c,  -a, -b, a, -c, -a, b, a, -b, a, -c, // n by even k
+        d, e, f, g, e, -g, -d, -f, f, -d, g,  e, g, -f, e, -d, // n by odd k
+        a, a, a, a, b, c,  -c, -b, a, -a, -a, a, c, -b, b, -c, // even k by n
     };
 };
 

@@ -19,8 +19,8 @@ enum class DctMethod : i32 {
     chirp,  // all others: by a complex convolution with a chirp (Bluestein, 1970)
 };
 
-// The head of a specification, at a multiple of 64. What it refers to is told by offsets from it, so that a block may be
-// moved by multiples of 64 bytes.
+// The head of a specification, at a multiple of 64. What it refers to is told by offsets from it, so that a block may
+// be moved by multiples of 64 bytes.
 struct DctSpec {
     i32 tag; // dctTag
     i32 len, hint;
@@ -44,9 +44,10 @@ struct DctSizes {
 constexpr int dctLongest = 0xFFFFFF, dctLongestToInit = 0x1FFFFFF; // lengths that are no powers of two
 DctSizes dctSizes(int len);
 
-// Fills a block but for the spectra of the methods by convolution: dctSignal gives the signal that a spectrum is of, with
-// all its `padded` values.
+// Fills a block but for the spectra of the methods by convolution: dctSignal gives the signal that a spectrum is of,
+// with all its `padded` values.
 void dctBuild(DctSpec* spec, int len, int hint);
+void dctSetTables(DctSpec* spec);                  // a part of that
 void dctSignal(const DctSpec* spec, f64* signal);  // prime
 void dctSignal(const DctSpec* spec, c64f* signal); // chirp
 

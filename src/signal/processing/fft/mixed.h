@@ -2,8 +2,8 @@
 // transforms are in transforms.h. A plan is a flat record in the caller's memory like those of plan.h, whose transforms
 // are faster where the length is a power of two.
 //
-// Spectra are unordered. mixedPlace tells where a value lies, for tables that are to meet it: real part there, imaginary
-// part four doubles further. Of X[f] and X[N - f], which are conjugate, at least one has a place.
+// Spectra are unordered. mixedPlace tells where a value lies, for tables that are to meet it: real part there,
+// imaginary part four doubles further. Of X[f] and X[N - f], which are conjugate, at least one has a place.
 #pragma once
 #include "frame/types.h"
 

@@ -61,13 +61,15 @@ SIG5D_INLINE Value turnAt(const f64* turns, Count columns, int i)
             // A column that is in both halves counts as one of the first.
 #pragma GCC unroll 4
             for (int i = 0; i < 4; ++i) {
-                const Value z = getRow(work.tile + at[2 * i] * rowSize), y = getRow(work.tile + at[2 * i + 1] * rowSize);
+                const Value z = getRow(work.tile + at[2 * i] * rowSize),
+                            y = getRow(work.tile + at[2 * i + 1] * rowSize);
                 v.v[i] = Value{z.im + y.im, y.re - z.re} * turnAt(turns + apart, columns, i);
             }
             putLanes(second.row, v);
 #pragma GCC unroll 4
             for (int i = 0; i < 4; ++i) {
-                const Value z = getRow(work.tile + at[2 * i] * rowSize), y = getRow(work.tile + at[2 * i + 1] * rowSize);
+                const Value z = getRow(work.tile + at[2 * i] * rowSize),
+                            y = getRow(work.tile + at[2 * i + 1] * rowSize);
                 v.v[i] = Value{z.re + y.re, z.im - y.im} * turnAt(turns, columns, i);
             }
             putLanes(first.row, v);

@@ -121,7 +121,8 @@ bool mixedHas(i64 points)
 {
     i64 rest = points;
     for (i64 p = 2; p <= largestRadix; ++p)
-        for (; rest % p == 0; rest /= p) {}
+        for (; rest % p == 0; rest /= p) {
+        }
     return points > largestRadix && rest == 1; // a product of several primes then
 }
 

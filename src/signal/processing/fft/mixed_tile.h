@@ -5,9 +5,9 @@
 
 namespace sig5d::SIG5D_VARIANT {
 
-// Forward. Rows come from vectors of real parts `apart` doubles from each other, with imaginary parts so much further, or
-// are the tile's own. Value f is in row tableAt<i32>(plan, shape.places)[f] of the tile then. `spare` has largestRadix
-// rows.
+// Forward. Rows come from vectors of real parts `apart` doubles from each other, with imaginary parts so much further,
+// or are the tile's own. Value f is in row tableAt<i32>(plan, shape.places)[f] of the tile then. `spare` has
+// largestRadix rows.
 void transformRows(const f64* from, Count apart, Count imaginary, f64* tile, f64* spare, const MixedPlan& plan,
                    const MixedTile& shape);
 

@@ -8,8 +8,8 @@ namespace {
 using Value = Complex<Vector>;
 
 constexpr f64 oneHalf = 0.5, oneQuarter = 0.25;
-constexpr f64 sinThird = 0x1.bb67ae8584caap-1;                                     // of 2 pi / 3
-constexpr f64 rootQuarter = 0x1.1e3779b97f4a8p-1;                                  // sqrt(5) / 4
+constexpr f64 sinThird = 0x1.bb67ae8584caap-1;                                      // of 2 pi / 3
+constexpr f64 rootQuarter = 0x1.1e3779b97f4a8p-1;                                   // sqrt(5) / 4
 constexpr f64 sinFifth = 0x1.e6f0e134454ffp-1, sinTwoFifths = 0x1.2cf2304755a5ep-1; // of 2 pi / 5 and 4 pi / 5
 constexpr f64 cosSevenths[] = {0x1.3f3a0e28bedd1p-1, -0x1.c7b90e3024582p-3, -0x1.cd4bca9cb5c71p-1};
 constexpr f64 sinSevenths[] = {0x1.904c37505de4bp-1, 0x1.f329c0558e969p-1, 0x1.bc4c04d71abc1p-2};
@@ -184,12 +184,24 @@ void transformRows(const f64* from, Count apart, Count imaginary, f64* tile, f64
     for (int i = 0; i < shape.passes; ++i) {
         const int r = shape.radix[i];
         switch (r) {
-        case 2: turns = pass<2>(from, apart, imaginary, tile, length, block, turns); break;
-        case 3: turns = pass<3>(from, apart, imaginary, tile, length, block, turns); break;
-        case 4: turns = pass<4>(from, apart, imaginary, tile, length, block, turns); break;
-        case 5: turns = pass<5>(from, apart, imaginary, tile, length, block, turns); break;
-        case 7: turns = pass<7>(from, apart, imaginary, tile, length, block, turns); break;
-        case 8: turns = pass<8>(from, apart, imaginary, tile, length, block, turns); break;
+        case 2:
+            turns = pass<2>(from, apart, imaginary, tile, length, block, turns);
+            break;
+        case 3:
+            turns = pass<3>(from, apart, imaginary, tile, length, block, turns);
+            break;
+        case 4:
+            turns = pass<4>(from, apart, imaginary, tile, length, block, turns);
+            break;
+        case 5:
+            turns = pass<5>(from, apart, imaginary, tile, length, block, turns);
+            break;
+        case 7:
+            turns = pass<7>(from, apart, imaginary, tile, length, block, turns);
+            break;
+        case 8:
+            turns = pass<8>(from, apart, imaginary, tile, length, block, turns);
+            break;
         default:
             turns = oddPass(from, apart, imaginary, tile, length, block, r, circle, turns, spare);
             circle += 2 * r;
