@@ -9,7 +9,7 @@
 
 namespace sig5d {
 
-bool mixedHas(i64 points); // whether there is such a transform
+bool mixedHas(i64 points); // whether there is such a transform and it is worth having
 
 // Sizes are multiples of 64, and so are the addresses of plan, work and spectra to be.
 i64 mixedPlanBytes(i64 points);

@@ -144,12 +144,17 @@ template <int step, class V = Vector> SIG5D_INLINE void putSome(f64* p, Count n,
         *p = v[0];
     }
 }
-template <int step> SIG5D_INLINE Vector getSome(const f64* p, Count n)
+template <int step, class V = Vector> SIG5D_INLINE V getSome(const f64* p, Count n)
 {
     if (n >= width) return step > 0 ? load(p) : getBackwards(p + 1 - width);
-    f64 lane[width];
-    for (Count i = 0; i < width; ++i) lane[i] = p[step * (i < n ? i : n - 1)];
-    return load(lane);
+    if constexpr (width == 4) {
+        if (n > 1) {
+            V v = step > 0 ? getHalves<V>(p, p) : swapped(getHalves<V>(p - 1, p - 1));
+            if (n == 3) v[2] = v[3] = p[2 * step];
+            return v;
+        }
+    }
+    return broadcast<width>(p);
 }
 
 } // namespace

@@ -12,7 +12,7 @@
 
 namespace sig5d {
 
-constexpr int maxPasses = 16, largestRadix = 61;
+constexpr int maxPasses = 16, largestRadix = 97;
 
 // The transform of a tile: the radices of its passes, in their order. Offsets are from the plan, in bytes.
 struct MixedTile {

@@ -117,13 +117,13 @@ void setTile(u8* plan, const MixedTile& tile)
 
 } // namespace
 
+// A large radix pays where enough rows or columns go beside it to fill vectors.
 bool mixedHas(i64 points)
 {
-    i64 rest = points;
+    i64 rest = points, largest = 1;
     for (i64 p = 2; p <= largestRadix; ++p)
-        for (; rest % p == 0; rest /= p) {
-        }
-    return points > largestRadix && rest == 1; // a product of several primes then
+        for (; rest % p == 0; rest /= p) largest = p;
+    return rest == 1 && points >= 64 && points / largest >= (largest > 37 ? 6 : 2);
 }
 
 i64 mixedPlanBytes(i64 points) { return layout(points).bytes; }
