@@ -1,5 +1,5 @@
-// Plans of transforms with mixed radices: how a length is taken apart, sizes and tables. Compiled once; every variant
-// reads the same plan.
+// Plans of transforms with mixed radices: how a length is taken apart, sizes and tables. Compiled once, for size (cold);
+// every variant reads the same plan.
 #include "signal/processing/fft/mixed_layout.h"
 #include "kernel/libm.h"
 
@@ -10,7 +10,7 @@ constexpr i64 aligned(i64 bytes) { return (bytes + 63) & -64; }
 
 // The passes of a tile: first the odd radices, then those of the powers of two, as many eights as there are and no two
 // beside an eight. The largest comes last, where no factors are to be multiplied by.
-MixedTile tileOf(i64 length)
+[[gnu::cold, gnu::noinline]] MixedTile tileOf(i64 length)
 {
     MixedTile tile = {static_cast<i32>(length), 0, {}, 0, 0, 0};
     auto add = [&](i64 radix) { tile.radix[tile.passes++] = static_cast<u8>(radix); };
@@ -29,7 +29,7 @@ MixedTile tileOf(i64 length)
 }
 
 // What a tile costs, in about half a cycle of a processor with four lanes.
-i64 costOf(const MixedTile& tile)
+[[gnu::cold, gnu::noinline]] i64 costOf(const MixedTile& tile)
 {
     i64 row = 14;
     for (int i = 0; i < tile.passes; ++i) row += tile.radix[i] > 8 ? 8 + 2 * tile.radix[i] : 4 + tile.radix[i];
@@ -39,7 +39,7 @@ i64 costOf(const MixedTile& tile)
 i64 groups(i64 n) { return (n + 3) / 4; }
 
 // The matrix whose transform takes the fewest operations; none: columns = 0.
-MixedPlan layout(i64 points)
+[[gnu::cold, gnu::noinline]] MixedPlan layout(i64 points)
 {
     MixedPlan best = {};
     i64 least = 0;
@@ -94,7 +94,7 @@ f64* setTurn(f64* place, i64 k, i64 n, f64 scale = 1.0)
     return place + 2;
 }
 
-void setTile(u8* plan, const MixedTile& tile)
+[[gnu::cold, gnu::noinline]] void setTile(u8* plan, const MixedTile& tile)
 {
     f64* turn = reinterpret_cast<f64*>(plan + tile.turns);
     f64* circle = reinterpret_cast<f64*>(plan + tile.circle);
@@ -123,7 +123,7 @@ bool mixedHas(i64 points)
     i64 rest = points, largest = 1;
     for (i64 p = 2; p <= largestRadix; ++p)
         for (; rest % p == 0; rest /= p) largest = p;
-    return rest == 1 && points >= 64 && points / largest >= (largest > 37 ? 6 : 2);
+    return rest == 1 && points >= 64 && points / largest >= (largest > 37 ? 5 : 2);
 }
 
 i64 mixedPlanBytes(i64 points) { return layout(points).bytes; }
