@@ -13,34 +13,49 @@ using Pair = Vec<f64, 2>;
 constexpr int longestDirect = 86, sumsAtOnce = 4;
 
 // The angles of a sum: start, start + step, ... round the circle, which has 2N steps if N is odd, since even k suffice
-// then, and otherwise 4N, of which the table has half.
+// then, and otherwise 4N.
 struct Angles {
     int start, step;
 };
+// (cos, sin) of all angles of the circle. Of 4N the table has half.
+struct Circle {
+    const f64* table;
+    Count doubles;
+    f64 both[2 * 4 * longestDirect];
+    Circle(const DctSpec* spec, bool odd) : table(dctPart<f64>(spec, spec->turns)), doubles(Count(4) * spec->len)
+    {
+        if (odd) return;
+        for (Count i = 0; i < doubles; i += 4)
+            for (Count j = i; j < i + 4; j += width) {
+                const Vector v = load(table + j);
+                store(both + j, v);
+                store(both + doubles + j, -v);
+            }
+        table = both;
+        doubles *= 2;
+    }
+};
 
-template <bool odd>
-[[gnu::noinline]] void sumsOfTerms(const DctSpec* spec, const Pair* terms, int count, const Angles* angles, Pair* sums)
+void sumsOfTerms(const Circle& circle, const Pair* terms, int count, const Angles* angles, Pair* sums)
 {
-    static constexpr f64 signs[] = {1.0, 1.0, -1.0, -1.0};
-    const f64* const table = dctPart<f64>(spec, spec->turns);
-    const int tabled = 2 * spec->len, circle = odd ? tabled : 2 * tabled;
+    const f64* const table = circle.table;
+    const Count around = circle.doubles;
     Pair sum[sumsAtOnce] = {};
-    int at[sumsAtOnce];
-    for (int i = 0; i < sumsAtOnce; ++i) at[i] = angles[i].start;
+    Count at[sumsAtOnce];
+    for (int i = 0; i < sumsAtOnce; ++i) at[i] = Count(2) * angles[i].start;
     for (int n = 0; n < count; ++n)
 #pragma GCC unroll 4
         for (int i = 0; i < sumsAtOnce; ++i) {
-            const bool beyond = !odd && at[i] >= tabled;
-            const Pair t = loadn<2>(table + 2 * (beyond ? at[i] - tabled : at[i]));
-            sum[i] += terms[n] * (odd ? t : t * loadn<2>(signs + 2 * beyond));
-            at[i] += angles[i].step;
-            at[i] -= at[i] >= circle ? circle : 0;
+            sum[i] += terms[n] * loadn<2>(table + at[i]);
+            const Count next = at[i] + Count(2) * angles[i].step, less = next - around;
+            at[i] = less < 0 ? next : less;
         }
     for (int i = 0; i < sumsAtOnce; ++i) sums[i] = sum[i];
 }
 
 template <bool odd> void forwardDirectly(const DctSpec* spec, const f64* x, f64* y)
 {
+    const Circle circle(spec, odd);
     const int len = spec->len, some = (len + 1) / 2;
     Pair terms[2][longestDirect / 2]; // for even and for odd k
     for (int n = 0; n < some; ++n) {
@@ -59,7 +74,7 @@ template <bool odd> void forwardDirectly(const DctSpec* spec, const f64* x, f64*
                 const int k = first + 2 * i <= last ? first + 2 * i : first;
                 angles[i] = odd ? Angles{k / 2, k} : Angles{k, 2 * k};
             }
-            sumsOfTerms<odd>(spec, terms[parity], some, angles, sums);
+            sumsOfTerms(circle, terms[parity], some, angles, sums);
             for (int i = 0; i < sumsAtOnce && first + 2 * i <= last; ++i) {
                 const int k = first + 2 * i;
                 const f64 scale = k ? spec->other : spec->first;
@@ -71,6 +86,7 @@ template <bool odd> void forwardDirectly(const DctSpec* spec, const f64* x, f64*
 
 template <bool odd> void inverseDirectly(const DctSpec* spec, const f64* y, f64* x)
 {
+    const Circle circle(spec, odd);
     const int len = spec->len, last = odd ? len - 1 : len / 2;
     Pair terms[2][longestDirect / 2]; // of even and of odd k
     for (int k = 0; k <= last; k += odd ? 2 : 1) {
@@ -85,8 +101,8 @@ template <bool odd> void inverseDirectly(const DctSpec* spec, const f64* y, f64*
             angles[0][i] = {0, odd ? 2 * n + 1 : 4 * n + 2};
             angles[1][i] = {2 * n + 1, 4 * n + 2};
         }
-        sumsOfTerms<odd>(spec, terms[0], last / 2 + 1, angles[0], even);
-        if (!odd) sumsOfTerms<odd>(spec, terms[1], (last + 1) / 2, angles[1], uneven);
+        sumsOfTerms(circle, terms[0], last / 2 + 1, angles[0], even);
+        if (!odd) sumsOfTerms(circle, terms[1], (last + 1) / 2, angles[1], uneven);
         for (int i = 0; i < sumsAtOnce && 2 * (first + i) < len; ++i) {
             const int n = first + i;
             const f64 sign = n % 2 ? -1.0 : 1.0;

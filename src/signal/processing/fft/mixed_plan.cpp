@@ -1,5 +1,5 @@
-// Plans of transforms with mixed radices: how a length is taken apart, sizes and tables. Compiled once, for size (cold);
-// every variant reads the same plan.
+// Plans of transforms with mixed radices: how a length is taken apart, sizes and tables. Compiled once, for size
+// (cold); every variant reads the same plan.
 #include "signal/processing/fft/mixed_layout.h"
 #include "kernel/libm.h"
 
