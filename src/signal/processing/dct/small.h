@@ -43,7 +43,8 @@ template <int len> SIG5D_INLINE void forwardSmallCosine(const f64* x, f64* y)
 {
     using V = SmallVector<len>;
     constexpr int half = len / 2, n = sizeof(V) / sizeof(f64);
-    const f64* const rows = SmallCosines<len>::value;
+    // Known factors could have their signs moved, which shows where results are not rounded to nearest.
+    const f64* const rows = opaque(SmallCosines<len>::value);
     V sums[half], differences[half];
     for (int i = 0; i < half; ++i) {
         const V a = broadcast<n>(x + i), b = broadcast<n>(x + len - 1 - i);
@@ -67,7 +68,7 @@ template <int len> SIG5D_INLINE void inverseSmallCosine(const f64* y, f64* x)
 {
     using V = SmallVector<len>;
     constexpr int half = len / 2, n = sizeof(V) / sizeof(f64);
-    const f64* const rows = SmallCosines<len>::value + half * half;
+    const f64* const rows = opaque(SmallCosines<len>::value) + half * half;
     V values[len];
     for (int k = 0; k < len; ++k) values[k] = broadcast<n>(y + k);
     V first[half / n], last[half / n];

@@ -12,6 +12,13 @@ constexpr int width = lanes<f64>; // of the four numbers that stand together
 static_assert(width <= 4);
 #define SIG5D_INLINE [[gnu::always_inline]] inline
 
+// An address that the compiler knows nothing about.
+template <class P> SIG5D_INLINE P* opaque(P* p)
+{
+    asm("" : "+r"(p));
+    return p;
+}
+
 template <class T> struct Complex {
     T re, im;
 };

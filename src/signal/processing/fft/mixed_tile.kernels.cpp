@@ -11,7 +11,9 @@ constexpr f64 oneHalf = 0.5, oneQuarter = 0.25;
 constexpr f64 sinThird = 0x1.bb67ae8584caap-1;                                      // of 2 pi / 3
 constexpr f64 rootQuarter = 0x1.1e3779b97f4a8p-1;                                   // sqrt(5) / 4
 constexpr f64 sinFifth = 0x1.e6f0e134454ffp-1, sinTwoFifths = 0x1.2cf2304755a5ep-1; // of 2 pi / 5 and 4 pi / 5
-constexpr f64 cosSevenths[] = {0x1.3f3a0e28bedd1p-1, -0x1.c7b90e3024582p-3, -0x1.cd4bca9cb5c71p-1};
+// Of 2 pi / 7 and so on; the second and the third cosine are negative, and their magnitudes stand here: signs of known
+// factors could be moved, which shows where results are not rounded to nearest.
+constexpr f64 cosSevenths[] = {0x1.3f3a0e28bedd1p-1, 0x1.c7b90e3024582p-3, 0x1.cd4bca9cb5c71p-1};
 constexpr f64 sinSevenths[] = {0x1.904c37505de4bp-1, 0x1.f329c0558e969p-1, 0x1.bc4c04d71abc1p-2};
 constexpr f64 cosEighth = 0x1.6a09e667f3bcdp-1; // of pi / 4
 
@@ -59,9 +61,9 @@ template <int r> SIG5D_INLINE void butterfly(Value* v)
         const Value s1 = v[1] + v[6], s2 = v[2] + v[5], s3 = v[3] + v[4];
         const Value d1 = v[1] - v[6], d2 = v[2] - v[5], d3 = v[3] - v[4];
         const Vector c1 = every(cosSevenths[0]), c2 = every(cosSevenths[1]), c3 = every(cosSevenths[2]);
-        const Value even1 = ((v[0] + times(s1, c1)) + times(s2, c2)) + times(s3, c3);
-        const Value even2 = ((v[0] + times(s1, c2)) + times(s2, c3)) + times(s3, c1);
-        const Value even3 = ((v[0] + times(s1, c3)) + times(s2, c1)) + times(s3, c2);
+        const Value even1 = ((v[0] + times(s1, c1)) - times(s2, c2)) - times(s3, c3);
+        const Value even2 = ((v[0] - times(s1, c2)) - times(s2, c3)) + times(s3, c1);
+        const Value even3 = ((v[0] - times(s1, c3)) + times(s2, c1)) - times(s3, c2);
         v[0] = v[0] + ((s1 + s2) + s3);
         const Vector t1 = every(sinSevenths[0]), t2 = every(sinSevenths[1]), t3 = every(sinSevenths[2]);
         const Value odd1 = (times(d1, t1) + times(d2, t2)) + times(d3, t3);
