@@ -33,6 +33,9 @@ foreach(
     frame/detected.cpp
     kernel/libm_trig.cpp
     kernel/libm_exp.cpp
+    signal/processing/dct/spec.cpp
+    signal/processing/dct/tables.cpp
+    signal/processing/fft/mixed_plan.cpp
     signal/processing/fft/plan.cpp)
     list(APPEND frame_sources ${CMAKE_SOURCE_DIR}/src/${source})
 endforeach()

@@ -304,6 +304,9 @@ typedef struct IppsRandGaussState_16s IppsRandGaussState_16s;
 typedef struct IppsRandGaussState_8u IppsRandGaussState_8u;
 typedef struct IppsIIRState_64f IppsIIRState_64f;
 typedef struct IppsIIRState_64fc IppsIIRState_64fc;
+typedef struct IppsDCTFwdSpec_64f IppsDCTFwdSpec_64f;
+typedef struct IppsDCTInvSpec_64f IppsDCTInvSpec_64f;
+typedef struct IppsDCTHandle_64f IppsDCTHandle_64f;
 
 /* ---- Arithmetic on doubles, element by element ---- */
 
@@ -1947,6 +1950,64 @@ void SIG5D_CDECL vsunpackm_Idx(unsigned int n, const Ipp16s* src, int srcIdx, Ip
 void SIG5D_CDECL vbunpackm(unsigned int n, const Ipp8u* src, Ipp8u* dst, const Ipp32s* mask);
 void SIG5D_CDECL vbunpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32s*
         mask, int maskIdx);
+
+/* ---- Cosine transforms ---- */
+
+/* The bytes of a specification, of the buffer that sets it up (0: none) and of the work buffer that a transform of
+   len values needs (0: none). hint is of no influence. */
+IppStatus SIG5D_STDCALL ippsDCTFwdGetSize_64f(int len, int hint, int* pSpecSize, int* pSpecBufSize, int* pBufSize);
+
+/* The sizes that ippsDCTFwdGetSize tells. */
+IppStatus SIG5D_STDCALL ippsDCTInvGetSize_64f(int len, int hint, int* pSpecSize, int* pSpecBufSize, int* pBufSize);
+
+/* Builds a specification in pSpec, a block of any address with the size that ippsDCTFwdGetSize told, and stores
+   its address, the first multiple of 64 there. */
+IppStatus SIG5D_STDCALL ippsDCTFwdInit_64f(IppsDCTFwdSpec_64f** ppDCTSpec, int len, int hint, Ipp8u* pSpec, Ipp8u*
+        pSpecBuffer);
+
+/* Builds the specification that ippsDCTFwdInit builds. */
+IppStatus SIG5D_STDCALL ippsDCTInvInit_64f(IppsDCTInvSpec_64f** ppDCTSpec, int len, int hint, Ipp8u* pSpec, Ipp8u*
+        pSpecBuffer);
+
+/* pDst[k] = c(k) * sum over n = 0..N-1 of pSrc[n] * cos(pi*(2n+1)*k / 2N), c(0) = 1/sqrt(N), c(k) =
+   sqrt(2)/sqrt(N); in place pSrcDst[k] = c(k) * sum over n = 0..N-1 of pSrcDst[n] * cos(pi*(2n+1)*k / 2N), c(0) =
+   1/sqrt(N), c(k) = sqrt(2)/sqrt(N). The orthonormal cosine transform (DCT-II) of the N = len values that the
+   specification is for. */
+IppStatus SIG5D_STDCALL ippsDCTFwd_64f(const Ipp64f* pSrc, Ipp64f* pDst, const IppsDCTFwdSpec_64f* pDCTSpec, Ipp8u*
+        pBuffer);
+IppStatus SIG5D_STDCALL ippsDCTFwd_64f_I(Ipp64f* pSrcDst, const IppsDCTFwdSpec_64f* pDCTSpec, Ipp8u* pBuffer);
+
+/* pDst[k] = c(k) * sum over n = 0..N-1 of pSrc[n] * cos(pi*(2n+1)*k / 2N), c(0) = 1/sqrt(N), c(k) =
+   sqrt(2)/sqrt(N); in place pSrcDst[k] = c(k) * sum over n = 0..N-1 of pSrcDst[n] * cos(pi*(2n+1)*k / 2N), c(0) =
+   1/sqrt(N), c(k) = sqrt(2)/sqrt(N). The orthonormal cosine transform (DCT-II) of the N = len values that the
+   handle is for. */
+IppStatus SIG5D_CDECL ippsDCTFwd_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, IppsDCTHandle_64f*
+        pHandle);
+IppStatus SIG5D_CDECL ippsDCTFwd_64f_I_Idx(Ipp64f* pSrcDst, int idx, IppsDCTHandle_64f* pHandle);
+
+/* pDst[n] = sum over k = 0..N-1 of c(k) * pSrc[k] * cos(pi*(2n+1)*k / 2N), c(0) = 1/sqrt(N), c(k) =
+   sqrt(2)/sqrt(N); in place pSrcDst[n] = sum over k = 0..N-1 of c(k) * pSrcDst[k] * cos(pi*(2n+1)*k / 2N), c(0) =
+   1/sqrt(N), c(k) = sqrt(2)/sqrt(N). The inverse of ippsDCTFwd (DCT-III), as accurate as that. */
+IppStatus SIG5D_STDCALL ippsDCTInv_64f(const Ipp64f* pSrc, Ipp64f* pDst, const IppsDCTInvSpec_64f* pDCTSpec, Ipp8u*
+        pBuffer);
+IppStatus SIG5D_STDCALL ippsDCTInv_64f_I(Ipp64f* pSrcDst, const IppsDCTInvSpec_64f* pDCTSpec, Ipp8u* pBuffer);
+
+/* pDst[n] = sum over k = 0..N-1 of c(k) * pSrc[k] * cos(pi*(2n+1)*k / 2N), c(0) = 1/sqrt(N), c(k) =
+   sqrt(2)/sqrt(N); in place pSrcDst[n] = sum over k = 0..N-1 of c(k) * pSrcDst[k] * cos(pi*(2n+1)*k / 2N), c(0) =
+   1/sqrt(N), c(k) = sqrt(2)/sqrt(N). The inverse (DCT-III) for the N = len values that the handle is for. */
+IppStatus SIG5D_CDECL ippsDCTInv_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, IppsDCTHandle_64f*
+        pHandle);
+IppStatus SIG5D_CDECL ippsDCTInv_64f_I_Idx(Ipp64f* pSrcDst, int idx, IppsDCTHandle_64f* pHandle);
+
+/* Allocates a cosine transform of len values with its work buffer, for both directions, and initialises it; to be
+   released by ippsDCTFree. */
+IppStatus SIG5D_CDECL ippsDCTFwdInitAlloc_64f_Idx(int len, int hint, IppsDCTHandle_64f** ppHandle);
+
+/* Allocates what ippsDCTFwdInitAlloc allocates. */
+IppStatus SIG5D_CDECL ippsDCTInvInitAlloc_64f_Idx(int len, int hint, IppsDCTHandle_64f** ppHandle);
+
+/* Releases what ippsDCTFwdInitAlloc or ippsDCTInvInitAlloc allocated; null is ignored. */
+void SIG5D_CDECL ippsDCTFree_64f_Idx(void* pHandle);
 
 /* ---- FIR filters ---- */
 

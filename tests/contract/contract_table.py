@@ -84,9 +84,9 @@ def delay(spec):
 
 
 CALLS = {f.__name__: f for f in (at, block, lower, upper, reach, bytes_of, words_of, delay, max, min)}
-# Properties of filters. The lengths are apart by one, so that a rounding that is off by one shows.
+# Properties of filters and transforms. The lengths are apart by one, so that a rounding that is off by one shows.
 SPECS = [
-    SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down)
+    SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down, len=taps, bufSize=64)
     for taps, up, down in ((36, 3, 5), (37, 3, 5), (38, 3, 5), (1, 7, 2), (9, 1, 1))
 ]
 
@@ -121,7 +121,7 @@ def table_arg(text, T):
         raise ValueError("argument not understood: " + text)
     role, base, stars, name, extent, optional = m.groups()
     if role == "work":
-        return name, Arg("work", base, stars=1), None
+        return name, Arg("work", base, stars=1, optional=bool(optional)), None
     if base in ("spec", "handle", "memory"):
         return name, Arg("record", "", "in" if role == "in" else "out", len(stars), bool(optional)), None
     kind = "scalar" if not role else "value" if stars else "array"

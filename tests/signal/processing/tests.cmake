@@ -1,3 +1,4 @@
+sig5d_test(dct signal/processing/dct/transforms_test.cpp frame/dct_handles_test.cpp support/heap.cpp)
 sig5d_test(fir signal/processing/fir/single_test.cpp signal/processing/fir/multi_test.cpp frame/fir_handles_test.cpp
            support/heap.cpp)
 sig5d_test(random signal/processing/generators/random_test.cpp)

@@ -12,6 +12,13 @@ constexpr int width = lanes<f64>; // of the four numbers that stand together
 static_assert(width <= 4);
 #define SIG5D_INLINE [[gnu::always_inline]] inline
 
+// An address that the compiler knows nothing about.
+template <class P> SIG5D_INLINE P* opaque(P* p)
+{
+    asm("" : "+r"(p));
+    return p;
+}
+
 template <class T> struct Complex {
     T re, im;
 };
@@ -122,6 +129,27 @@ template <class V> SIG5D_INLINE void putTransposed(f64* const* rows, const Four<
         for (int i = 0; i < 4; ++i) putHighHalf(rows[across] + 2 * i, even[i]);
         for (int i = 0; i < 4; ++i) putLowHalf(rows[1] + 2 * i, odd[i]);
         for (int i = 0; i < 4; ++i) putHighHalf(rows[across + 1] + 2 * i, odd[i]);
+    }
+}
+
+// Numbers against memory order: lane 0 from the last of them.
+template <class V = Vector> SIG5D_INLINE V getBackwards(const f64* p)
+{
+    if constexpr (sizeof(V) == sizeof(f64)) {
+        return *p;
+    } else {
+        const V a = getHalves<V>(p + width - 2, p + width - 4);
+        return swapped(a);
+    }
+}
+template <class V = Vector> SIG5D_INLINE void putBackwards(f64* p, V a)
+{
+    if constexpr (sizeof(V) == sizeof(f64)) {
+        *p = a;
+    } else {
+        const V b = swapped(a);
+        putLowHalf(p + width - 2, b);
+        putHighHalf(p + width - 4, b);
     }
 }
 

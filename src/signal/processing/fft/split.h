@@ -39,11 +39,6 @@ template <class P> SIG5D_INLINE P* row(P* p, const Rows& rows, int j)
 {
     return reinterpret_cast<P*>(reinterpret_cast<std::uintptr_t>(p) + static_cast<std::uintptr_t>(rows[j]));
 }
-template <class P> SIG5D_INLINE P* opaque(P* p)
-{
-    asm("" : "+r"(p));
-    return p;
-}
 
 // Sixteen coefficients, one in each row of x, into one of each of the seven nodes and two of the remaining polynomial.
 // Nodes are two rows of `nodes` apart. (Small transforms use it with a single double for a vector.)

@@ -2,6 +2,7 @@
 // All variants give the same bits, in place or not.
 #pragma once
 #include "bodies/signal/processing/fft.h" // generated from src/variants.txt: which body that is
+#include "signal/processing/fft/mixed.h"
 #include "signal/processing/fft/plan.h"
 
 namespace sig5d::SIG5D_FFT_BODY {
@@ -22,5 +23,15 @@ void fftMultiplyConj(const void* plan, const c64f* a, const c64f* b, c64f* d);
 // faster than one by one. Plans of unordered spectra only; y may be x.
 void fftConvolve(const void* plan, const f64* x, const f64* h, f64* y, void* work);
 void fftConvolve(const void* plan, const c64f* x, const c64f* h, c64f* y, void* work);
+
+// Real signals of N points by a plan of mixed radices (mixed.h). Signals may be the same array; spectra and tables are
+// aligned like plans.
+void mixedForward(const void* plan, const f64* x, f64* spectrum, void* work);
+// y = the circular convolution of x with the signal whose spectrum is h, N / 2 times.
+void mixedConvolve(const void* plan, const f64* x, const f64* h, f64* y, void* work);
+// With a number t[f] for each place of a spectrum: y[f] - i y[N - f] = X[f] conj(t[f]), y[0] = Re(X[0] conj(t[0])).
+void mixedTurned(const void* plan, const f64* x, const f64* turns, f64* y, void* work);
+// X[f] = t[f] (y[f] - i y[N - f]), X[0] = 2 t[0] y[0], and x[n] = half the sum over f of X[f] exp(2 pi i n f / N).
+void mixedFromTurned(const void* plan, const f64* y, const f64* turns, f64* x, void* work);
 
 } // namespace sig5d::SIG5D_FFT_BODY
