@@ -46,6 +46,9 @@ inline Vec<f64, 4> joined(Vec<f64, 2> low, Vec<f64, 2> high)
 inline Vec<f64, 4> low_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 0, 1, 4, 5); }
 inline Vec<f64, 4> high_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 2, 3, 6, 7); }
 
+// Each number twice.
+inline Vec<f64, 4> in_each_pair(Vec<f64, 2> v) { return __builtin_shufflevector(v, v, 0, 0, 1, 1); }
+
 inline Vec<f64, 4> truncated_to_32(Vec<f64, 4> x) { return doubles<4>(truncated(x)); }
 inline Vec<f64, 4> floor(Vec<f64, 4> x) { return _mm256_floor_pd(x); }
 inline Vec<f64, 4> ceiling(Vec<f64, 4> x) { return _mm256_ceil_pd(x); }

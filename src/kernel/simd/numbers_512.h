@@ -52,6 +52,8 @@ inline Vec<f64, 8> high_halves(Vec<f64, 8> a, Vec<f64, 8> b)
     return __builtin_shufflevector(a, b, 4, 5, 6, 7, 12, 13, 14, 15);
 }
 
+inline Vec<f64, 8> in_each_pair(Vec<f64, 4> v) { return __builtin_shufflevector(v, v, 0, 0, 1, 1, 2, 2, 3, 3); }
+
 inline Vec<f64, 8> truncated_to_32(Vec<f64, 8> x) { return doubles<8>(truncated(x)); }
 inline Vec<f64, 8> floor(Vec<f64, 8> x) { return _mm512_floor_pd(x); }
 inline Vec<f64, 8> ceiling(Vec<f64, 8> x) { return _mm512_ceil_pd(x); }
