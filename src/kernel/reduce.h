@@ -21,18 +21,17 @@ template <int L, int states, class State, class Add, class... A>
     return n - i;
 }
 
-// Sums of doubles. An array is summed in blocks of 1024. Element i of a block belongs to partial sum i % lanes, which
-// takes its elements in their order; partial sums that have an element are joined by halves, k with k + lanes / 2, then
-// with k + lanes / 4, and so on; the sums of the blocks are joined in a balanced tree. So no element goes through more
-// than 1024 / lanes + log2(n) additions, and all bodies have the same ones.
+// Sums of doubles. An array is summed in blocks. Element i of a block belongs to partial sum i % lanes, which takes its
+// elements in their order; partial sums that have an element are joined by halves, k with k + lanes / 2, then with k +
+// lanes / 4, and so on; the sums of the blocks are joined in a balanced tree. So no element goes through more than
+// block / lanes + log2(n) additions, and all bodies have the same ones.
 //
 // What is added, an operation tells, a record with
 //     lanes    partial sums;
 //     members  1, or 2 where elements are pairs: their firsts and their seconds are summed each for themselves;
 //     sums     how many sums are made at a time;
+//     block    elements of a block, a multiple of the lanes;
 //     operator()(x...)  the terms of a vector of elements: a vector, or Terms where there are several sums.
-constexpr size_t blockOfSums = 1024;
-
 template <class V, int n> struct Terms {
     V of[n];
 };
@@ -72,7 +71,7 @@ public:
     }
 
 private:
-    Node waiting_[23]; // blocks of 2^32 doubles
+    Node waiting_[25]; // 2^32 doubles in blocks of 256
     u32 blocks_ = 0;
 };
 
@@ -140,7 +139,7 @@ inline void join_some(size_t n, size_t half, size_t members, f64* p)
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] += p[k + half];
 }
 
-// The sums of a block, 0 < n <= blockOfSums; of pairs n is even.
+// The sums of a block, 0 < n <= Op::block; of pairs n is even.
 template <class Op, class... A>
 [[gnu::always_inline]] inline Totals<Op> block_sums(size_t n, const Op& op, A... a)
 {
@@ -168,9 +167,9 @@ template <class Op, class... A>
 template <class Op, class... A> [[gnu::always_inline]] inline Totals<Op> sum_of(size_t n, Op op, A... a)
 {
     Tree<Totals<Op>> tree;
-    for (size_t i = 0;; i += blockOfSums) {
-        const bool last = n - i <= blockOfSums;
-        const Totals<Op> block = block_sums(last ? n - i : blockOfSums, op, (a + i)...);
+    for (size_t i = 0;; i += Op::block) {
+        const bool last = n - i <= Op::block;
+        const Totals<Op> block = block_sums(last ? n - i : Op::block, op, (a + i)...);
         if (last && i == 0) return block;
         tree.add(block);
         if (last) return tree.total();

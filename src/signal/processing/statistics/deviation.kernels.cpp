@@ -11,7 +11,9 @@ struct FromCentre : SumTerms<1> {
     explicit FromCentre(f64 c) : centre(c) {}
     template <class V> V operator()(V x) const { return x - all_lanes<V>(centre); }
 };
+// Squares in shorter blocks: of equal ones beside a much larger one each is rounded in the same direction.
 struct SquareFromCentre : SumTerms<1> {
+    static constexpr size_t block = 256;
     f64 centre;
     explicit SquareFromCentre(f64 c) : centre(c) {}
     template <class V> V operator()(V x) const
@@ -45,12 +47,13 @@ template <class A> [[gnu::always_inline]] inline Spread spread_of(size_t n, A a)
 {
     Tree<Spread> tree;
     f64 origin = 0;
-    for (size_t i = 0;; i += blockOfSums) {
-        const bool last = n - i <= blockOfSums;
-        const size_t m = last ? n - i : blockOfSums;
+    constexpr size_t each = Elements<1>::block;
+    for (size_t i = 0;; i += each) {
+        const bool last = n - i <= each;
+        const size_t m = last ? n - i : each;
         const f64 count = static_cast<f64>(static_cast<int>(m)), sum = block_sums(m, Elements<1>{}, a + i).of[0][0],
                   centre = sum / count;
-        f64 squares = block_sums(m, SquareFromCentre{centre}, a + i).of[0][0], rest = 0;
+        f64 squares = sum_of(m, SquareFromCentre{centre}, a + i).of[0][0], rest = 0;
         if (!(squares * 0x1p44 > centre * centre * count)) rest = correction(m, centre, squares, a + i);
         if (i == 0) origin = centre;
         const Spread block = {count, sum, (centre - origin) + rest, squares};

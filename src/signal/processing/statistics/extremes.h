@@ -102,6 +102,11 @@ template <class A> [[gnu::noinline]] size_t place_of(Element<A> x, size_t begin,
     return i;
 }
 
+template <class T> struct Found {
+    T value;
+    size_t index;
+};
+
 // The best of all blocks that were looked at, and the first block that contains it; element 0 before there is one.
 template <class Kind, class A> struct Search {
     using T = Element<A>;
@@ -119,11 +124,11 @@ template <class Kind, class A> struct Search {
         begin = block;
         isFirst = false;
     }
-    size_t place(size_t n, A a) const { return isFirst ? 0 : place_of(value, begin, n, a); }
-};
-template <class T> struct Found {
-    T value;
-    size_t index;
+    Found<T> found(size_t n, A a) const
+    {
+        const size_t place = isFirst ? 0 : place_of(value, begin, n, a);
+        return {element(a + place), place}; // of zeros that one
+    }
 };
 
 template <class T> constexpr size_t blockOfSearch = 8192 / sizeof(T);
@@ -137,7 +142,7 @@ template <class Kind, class A> [[gnu::noinline]] Found<Element<A>> extreme_place
         const size_t m = n - i < blockOfSearch<T> ? n - i : blockOfSearch<T>;
         s.add(folded_vectors<State>(m, {s.all}, AsItIs{}, a + i).best, i);
     }
-    return {s.value, s.place(n, a)};
+    return s.found(n, a);
 }
 template <class T> struct FoundBoth {
     Found<T> smallest, largest;
@@ -154,7 +159,7 @@ template <class A> [[gnu::noinline]] FoundBoth<Element<A>> extreme_places(size_t
         low.add(s.smallest, i);
         high.add(s.largest, i);
     }
-    return {{low.value, low.place(n, a)}, {high.value, high.place(n, a)}};
+    return {low.found(n, a), high.found(n, a)};
 }
 
 // Of zeros that are the best the first one counts, whose sign vectors do not tell.

@@ -40,7 +40,7 @@ template <int members> struct Products : SumTerms<members> {
 };
 // The products of the parts of two complex numbers: re with re and im with im, re with im and im with re.
 struct ComplexProducts {
-    static constexpr size_t lanes = 16;
+    static constexpr size_t lanes = 16, block = 1024;
     static constexpr int sums = 2, members = 2;
     template <class V> Terms<V, 2> operator()(V x, V y, V exchanged) const { return {{x * y, x * exchanged}}; }
 };

@@ -8,7 +8,7 @@ namespace {
 
 // What sum_of asks of its operations: 32 partial sums of one kind.
 template <int pairMembers> struct SumTerms {
-    static constexpr size_t lanes = 32;
+    static constexpr size_t lanes = 32, block = 1024;
     static constexpr int sums = 1, members = pairMembers;
 };
 template <int members> struct Elements : SumTerms<members> {

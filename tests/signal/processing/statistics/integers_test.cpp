@@ -124,10 +124,10 @@ TEST(IntegerSums, MeansThatAreTies)
 {
     inEveryVariant([] {
         for (Ipp32s k : {-5, -4, -3, -2, -1, 0, 1, 2, 3, 1000000, 2147483646}) {
-            checkSums({k, k + 1});
-            checkSums({k, k, k + 1, k + 1});
-            checkSums({k, k, k, k + 1});
-            checkSums({k, k + 1, k + 1});
+            checkSums(std::vector<Ipp32s>{k, k + 1});
+            checkSums(std::vector<Ipp32s>{k, k, k + 1, k + 1});
+            checkSums(std::vector<Ipp32s>{k, k, k, k + 1});
+            checkSums(std::vector<Ipp32s>{k, k + 1, k + 1});
         }
     });
 }
