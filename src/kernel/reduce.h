@@ -133,7 +133,7 @@ template <size_t half, size_t members> [[gnu::always_inline]] inline void join_a
         join_all<half / 2, members>(p);
     }
 }
-inline void join_some(size_t n, size_t half, size_t members, f64* p)
+[[gnu::noinline]] inline void join_some(size_t n, size_t half, size_t members, f64* p)
 {
     for (; half >= members; half /= 2)
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] += p[k + half];

@@ -47,13 +47,13 @@ template <class Kind, class V> inline Lane<V> best_lane(V v)
 template <class State, class Op, class... A>
 [[gnu::always_inline]] inline State folded_vectors(size_t n, State start, Op op, A... a)
 {
+    const auto add = [&op](State& to, auto... x) { to.add(op(x...)); };
     if constexpr (lanes<u8> == 1) {
         State s[1] = {start};
-        each_vector<1>(n, s, [&op](State& to, auto... x) { to.add(op(x...)); }, a...);
+        each_vector<1>(n, s, add, a...);
         return s[0];
     } else {
         constexpr size_t L = static_cast<size_t>(State::lanesOfEach);
-        const auto add = [&op](State& to, auto... x) { to.add(op(x...)); };
         State s[4] = {start, start, start, start};
         if (n < L) {
             add(s[0], load_ends<L>(a, n)...);
@@ -91,13 +91,39 @@ template <class V> struct BothOf {
     }
 };
 
+// The largest of numbers >= 0, or a NaN if one is among them.
+template <class V> struct LargestOrNaN {
+    static constexpr int lanesOfEach = sizeof(V) / sizeof(f64);
+    V largest{};
+    decltype(unordered(V{}, V{})) none{};
+
+    void add(V x)
+    {
+        largest = larger(x, largest);
+        none = either(none, unordered(x, x));
+    }
+    void join(LargestOrNaN o)
+    {
+        largest = larger(o.largest, largest);
+        none = either(none, o.none);
+    }
+};
+template <class Op, class... A> [[gnu::always_inline]] inline f64 largest_of(size_t n, Op op, A... a)
+{
+    const auto s = folded_vectors<LargestOrNaN<Vec<f64>>>(n, {}, op, a...);
+    return any(s.none) ? __builtin_nan("") : best_lane<Largest>(s.largest);
+}
+
 // Where x comes first, from "begin" on; it does come.
 template <class A> [[gnu::noinline]] size_t place_of(Element<A> x, size_t begin, size_t n, A a)
 {
     constexpr size_t L = lanes<Element<A>>;
     size_t i = begin;
-    if constexpr (L > 1)
-        for (; n - i >= L && !any(load_lanes<L>(a + i) == splat(x)); i += L) {}
+    if constexpr (L > 1) {
+        const auto is = [=](size_t k) { return load_lanes<L>(a + k) == splat(x); };
+        while (n - i >= 4 * L && !any(is(i) | is(i + L) | is(i + 2 * L) | is(i + 3 * L))) i += 4 * L;
+        while (n - i >= L && !any(is(i))) i += L;
+    }
     while (element(a + i) != x) ++i;
     return i;
 }

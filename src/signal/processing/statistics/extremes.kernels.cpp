@@ -13,33 +13,25 @@ void both(const f64* a, int n, f64* min, i32* minIndex, f64* max, i32* maxIndex)
     tell_extremes(a, n, min, minIndex, max, maxIndex);
 }
 
-// The largest finite magnitude, and whether all are finite.
-template <class V> struct LargestFinite {
-    static constexpr int lanesOfEach = sizeof(V) / sizeof(f64);
-    V largest{};
-    decltype(V{} == V{}) finite = V{} == V{};
-
-    void add(V x)
-    {
-        const V m = absolute_value(x);
-        const auto counts = m < constant<V>(__builtin_inf());
-        largest = larger(counts ? m : V{}, largest);
-        finite &= counts;
-    }
-    void join(LargestFinite o)
-    {
-        largest = larger(o.largest, largest);
-        finite &= o.finite;
-    }
+struct Magnitudes {
+    template <class V> V operator()(V x) const { return absolute_value(x); }
 };
-
+[[gnu::noinline, gnu::cold]] f64 largest_finite(size_t n, const f64* a)
+{
+    f64 largest = 0;
+    for (size_t i = 0; i < n; ++i)
+        if (const f64 x = absolute_value(a[i]); x < __builtin_inf() && x > largest) largest = x;
+    return largest;
+}
 [[gnu::noinline]] Status order(const f64* a, int n, int* result)
 {
-    const auto s = folded_vectors<LargestFinite<Vec<f64>>>(static_cast<size_t>(n), {}, AsItIs{}, a);
-    const f64 m = best_lane<Largest>(s.largest);
+    const size_t all = static_cast<size_t>(n);
+    f64 m = largest_of(all, Magnitudes{}, a);
+    const bool finite = m < __builtin_inf();
+    if (!finite) m = largest_finite(all, a);
     const int exponent = static_cast<int>(BitsOf<f64>::of(m) >> 52);
     *result = m == 0 ? 0 : exponent - 1022; // -1022 for what is denormal
-    return any(!s.finite) || (m != 0 && exponent == 0) ? StsNanArg : StsNoErr;
+    return finite && (m == 0 || exponent > 0) ? StsNoErr : StsNanArg;
 }
 
 } // namespace

@@ -27,7 +27,7 @@ struct LaneSums {
 };
 inline i64 block_sum(size_t vectors, const i32* a)
 {
-    LaneSums s[2];
+    LaneSums s[4];
     each_vector<lanes<i32>>(
         vectors * lanes<i32>, s,
         [](LaneSums& to, Vec<i32> x) {
@@ -35,16 +35,16 @@ inline i64 block_sum(size_t vectors, const i32* a)
             to.high += x >> 16;
         },
         a);
-    const Vec<i32> high = s[0].high + s[1].high;
-    const Vec<u32> low = s[0].all + s[1].all - (as<Vec<u32>>(high) << 16);
+    const Vec<i32> high = s[0].high + s[1].high + (s[2].high + s[3].high);
+    const Vec<u32> low = s[0].all + s[1].all + (s[2].all + s[3].all) - (as<Vec<u32>>(high) << 16);
     return lane_sum<i64>(high) * 65536 + lane_sum<i64>(low);
 }
 inline i64 block_sum(size_t vectors, const i16* a)
 {
-    Vec<i32> s[2] = {};
+    Vec<i32> s[4] = {};
     each_vector<lanes<i16>>(
         vectors * lanes<i16>, s, [](Vec<i32>& to, Vec<i16> x) { to += sums_of_two(x); }, a);
-    return lane_sum<i64>(s[0]) + lane_sum<i64>(s[1]);
+    return lane_sum<i64>(s[0] + s[1] + (s[2] + s[3]));
 }
 
 #endif

@@ -47,7 +47,6 @@ struct ScaledModuli : SumTerms<1> {
     template <class... C> auto operator()(C... z) const { return square_root(power(difference(z...), by)); }
 };
 
-// The largest of numbers >= 0, or a NaN if one is among them.
 struct LargestPower {
     template <class... C> auto operator()(C... z) const { return power(difference(z...)); }
 };
@@ -55,28 +54,6 @@ struct LargestScaledPower {
     f64 by;
     template <class... C> auto operator()(C... z) const { return power(difference(z...), by); }
 };
-template <class V> struct LargestOrNaN {
-    static constexpr int lanesOfEach = sizeof(V) / sizeof(f64);
-    V largest{};
-    decltype(V{} != V{}) none{};
-
-    void add(V x)
-    {
-        largest = larger(x, largest);
-        none |= x != x;
-    }
-    void join(LargestOrNaN o)
-    {
-        largest = larger(o.largest, largest);
-        none |= o.none;
-    }
-};
-template <class Op, class... A> [[gnu::always_inline]] inline f64 largest_of(size_t n, Op op, A... a)
-{
-    const auto s = folded_vectors<LargestOrNaN<Vec<f64>>>(n, {}, op, a...);
-    return any(s.none) ? __builtin_nan("") : best_lane<Largest>(s.largest);
-}
-
 // A sum or largest one of squares is good as it is within these bounds, or if it is a NaN.
 inline bool has_lost_bits(f64 squares) { return squares < 0x1p-960 || squares == __builtin_inf(); }
 struct Scaling {

@@ -14,12 +14,10 @@ struct EachTwice {
 template <int n> inline auto load_lanes(EachTwice a)
 {
     const f64* const p = a.p + a.i / 2;
-    if constexpr (n <= 2) {
+    if constexpr (n <= 2)
         return broadcast<n>(p);
-    } else {
-        const auto x = loadn<n / 2>(p);
-        return in_each_pair(x);
-    }
+    else
+        return each_twice<n>(p);
 }
 // Complex numbers as arrays of their parts, which stand exchanged.
 struct PartsExchanged {
@@ -42,7 +40,11 @@ template <int members> struct Products : SumTerms<members> {
 struct ComplexProducts {
     static constexpr size_t lanes = 16, block = 1024;
     static constexpr int sums = 2, members = 2;
-    template <class V> Terms<V, 2> operator()(V x, V y, V exchanged) const { return {{x * y, x * exchanged}}; }
+    template <class V> Terms<V, 2> operator()(V x, V y, V exchanged) const
+    {
+        x = in_register(x);
+        return {{x * y, x * exchanged}};
+    }
 };
 
 template <class T, class A> [[gnu::always_inline]] inline auto total(const T* a, int n, A source)
