@@ -42,29 +42,42 @@ template <class Kind, class V> inline Lane<V> best_lane(V v)
     }
 }
 
+// Two vectors for one state, where they are taken better together.
+template <class State, class V> [[gnu::always_inline]] inline void add_two(State& s, V x, V y)
+{
+    if constexpr (requires { s.add(x, y); }) {
+        s.add(x, y);
+    } else {
+        s.add(x);
+        s.add(y);
+    }
+}
 // What the elements come to in any order, where it does not matter that some are looked at twice. A State of vectors
 // begins as "start" and has add(x), for what op gives of elements, and join(another).
 template <class State, class Op, class... A>
 [[gnu::always_inline]] inline State folded_vectors(size_t n, State start, Op op, A... a)
 {
-    const auto add = [&op](State& to, auto... x) { to.add(op(x...)); };
-    if constexpr (lanes<u8> == 1) {
-        State s[1] = {start};
-        each_vector<1>(n, s, add, a...);
-        return s[0];
-    } else {
-        constexpr size_t L = static_cast<size_t>(State::lanesOfEach);
-        State s[4] = {start, start, start, start};
+    constexpr size_t L = static_cast<size_t>(State::lanesOfEach), states = L == 1 ? 1 : 4;
+    State s[states];
+    for (State& one : s) one = start;
+    if constexpr (L > 1)
         if (n < L) {
-            add(s[0], load_ends<L>(a, n)...);
+            s[0].add(op(load_ends<L>(a, n)...));
             return s[0];
         }
-        if (each_vector<L>(n, s, add, a...)) add(s[0], load_lanes<L>(a + (n - L))...);
+    size_t i = 0;
+    for (; n - i >= 2 * states * L; i += 2 * states * L)
+#pragma GCC unroll 4
+        for (size_t k = 0; k < states; ++k)
+            add_two(s[k], op(load_lanes<L>(a + (i + k * L))...), op(load_lanes<L>(a + (i + (states + k) * L))...));
+    for (; n - i >= L; i += L) s[0].add(op(load_lanes<L>(a + i)...));
+    if constexpr (L > 1) {
+        if (i < n) s[0].add(op(load_lanes<L>(a + (n - L))...));
         s[0].join(s[1]);
         s[2].join(s[3]);
         s[0].join(s[2]);
-        return s[0];
     }
+    return s[0];
 }
 
 struct AsItIs {
@@ -101,6 +114,11 @@ template <class V> struct LargestOrNaN {
     {
         largest = larger(x, largest);
         none = either(none, unordered(x, x));
+    }
+    void add(V x, V y) // one question for both
+    {
+        largest = larger(y, larger(x, largest));
+        none = either(none, unordered(x, y));
     }
     void join(LargestOrNaN o)
     {
@@ -157,7 +175,7 @@ template <class Kind, class A> struct Search {
     }
 };
 
-template <class T> constexpr size_t blockOfSearch = 8192 / sizeof(T);
+template <class T> constexpr size_t blockOfSearch = 4096 / sizeof(T);
 
 template <class Kind, class A> [[gnu::noinline]] Found<Element<A>> extreme_place(size_t n, A a)
 {
