@@ -20,17 +20,25 @@ const struct Choice {
     std::vector<int> values;
 } choices[] = {{"scaleFactor", {0, 1, 5, 15, -2}}};
 
-// Where work beyond moving the arrays is the limit: operations on doubles for each element.
+// Where work beyond moving the arrays is the limit: operations on doubles for each element; flops are additions and
+// multiplications.
 const struct Work {
     const char* family; // or one function, after its family
     Element element;
-    double divisions, squareRoots;
+    double divisions, squareRoots, flops = 0;
 } works[] = {
     {"ippsDiv", Element::f64, 1, 0},        {"ippsDiv", Element::c64f, 1, 0},    {"ippsDivCRev", Element::f64, 1, 0},
     {"ippsSqrt", Element::f64, 0, 1},       {"ippsSqrt", Element::c64f, 2, 2},   {"ippsMagnitude", Element::f64, 0, 1},
     {"ippsMagnitude", Element::c64f, 0, 1}, {"DivideValue", Element::f64, 1, 0}, {"DivideValue", Element::c64f, 1, 0},
     {"DivideValuedc", Element::f64, 2, 0},  {"DivVeccd", Element::c64f, 2, 0},   {"DivVeccc", Element::c64f, 1, 0},
     {"DivVecdc", Element::f64, 1, 0},
+    {"ippsNormalize", Element::f64, 1, 0},
+    {"ippsNormalize", Element::c64f, 2, 0},
+    {"ippsNorm_L1", Element::c64f, 0, 1},
+    {"ippsNormDiff_L1", Element::c64f, 0, 1},
+    {"ippsDotProd", Element::c64f, 0, 0, 8},
+    {"ippsStdDev", Element::f64, 0, 0, 4}, // a sum, and squares of distances from the mean
+    {"ippsMeanStdDev", Element::f64, 0, 0, 4},
 };
 
 using Rule = double (*)(const Value*); // a scalar's value as it follows from others
@@ -170,6 +178,7 @@ void prepare(const Job& job, Setup& s)
         if ((!std::strcmp(w.family, f.family) || !std::strcmp(w.family, f.name)) && f.args[0].element == w.element) {
             s.divisions = w.divisions * s.elements;
             s.squareRoots = w.squareRoots * s.elements;
+            s.flops = w.flops * s.elements;
         }
     const bool indexed = f.index == registry::IndexForm::only;
     const std::vector<int> zeros(static_cast<size_t>(f.argCount));

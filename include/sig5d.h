@@ -2366,6 +2366,202 @@ IppStatus SIG5D_CDECL ippsWinKaiser_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ip
         Ipp64f alpha);
 IppStatus SIG5D_STDCALL ippsWinKaiser_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f alpha);
 IppStatus SIG5D_CDECL ippsWinKaiser_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
+/* ---- Statistics and norms ---- */
+
+/* *pSum = pSrc[0] + ... + pSrc[len-1]. */
+IppStatus SIG5D_STDCALL ippsSum_64f(const Ipp64f* pSrc, int len, Ipp64f* pSum);
+IppStatus SIG5D_CDECL ippsSum_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pSum);
+IppStatus SIG5D_STDCALL ippsSum_64fc(const Ipp64fc* pSrc, int len, Ipp64fc* pSum);
+IppStatus SIG5D_CDECL ippsSum_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64fc* pSum);
+
+/* *pSum = (pSrc[0] + ... + pSrc[len-1]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsSum_32s_Sfs(const Ipp32s* pSrc, int len, Ipp32s* pSum, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSum_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pSum, int scaleFactor);
+IppStatus SIG5D_STDCALL ippsSum_16s32s_Sfs(const Ipp16s* pSrc, int len, Ipp32s* pSum, int scaleFactor);
+IppStatus SIG5D_CDECL ippsSum_16s32s_Sfs_Idx(const Ipp16s* pSrc, int srcIdx, int len, Ipp32s* pSum, int scaleFactor);
+
+/* *pMean = (pSrc[0] + ... + pSrc[len-1]) / len. */
+IppStatus SIG5D_STDCALL ippsMean_64f(const Ipp64f* pSrc, int len, Ipp64f* pMean);
+IppStatus SIG5D_CDECL ippsMean_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMean);
+IppStatus SIG5D_STDCALL ippsMean_64fc(const Ipp64fc* pSrc, int len, Ipp64fc* pMean);
+IppStatus SIG5D_CDECL ippsMean_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64fc* pMean);
+
+/* *pMean = (pSrc[0] + ... + pSrc[len-1]) / len * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsMean_32s_Sfs(const Ipp32s* pSrc, int len, Ipp32s* pMean, int scaleFactor);
+IppStatus SIG5D_CDECL ippsMean_32s_Sfs_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMean, int scaleFactor);
+
+/* *pDp = sum over i of pSrc1[i] * pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsDotProd_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, int len, Ipp64f* pDp);
+IppStatus SIG5D_CDECL ippsDotProd_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, int len,
+        Ipp64f* pDp);
+IppStatus SIG5D_STDCALL ippsDotProd_64fc(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, int len, Ipp64fc* pDp);
+IppStatus SIG5D_CDECL ippsDotProd_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, int
+        len, Ipp64fc* pDp);
+
+/* *pDp = sum over i of pSrc1[i] * pSrc2[i]. */
+IppStatus SIG5D_STDCALL ippsDotProd_64f64fc(const Ipp64f* pSrc1, const Ipp64fc* pSrc2, int len, Ipp64fc* pDp);
+IppStatus SIG5D_CDECL ippsDotProd_64f64fc_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int src2Idx, int
+        len, Ipp64fc* pDp);
+
+/* *pDp = (sum over i of pSrc1[i] * pSrc2[i]) * 2^-scaleFactor. */
+IppStatus SIG5D_STDCALL ippsDotProd_32s_Sfs(const Ipp32s* pSrc1, const Ipp32s* pSrc2, int len, Ipp32s* pDp, int
+        scaleFactor);
+IppStatus SIG5D_CDECL ippsDotProd_32s_Sfs_Idx(const Ipp32s* pSrc1, int src1Idx, const Ipp32s* pSrc2, int src2Idx, int
+        len, Ipp32s* pDp, int scaleFactor);
+
+/* *pStdDev = sqrt(sum over i of (pSrc[i] - mean)^2 / (len-1)). The standard deviation of a sample. */
+IppStatus SIG5D_STDCALL ippsStdDev_64f(const Ipp64f* pSrc, int len, Ipp64f* pStdDev);
+IppStatus SIG5D_CDECL ippsStdDev_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pStdDev);
+
+/* The mean, as ippsMean_64f gives it to the bit, and the standard deviation, as ippsStdDev_64f gives it. */
+IppStatus SIG5D_STDCALL ippsMeanStdDev_64f(const Ipp64f* pSrc, int len, Ipp64f* pMean, Ipp64f* pStdDev);
+IppStatus SIG5D_CDECL ippsMeanStdDev_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMean, Ipp64f* pStdDev);
+
+/* *pNorm = the largest |pSrc[i]|. */
+IppStatus SIG5D_STDCALL ippsNorm_Inf_64f(const Ipp64f* pSrc, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNorm_Inf_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pNorm);
+IppStatus SIG5D_STDCALL ippsNorm_Inf_64fc64f(const Ipp64fc* pSrc, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNorm_Inf_64fc64f_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64f* pNorm);
+
+/* *pNorm = |pSrc[0]| + ... + |pSrc[len-1]|. */
+IppStatus SIG5D_STDCALL ippsNorm_L1_64f(const Ipp64f* pSrc, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNorm_L1_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pNorm);
+IppStatus SIG5D_STDCALL ippsNorm_L1_64fc64f(const Ipp64fc* pSrc, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNorm_L1_64fc64f_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64f* pNorm);
+
+/* *pNorm = sqrt(sum over i of |pSrc[i]|^2). */
+IppStatus SIG5D_STDCALL ippsNorm_L2_64f(const Ipp64f* pSrc, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNorm_L2_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pNorm);
+IppStatus SIG5D_STDCALL ippsNorm_L2_64fc64f(const Ipp64fc* pSrc, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNorm_L2_64fc64f_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64f* pNorm);
+
+/* *pNorm = the largest |pSrc1[i] - pSrc2[i]|. */
+IppStatus SIG5D_STDCALL ippsNormDiff_Inf_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNormDiff_Inf_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, int
+        len, Ipp64f* pNorm);
+IppStatus SIG5D_STDCALL ippsNormDiff_Inf_64fc64f(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNormDiff_Inf_64fc64f_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int
+        src2Idx, int len, Ipp64f* pNorm);
+
+/* *pNorm = sum over i of |pSrc1[i] - pSrc2[i]|. */
+IppStatus SIG5D_STDCALL ippsNormDiff_L1_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNormDiff_L1_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, int
+        len, Ipp64f* pNorm);
+IppStatus SIG5D_STDCALL ippsNormDiff_L1_64fc64f(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNormDiff_L1_64fc64f_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int
+        src2Idx, int len, Ipp64f* pNorm);
+
+/* *pNorm = sqrt(sum over i of |pSrc1[i] - pSrc2[i]|^2). */
+IppStatus SIG5D_STDCALL ippsNormDiff_L2_64f(const Ipp64f* pSrc1, const Ipp64f* pSrc2, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNormDiff_L2_64f_Idx(const Ipp64f* pSrc1, int src1Idx, const Ipp64f* pSrc2, int src2Idx, int
+        len, Ipp64f* pNorm);
+IppStatus SIG5D_STDCALL ippsNormDiff_L2_64fc64f(const Ipp64fc* pSrc1, const Ipp64fc* pSrc2, int len, Ipp64f* pNorm);
+IppStatus SIG5D_CDECL ippsNormDiff_L2_64fc64f_Idx(const Ipp64fc* pSrc1, int src1Idx, const Ipp64fc* pSrc2, int
+        src2Idx, int len, Ipp64f* pNorm);
+
+/* pDst[i] = (pSrc[i] - vSub) / vDiv. The divisor is real. Each part is divided, not multiplied by a reciprocal. */
+IppStatus SIG5D_STDCALL ippsNormalize_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f vSub, Ipp64f vDiv);
+IppStatus SIG5D_CDECL ippsNormalize_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
+        vSub, Ipp64f vDiv);
+IppStatus SIG5D_STDCALL ippsNormalize_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64fc vSub, Ipp64f vDiv);
+IppStatus SIG5D_CDECL ippsNormalize_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64fc vSub, Ipp64f vDiv);
+
+/* *pMax = the largest pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsMax_64f(const Ipp64f* pSrc, int len, Ipp64f* pMax);
+IppStatus SIG5D_CDECL ippsMax_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMax);
+
+/* *pMax = the largest pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsMax_32s(const Ipp32s* pSrc, int len, Ipp32s* pMax);
+IppStatus SIG5D_CDECL ippsMax_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMax);
+IppStatus SIG5D_STDCALL ippsMax_16s(const Ipp16s* pSrc, int len, Ipp16s* pMax);
+IppStatus SIG5D_CDECL ippsMax_16s_Idx(const Ipp16s* pSrc, int srcIdx, int len, Ipp16s* pMax);
+
+/* *pMin = the smallest pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsMin_64f(const Ipp64f* pSrc, int len, Ipp64f* pMin);
+IppStatus SIG5D_CDECL ippsMin_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMin);
+
+/* *pMin = the smallest pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsMin_32s(const Ipp32s* pSrc, int len, Ipp32s* pMin);
+IppStatus SIG5D_CDECL ippsMin_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMin);
+IppStatus SIG5D_STDCALL ippsMin_16s(const Ipp16s* pSrc, int len, Ipp16s* pMin);
+IppStatus SIG5D_CDECL ippsMin_16s_Idx(const Ipp16s* pSrc, int srcIdx, int len, Ipp16s* pMin);
+
+/* *pMin = the smallest pSrc[i]; *pMax = the largest pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsMinMax_64f(const Ipp64f* pSrc, int len, Ipp64f* pMin, Ipp64f* pMax);
+IppStatus SIG5D_CDECL ippsMinMax_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMin, Ipp64f* pMax);
+
+/* *pMin = the smallest pSrc[i]; *pMax = the largest pSrc[i]. */
+IppStatus SIG5D_STDCALL ippsMinMax_32s(const Ipp32s* pSrc, int len, Ipp32s* pMin, Ipp32s* pMax);
+IppStatus SIG5D_CDECL ippsMinMax_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMin, Ipp32s* pMax);
+IppStatus SIG5D_STDCALL ippsMinMax_16s(const Ipp16s* pSrc, int len, Ipp16s* pMin, Ipp16s* pMax);
+IppStatus SIG5D_CDECL ippsMinMax_16s_Idx(const Ipp16s* pSrc, int srcIdx, int len, Ipp16s* pMin, Ipp16s* pMax);
+
+/* *pMax = pSrc[*pIndx], the largest; *pIndx the smallest such index. */
+IppStatus SIG5D_STDCALL ippsMaxIndx_64f(const Ipp64f* pSrc, int len, Ipp64f* pMax, int* pIndx);
+IppStatus SIG5D_CDECL ippsMaxIndx_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMax, int* pIndx);
+
+/* *pMax = pSrc[*pIndx], the largest; *pIndx the smallest such index. */
+IppStatus SIG5D_STDCALL ippsMaxIndx_32s(const Ipp32s* pSrc, int len, Ipp32s* pMax, int* pIndx);
+IppStatus SIG5D_CDECL ippsMaxIndx_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMax, int* pIndx);
+IppStatus SIG5D_STDCALL ippsMaxIndx_16s(const Ipp16s* pSrc, int len, Ipp16s* pMax, int* pIndx);
+IppStatus SIG5D_CDECL ippsMaxIndx_16s_Idx(const Ipp16s* pSrc, int srcIdx, int len, Ipp16s* pMax, int* pIndx);
+
+/* *pMin = pSrc[*pIndx], the smallest; *pIndx the smallest such index. */
+IppStatus SIG5D_STDCALL ippsMinIndx_64f(const Ipp64f* pSrc, int len, Ipp64f* pMin, int* pIndx);
+IppStatus SIG5D_CDECL ippsMinIndx_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMin, int* pIndx);
+
+/* *pMin = pSrc[*pIndx], the smallest; *pIndx the smallest such index. */
+IppStatus SIG5D_STDCALL ippsMinIndx_32s(const Ipp32s* pSrc, int len, Ipp32s* pMin, int* pIndx);
+IppStatus SIG5D_CDECL ippsMinIndx_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMin, int* pIndx);
+IppStatus SIG5D_STDCALL ippsMinIndx_16s(const Ipp16s* pSrc, int len, Ipp16s* pMin, int* pIndx);
+IppStatus SIG5D_CDECL ippsMinIndx_16s_Idx(const Ipp16s* pSrc, int srcIdx, int len, Ipp16s* pMin, int* pIndx);
+
+/* *pMin = pSrc[*pMinIndx], the smallest; *pMax = pSrc[*pMaxIndx], the largest; both indices the smallest such. */
+IppStatus SIG5D_STDCALL ippsMinMaxIndx_64f(const Ipp64f* pSrc, int len, Ipp64f* pMin, int* pMinIndx, Ipp64f* pMax,
+        int* pMaxIndx);
+IppStatus SIG5D_CDECL ippsMinMaxIndx_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pMin, int* pMinIndx,
+        Ipp64f* pMax, int* pMaxIndx);
+
+/* *pMin = pSrc[*pMinIndx], the smallest; *pMax = pSrc[*pMaxIndx], the largest; both indices the smallest such. */
+IppStatus SIG5D_STDCALL ippsMinMaxIndx_32s(const Ipp32s* pSrc, int len, Ipp32s* pMin, int* pMinIndx, Ipp32s* pMax,
+        int* pMaxIndx);
+IppStatus SIG5D_CDECL ippsMinMaxIndx_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMin, int* pMinIndx,
+        Ipp32s* pMax, int* pMaxIndx);
+IppStatus SIG5D_STDCALL ippsMinMaxIndx_16s(const Ipp16s* pSrc, int len, Ipp16s* pMin, int* pMinIndx, Ipp16s* pMax,
+        int* pMaxIndx);
+IppStatus SIG5D_CDECL ippsMinMaxIndx_16s_Idx(const Ipp16s* pSrc, int srcIdx, int len, Ipp16s* pMin, int* pMinIndx,
+        Ipp16s* pMax, int* pMaxIndx);
+
+/* *pOrder = the e with 2^(e-1) <= m < 2^e, where m is the largest finite magnitude; 0 where m is 0. */
+IppStatus SIG5D_STDCALL ippsMaxOrder_64f(const Ipp64f* pSrc, int len, int* pOrder);
+IppStatus SIG5D_CDECL ippsMaxOrder_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, int* pOrder);
+
+/* *pOrder = the e with 2^(e-1) <= m < 2^e, where m is the largest |pSrc[i]|; 0 where m is 0. */
+IppStatus SIG5D_STDCALL ippsMaxOrder_32s(const Ipp32s* pSrc, int len, int* pOrder);
+IppStatus SIG5D_CDECL ippsMaxOrder_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, int* pOrder);
+
+/* *pMaxAbs = the largest |pSrc[i]|. */
+IppStatus SIG5D_STDCALL ippsMaxAbs_32s(const Ipp32s* pSrc, int len, Ipp32s* pMaxAbs);
+IppStatus SIG5D_CDECL ippsMaxAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMaxAbs);
+
+/* *pMinAbs = the smallest |pSrc[i]|. */
+IppStatus SIG5D_STDCALL ippsMinAbs_32s(const Ipp32s* pSrc, int len, Ipp32s* pMinAbs);
+IppStatus SIG5D_CDECL ippsMinAbs_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMinAbs);
+
+/* *pMaxAbs = |pSrc[*pIndx]|, the largest; *pIndx the smallest such index. */
+IppStatus SIG5D_STDCALL ippsMaxAbsIndx_32s(const Ipp32s* pSrc, int len, Ipp32s* pMaxAbs, int* pIndx);
+IppStatus SIG5D_CDECL ippsMaxAbsIndx_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMaxAbs, int* pIndx);
+
+/* *pMinAbs = |pSrc[*pIndx]|, the smallest; *pIndx the smallest such index. */
+IppStatus SIG5D_STDCALL ippsMinAbsIndx_32s(const Ipp32s* pSrc, int len, Ipp32s* pMinAbs, int* pIndx);
+IppStatus SIG5D_CDECL ippsMinAbsIndx_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, Ipp32s* pMinAbs, int* pIndx);
+
+/* *pCounts = number of i with lowerBound <= pSrc[i] <= upperBound. */
+IppStatus SIG5D_STDCALL ippsCountInRange_32s(const Ipp32s* pSrc, int len, int* pCounts, Ipp32s lowerBound, Ipp32s
+        upperBound);
+IppStatus SIG5D_CDECL ippsCountInRange_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, int* pCounts, Ipp32s
+        lowerBound, Ipp32s upperBound);
 
 /* ---- Integer conversions and byte statistics ---- */
 

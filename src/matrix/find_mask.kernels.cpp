@@ -1,4 +1,5 @@
 // Masks of comparisons, and the count of what is greater.
+#include "kernel/reduce.h"
 #include "matrix/holding.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -86,24 +87,19 @@ template <class T> void find_mask(u32 code, const T* x, const T* y, i32* mask, u
     find_mask_by_code(code, x, y, mask, n);
 }
 
-template <class T> inline u32 greater(const T* x, T value, size_t n)
+void count_greater(const f64* x, f64 value, u32* count, u32 n)
 {
-    size_t k = 0;
-    u32 count = 0;
-    if constexpr (lanes < T >> 1) {
-        constexpr size_t L = lanes<T>;
-        Vec<i64> found[4] = {};
-        for (; n - k >= 8 * L; k += 8 * L)
-#pragma GCC unroll 8
-            for (size_t i = 0; i < 8; ++i) found[i % 4] -= splat(value) < load(x + k + i * L);
-        for (; n - k >= L; k += L) found[0] -= splat(value) < load(x + k);
-        const auto all = as<Vec<i32, 2 * lanes<T>>>(found[0] + found[1] + (found[2] + found[3]));
-        for (size_t i = 0; i < L; ++i) count += static_cast<u32>(all[2 * i]);
+    size_t left = n;
+    u32 found = 0;
+    if constexpr (lanes<f64> > 1) {
+        Vec<i64> s[4] = {};
+        left = each_vector<lanes<f64>>(left, s, [=](Vec<i64>& to, Vec<f64> v) { to -= splat(value) < v; }, x);
+        const auto all = as<Vec<i32, 2 * lanes<f64>>>(s[0] + s[1] + (s[2] + s[3]));
+        for (size_t i = 0; i < lanes<f64>; ++i) found += static_cast<u32>(all[2 * i]);
     }
-    for (; k < n; ++k) count += x[k] > value;
-    return count;
+    for (; left; --left) found += x[n - left] > value;
+    *count = found;
 }
-void count_greater(const f64* x, f64 value, u32* count, u32 n) { *count = greater(x, value, n); }
 
 } // namespace
 #include "entries/matrix/find_mask.inc"

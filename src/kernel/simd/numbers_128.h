@@ -118,6 +118,8 @@ inline Vec<f64, 2> same_or_nan(Vec<f64, 2> x, Vec<f64, 2> y)
 {
     return _mm_or_pd(_mm_cmpeq_pd(x, y), _mm_cmpunord_pd(x, y));
 }
+// Where one of them is NaN.
+inline Vec<f64, 2> unordered(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_cmpunord_pd(x, y); }
 inline Vec<f64, 2> both(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_and_pd(x, y); }
 inline Vec<f64, 2> either(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_or_pd(x, y); }
 inline Vec<f64, 2> turned(Vec<f64, 2> x, Vec<f64, 2> y) { return _mm_xor_pd(x, y); }

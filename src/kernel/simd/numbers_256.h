@@ -46,6 +46,13 @@ inline Vec<f64, 4> joined(Vec<f64, 2> low, Vec<f64, 2> high)
 inline Vec<f64, 4> low_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 0, 1, 4, 5); }
 inline Vec<f64, 4> high_halves(Vec<f64, 4> a, Vec<f64, 4> b) { return __builtin_shufflevector(a, b, 2, 3, 6, 7); }
 
+// Numbers in memory, each twice.
+template <int n>
+requires(n == 4) inline Vec<f64, 4> each_twice(const f64* p)
+{
+    return _mm256_permute_pd(_mm256_broadcast_pd(reinterpret_cast<const __m128d*>(p)), 0xC);
+}
+
 inline Vec<f64, 4> truncated_to_32(Vec<f64, 4> x) { return doubles<4>(truncated(x)); }
 inline Vec<f64, 4> floor(Vec<f64, 4> x) { return _mm256_floor_pd(x); }
 inline Vec<f64, 4> ceiling(Vec<f64, 4> x) { return _mm256_ceil_pd(x); }
@@ -77,6 +84,7 @@ requires(n == 4) inline Vec<f64, 4> broadcast(const f64* p) { return _mm256_broa
 inline Vec<f64, 4> less(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_cmp_pd(x, y, _CMP_LT_OQ); }
 inline Vec<f64, 4> same(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_cmp_pd(x, y, _CMP_EQ_OQ); }
 inline Vec<f64, 4> same_or_nan(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_cmp_pd(x, y, _CMP_EQ_UQ); }
+inline Vec<f64, 4> unordered(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_cmp_pd(x, y, _CMP_UNORD_Q); }
 inline Vec<f64, 4> both(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_and_pd(x, y); }
 inline Vec<f64, 4> either(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_or_pd(x, y); }
 inline Vec<f64, 4> turned(Vec<f64, 4> x, Vec<f64, 4> y) { return _mm256_xor_pd(x, y); }

@@ -52,6 +52,13 @@ inline Vec<f64, 8> high_halves(Vec<f64, 8> a, Vec<f64, 8> b)
     return __builtin_shufflevector(a, b, 4, 5, 6, 7, 12, 13, 14, 15);
 }
 
+template <int n>
+requires(n == 8) inline Vec<f64, 8> each_twice(const f64* p)
+{
+    const auto v = loadn<4>(p);
+    return __builtin_shufflevector(v, v, 0, 0, 1, 1, 2, 2, 3, 3);
+}
+
 inline Vec<f64, 8> truncated_to_32(Vec<f64, 8> x) { return doubles<8>(truncated(x)); }
 inline Vec<f64, 8> floor(Vec<f64, 8> x) { return _mm512_floor_pd(x); }
 inline Vec<f64, 8> ceiling(Vec<f64, 8> x) { return _mm512_ceil_pd(x); }
@@ -93,6 +100,10 @@ inline Vec<f64, 8> same(Vec<f64, 8> x, Vec<f64, 8> y)
 inline Vec<f64, 8> same_or_nan(Vec<f64, 8> x, Vec<f64, 8> y)
 {
     return as<Vec<f64, 8>>(_mm512_movm_epi64(_mm512_cmp_pd_mask(x, y, _CMP_EQ_UQ)));
+}
+inline Vec<f64, 8> unordered(Vec<f64, 8> x, Vec<f64, 8> y)
+{
+    return as<Vec<f64, 8>>(_mm512_movm_epi64(_mm512_cmp_pd_mask(x, y, _CMP_UNORD_Q)));
 }
 inline Vec<f64, 8> both(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_and_pd(x, y); }
 inline Vec<f64, 8> either(Vec<f64, 8> x, Vec<f64, 8> y) { return _mm512_or_pd(x, y); }
