@@ -302,11 +302,11 @@ typedef struct IppsRandGaussState_64f IppsRandGaussState_64f;
 typedef struct IppsRandGaussState_32f IppsRandGaussState_32f;
 typedef struct IppsRandGaussState_16s IppsRandGaussState_16s;
 typedef struct IppsRandGaussState_8u IppsRandGaussState_8u;
-typedef struct IppsIIRState_64f IppsIIRState_64f;
-typedef struct IppsIIRState_64fc IppsIIRState_64fc;
 typedef struct IppsDCTFwdSpec_64f IppsDCTFwdSpec_64f;
 typedef struct IppsDCTInvSpec_64f IppsDCTInvSpec_64f;
 typedef struct IppsDCTHandle_64f IppsDCTHandle_64f;
+typedef struct IppsIIRState_64f IppsIIRState_64f;
+typedef struct IppsIIRState_64fc IppsIIRState_64fc;
 
 /* ---- Arithmetic on doubles, element by element ---- */
 
@@ -2105,6 +2105,108 @@ IppStatus SIG5D_CDECL ippsFIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, const Ipps
 IppStatus SIG5D_CDECL ippsFIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, const IppsFIRSpec_64fc* pSpec, const Ipp64fc*
         pDlySrc, int dlySrcIdx, Ipp64fc* pDlyDst, int dlyDstIdx, Ipp8u* pBuf, int bufIdx);
 
+/* ---- Signal generators ---- */
+
+/* pDst[n] = offset + slope * n. Every element is computed from its index, as a product and a sum in double
+   precision, each rounded; single precision rounds once more. */
+IppStatus SIG5D_STDCALL ippsVectorSlope_64f(Ipp64f* pDst, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_CDECL ippsVectorSlope_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_STDCALL ippsVectorSlope_32f(Ipp32f* pDst, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_CDECL ippsVectorSlope_32f_Idx(Ipp32f* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
+
+/* pDst[n] = nearest integer to offset + slope * n. Every element is computed from its index, as a product and a
+   sum in double precision, each rounded. Ties go to the even integer, what is beyond the type's limits to the
+   nearer of them, NaN to the lower one. */
+IppStatus SIG5D_STDCALL ippsVectorSlope_32s(Ipp32s* pDst, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_CDECL ippsVectorSlope_32s_Idx(Ipp32s* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_STDCALL ippsVectorSlope_16s(Ipp16s* pDst, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_CDECL ippsVectorSlope_16s_Idx(Ipp16s* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_STDCALL ippsVectorSlope_8u(Ipp8u* pDst, int len, Ipp64f offset, Ipp64f slope);
+IppStatus SIG5D_CDECL ippsVectorSlope_8u_Idx(Ipp8u* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
+
+/* pDst[n] = magn * sin(pi/2 * n*n / len). A sine whose frequency rises evenly, from 0 to a quarter of the
+   elements' rate. */
+IppStatus SIG5D_STDCALL ippsVectorJaehne_64f(Ipp64f* pDst, int len, Ipp64f magn);
+IppStatus SIG5D_CDECL ippsVectorJaehne_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f magn);
+
+/* pDst[n] = nearest integer to magn * sin(pi/2 * n*n / len). What ippsVectorJaehne_64f gives with the same magn,
+   rounded to the nearest integer, ties to the even one, and limited to the type. */
+IppStatus SIG5D_STDCALL ippsVectorJaehne_32s(Ipp32s* pDst, int len, Ipp32s magn);
+IppStatus SIG5D_CDECL ippsVectorJaehne_32s_Idx(Ipp32s* pDst, int dstIdx, int len, Ipp32s magn);
+
+/* pDst[n] = magn * cos(2 pi rFreq n + phase). A cosine by recurrence: y[0] and y[1] by cosines, y[n] = 2c y[n-1] -
+   y[n-2] for n = 2 and 3, then y[n] = (4c*c - 2) y[n-2] - y[n-4], with c = cos(2 pi rFreq). The phase for the
+   elements behind these is stored in its place. hint is not looked at. */
+IppStatus SIG5D_CDECL ippsTone_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq, Ipp64f*
+        pPhase, int hint);
+
+/* pDst[n] = magn * exp(i (2 pi rFreq n + phase)). A complex exponential, each part within 4 ulp of magn at every
+   n. The phase for the elements behind these is stored as ippsTone_Direct_64f does. hint is not looked at. */
+IppStatus SIG5D_CDECL ippsTone_Direct_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq, Ipp64f*
+        pPhase, int hint);
+
+/* pDst[n] = ct(2 pi rFreq n + phase). ct has the period 2 pi: from magn at 0 it falls linearly to -magn at pi +
+   asym and rises again to magn at 2 pi. With asym = -pi it has magn at 0 alone and rises from -magn. The phase for
+   the elements behind these is stored as ippsTone_Direct_64f does. NaN fails the checks. */
+IppStatus SIG5D_CDECL ippsTriangle_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq, Ipp64f
+        asym, Ipp64f* pPhase);
+
+/* pDst[n] = ct(2 pi rFreq n + phase) + i ct(2 pi rFreq n + phase - (pi - asym)/2). The wave of
+   ippsTriangle_Direct_64f, and in the imaginary part the same wave later by half its rise: with phase 0 it begins
+   at 0, rising. */
+IppStatus SIG5D_CDECL ippsTriangle_Direct_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq,
+        Ipp64f asym, Ipp64f* pPhase);
+
+/* ---- IIR filters ---- */
+
+/* The bytes of a buffer for the state of a filter of that order N. */
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_64f(int order, int* pBufferSize);
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_64fc(int order, int* pBufferSize);
+
+/* The bytes of a buffer for the state of a cascade of B = numBq sections of second order. */
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_BiQuad_64f(int numBq, int* pBufferSize);
+IppStatus SIG5D_STDCALL ippsIIRGetStateSize_BiQuad_64fc(int numBq, int* pBufferSize);
+
+/* Builds the state of a filter in the buffer, at its first multiple of 32 bytes, and stores where that is. The
+   taps are b0 to bN, then a0 to aN. The delay line is copied, or starts with zeros where it is null. */
+IppStatus SIG5D_STDCALL ippsIIRInit_64f(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int order, const Ipp64f*
+        pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_64f_Idx(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int tapsIdx, int order,
+        const Ipp64f* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+IppStatus SIG5D_STDCALL ippsIIRInit_64fc(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int order, const Ipp64fc*
+        pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_64fc_Idx(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int tapsIdx, int order,
+        const Ipp64fc* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+
+/* Builds the state of a cascade in the buffer, as ippsIIRInit does. The taps are b0 b1 b2 a0 a1 a2 of each
+   section, the delay line d0 d1 of each. */
+IppStatus SIG5D_STDCALL ippsIIRInit_BiQuad_64f(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int numBq, const
+        Ipp64f* pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_BiQuad_64f_Idx(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int tapsIdx, int
+        numBq, const Ipp64f* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+IppStatus SIG5D_STDCALL ippsIIRInit_BiQuad_64fc(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int numBq, const
+        Ipp64fc* pDlyLine, Ipp8u* pBuf);
+IppStatus SIG5D_CDECL ippsIIRInit_BiQuad_64fc_Idx(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int tapsIdx, int
+        numBq, const Ipp64fc* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
+
+/* a0*y[n] = sum over k = 0..N of b[k]*x[n-k] - sum over k = 1..N of a[k]*y[n-k]. Filters the next len samples of
+   the stream that the state carries from call to call: several calls give what one over all the samples gives, to
+   the bit. */
+IppStatus SIG5D_STDCALL ippsIIR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, IppsIIRState_64f* pState);
+IppStatus SIG5D_CDECL ippsIIR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        IppsIIRState_64f* pState);
+IppStatus SIG5D_STDCALL ippsIIR_64f_I(Ipp64f* pSrcDst, int len, IppsIIRState_64f* pState);
+IppStatus SIG5D_CDECL ippsIIR_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, IppsIIRState_64f* pState);
+IppStatus SIG5D_STDCALL ippsIIR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, IppsIIRState_64fc* pState);
+IppStatus SIG5D_CDECL ippsIIR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        IppsIIRState_64fc* pState);
+IppStatus SIG5D_STDCALL ippsIIR_64fc_I(Ipp64fc* pSrcDst, int len, IppsIIRState_64fc* pState);
+IppStatus SIG5D_CDECL ippsIIR_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, IppsIIRState_64fc* pState);
+
+/* Filters one sample: ippsIIR with len 1. */
+IppStatus SIG5D_CDECL ippsIIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, IppsIIRState_64f* pState);
+IppStatus SIG5D_CDECL ippsIIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, IppsIIRState_64fc* pState);
+
 /* ---- Random numbers ---- */
 
 /* The bytes of a state for ippsRandUniform: 64 for 64f, 56 for 16s and 8u. */
@@ -2172,200 +2274,7 @@ IppStatus SIG5D_CDECL ippsRandUniform_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, i
    pSeed, which is not changed: a second call gives them again. */
 IppStatus SIG5D_CDECL ippsRandGauss_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f mean, Ipp64f stdDev,
         const unsigned int* pSeed);
-/* ---- IIR filters ---- */
 
-/* The bytes of a buffer for the state of a filter of that order N. */
-IppStatus SIG5D_STDCALL ippsIIRGetStateSize_64f(int order, int* pBufferSize);
-IppStatus SIG5D_STDCALL ippsIIRGetStateSize_64fc(int order, int* pBufferSize);
-
-/* The bytes of a buffer for the state of a cascade of B = numBq sections of second order. */
-IppStatus SIG5D_STDCALL ippsIIRGetStateSize_BiQuad_64f(int numBq, int* pBufferSize);
-IppStatus SIG5D_STDCALL ippsIIRGetStateSize_BiQuad_64fc(int numBq, int* pBufferSize);
-
-/* Builds the state of a filter in the buffer, at its first multiple of 32 bytes, and stores where that is. The
-   taps are b0 to bN, then a0 to aN. The delay line is copied, or starts with zeros where it is null. */
-IppStatus SIG5D_STDCALL ippsIIRInit_64f(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int order, const Ipp64f*
-        pDlyLine, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsIIRInit_64f_Idx(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int tapsIdx, int order,
-        const Ipp64f* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
-IppStatus SIG5D_STDCALL ippsIIRInit_64fc(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int order, const Ipp64fc*
-        pDlyLine, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsIIRInit_64fc_Idx(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int tapsIdx, int order,
-        const Ipp64fc* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
-
-/* Builds the state of a cascade in the buffer, as ippsIIRInit does. The taps are b0 b1 b2 a0 a1 a2 of each
-   section, the delay line d0 d1 of each. */
-IppStatus SIG5D_STDCALL ippsIIRInit_BiQuad_64f(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int numBq, const
-        Ipp64f* pDlyLine, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsIIRInit_BiQuad_64f_Idx(IppsIIRState_64f** ppState, const Ipp64f* pTaps, int tapsIdx, int
-        numBq, const Ipp64f* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
-IppStatus SIG5D_STDCALL ippsIIRInit_BiQuad_64fc(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int numBq, const
-        Ipp64fc* pDlyLine, Ipp8u* pBuf);
-IppStatus SIG5D_CDECL ippsIIRInit_BiQuad_64fc_Idx(IppsIIRState_64fc** ppState, const Ipp64fc* pTaps, int tapsIdx, int
-        numBq, const Ipp64fc* pDlyLine, int dlyLineIdx, Ipp8u* pBuf, int bufIdx);
-
-/* a0*y[n] = sum over k = 0..N of b[k]*x[n-k] - sum over k = 1..N of a[k]*y[n-k]. Filters the next len samples of
-   the stream that the state carries from call to call: several calls give what one over all the samples gives, to
-   the bit. */
-IppStatus SIG5D_STDCALL ippsIIR_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, IppsIIRState_64f* pState);
-IppStatus SIG5D_CDECL ippsIIR_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
-        IppsIIRState_64f* pState);
-IppStatus SIG5D_STDCALL ippsIIR_64f_I(Ipp64f* pSrcDst, int len, IppsIIRState_64f* pState);
-IppStatus SIG5D_CDECL ippsIIR_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, IppsIIRState_64f* pState);
-IppStatus SIG5D_STDCALL ippsIIR_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, IppsIIRState_64fc* pState);
-IppStatus SIG5D_CDECL ippsIIR_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
-        IppsIIRState_64fc* pState);
-IppStatus SIG5D_STDCALL ippsIIR_64fc_I(Ipp64fc* pSrcDst, int len, IppsIIRState_64fc* pState);
-IppStatus SIG5D_CDECL ippsIIR_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, IppsIIRState_64fc* pState);
-
-/* Filters one sample: ippsIIR with len 1. */
-IppStatus SIG5D_CDECL ippsIIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, IppsIIRState_64f* pState);
-IppStatus SIG5D_CDECL ippsIIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, IppsIIRState_64fc* pState);
-/* ---- Signal generators ---- */
-
-/* pDst[n] = offset + slope * n. Every element is computed from its index, as a product and a sum in double
-   precision, each rounded; single precision rounds once more. */
-IppStatus SIG5D_STDCALL ippsVectorSlope_64f(Ipp64f* pDst, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_CDECL ippsVectorSlope_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_STDCALL ippsVectorSlope_32f(Ipp32f* pDst, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_CDECL ippsVectorSlope_32f_Idx(Ipp32f* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
-
-/* pDst[n] = nearest integer to offset + slope * n. Every element is computed from its index, as a product and a
-   sum in double precision, each rounded. Ties go to the even integer, what is beyond the type's limits to the
-   nearer of them, NaN to the lower one. */
-IppStatus SIG5D_STDCALL ippsVectorSlope_32s(Ipp32s* pDst, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_CDECL ippsVectorSlope_32s_Idx(Ipp32s* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_STDCALL ippsVectorSlope_16s(Ipp16s* pDst, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_CDECL ippsVectorSlope_16s_Idx(Ipp16s* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_STDCALL ippsVectorSlope_8u(Ipp8u* pDst, int len, Ipp64f offset, Ipp64f slope);
-IppStatus SIG5D_CDECL ippsVectorSlope_8u_Idx(Ipp8u* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
-
-/* pDst[n] = magn * sin(pi/2 * n*n / len). A sine whose frequency rises evenly, from 0 to a quarter of the
-   elements' rate. */
-IppStatus SIG5D_STDCALL ippsVectorJaehne_64f(Ipp64f* pDst, int len, Ipp64f magn);
-IppStatus SIG5D_CDECL ippsVectorJaehne_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f magn);
-
-/* pDst[n] = nearest integer to magn * sin(pi/2 * n*n / len). What ippsVectorJaehne_64f gives with the same magn,
-   rounded to the nearest integer, ties to the even one, and limited to the type. */
-IppStatus SIG5D_STDCALL ippsVectorJaehne_32s(Ipp32s* pDst, int len, Ipp32s magn);
-IppStatus SIG5D_CDECL ippsVectorJaehne_32s_Idx(Ipp32s* pDst, int dstIdx, int len, Ipp32s magn);
-
-/* pDst[n] = magn * cos(2 pi rFreq n + phase). A cosine by recurrence: y[0] and y[1] by cosines, y[n] = 2c y[n-1] -
-   y[n-2] for n = 2 and 3, then y[n] = (4c*c - 2) y[n-2] - y[n-4], with c = cos(2 pi rFreq). The phase for the
-   elements behind these is stored in its place. hint is not looked at. */
-IppStatus SIG5D_CDECL ippsTone_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq, Ipp64f*
-        pPhase, int hint);
-
-/* pDst[n] = magn * exp(i (2 pi rFreq n + phase)). A complex exponential, each part within 4 ulp of magn at every
-   n. The phase for the elements behind these is stored as ippsTone_Direct_64f does. hint is not looked at. */
-IppStatus SIG5D_CDECL ippsTone_Direct_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq, Ipp64f*
-        pPhase, int hint);
-
-/* pDst[n] = ct(2 pi rFreq n + phase). ct has the period 2 pi: from magn at 0 it falls linearly to -magn at pi +
-   asym and rises again to magn at 2 pi. With asym = -pi it has magn at 0 alone and rises from -magn. The phase for
-   the elements behind these is stored as ippsTone_Direct_64f does. NaN fails the checks. */
-IppStatus SIG5D_CDECL ippsTriangle_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq, Ipp64f
-        asym, Ipp64f* pPhase);
-
-/* pDst[n] = ct(2 pi rFreq n + phase) + i ct(2 pi rFreq n + phase - (pi - asym)/2). The wave of
-   ippsTriangle_Direct_64f, and in the imaginary part the same wave later by half its rise: with phase 0 it begins
-   at 0, rising. */
-IppStatus SIG5D_CDECL ippsTriangle_Direct_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq,
-        Ipp64f asym, Ipp64f* pPhase);
-
-/* ---- Windows ---- */
-
-/* pDst[n] = pSrc[n] * w[n], w[0] = 0, w[n] = w[n-1] + 2/(len-1) up to the middle, w[len-1-n] = w[n]; in place
-   pSrcDst[n] = pSrcDst[n] * w[n], w[0] = 0, w[n] = w[n-1] + 2/(len-1) up to the middle, w[len-1-n] = w[n]. The
-   triangle. Its weights are that running sum, every step rounded. Of an odd number of elements the middle one is
-   copied; with len = 3 the outer ones become 0. */
-IppStatus SIG5D_STDCALL ippsWinBartlett_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinBartlett_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinBartlett_64f_I(Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinBartlett_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinBartlett_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinBartlett_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinBartlett_64fc_I(Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinBartlett_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-
-/* pDst[n] = pSrc[n] * w[n], w[n] = 0.5 - 0.5 * cos(2 pi n/(len-1)); in place pSrcDst[n] = pSrcDst[n] * w[n], w[n]
-   = 0.5 - 0.5 * cos(2 pi n/(len-1)). The raised cosine, whose first and last weight are 0. Of an odd number of
-   elements the middle one, whose weight is 1, is copied. */
-IppStatus SIG5D_STDCALL ippsWinHann_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinHann_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinHann_64f_I(Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinHann_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinHann_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinHann_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinHann_64fc_I(Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinHann_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-
-/* pDst[n] = pSrc[n] * w[n], w[n] = 0.54 - 0.46 * cos(2 pi n/(len-1)); in place pSrcDst[n] = pSrcDst[n] * w[n],
-   w[n] = 0.54 - 0.46 * cos(2 pi n/(len-1)). The raised cosine on a pedestal, whose first and last weight are 0.08.
-   Of an odd number of elements the middle one, whose weight is 1, is copied. */
-IppStatus SIG5D_STDCALL ippsWinHamming_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinHamming_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinHamming_64f_I(Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinHamming_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinHamming_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinHamming_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinHamming_64fc_I(Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinHamming_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-
-/* pDst[n] = pSrc[n] * w[n], w[n] = (alpha+1)/2 - 0.5 * cos(2 pi n/(len-1)) - alpha/2 * cos(4 pi n/(len-1)); in
-   place pSrcDst[n] = pSrcDst[n] * w[n], w[n] = (alpha+1)/2 - 0.5 * cos(2 pi n/(len-1)) - alpha/2 * cos(4 pi
-   n/(len-1)). A sum of two cosines. With len = 3 the middle element is copied and the outer ones become 0. */
-IppStatus SIG5D_STDCALL ippsWinBlackman_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinBlackman_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
-        Ipp64f alpha);
-IppStatus SIG5D_STDCALL ippsWinBlackman_64f_I(Ipp64f* pSrcDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinBlackman_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
-IppStatus SIG5D_STDCALL ippsWinBlackman_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinBlackman_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
-        Ipp64f alpha);
-IppStatus SIG5D_STDCALL ippsWinBlackman_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinBlackman_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
-
-/* pDst[n] = pSrc[n] * w[n], w[n] = 0.42 - 0.5 * cos(2 pi n/(len-1)) + 0.08 * cos(4 pi n/(len-1)); in place
-   pSrcDst[n] = pSrcDst[n] * w[n], w[n] = 0.42 - 0.5 * cos(2 pi n/(len-1)) + 0.08 * cos(4 pi n/(len-1)).
-   ippsWinBlackman with alpha = -0.16. */
-IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanStd_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64f_I(Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanStd_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanStd_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
-        len);
-IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64fc_I(Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanStd_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-
-/* pDst[n] = pSrc[n] * w[n], w as of ippsWinBlackman with alpha = -(0.5 / cos(pi/(len-1)))^2; in place pSrcDst[n] =
-   pSrcDst[n] * w[n], w as of ippsWinBlackman with alpha = -(0.5 / cos(pi/(len-1)))^2. The alpha with which the
-   side lobes of ippsWinBlackman fall fastest. The length is looked at before the pointers. */
-IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64f_I(Ipp64f* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
-IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
-        len);
-IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64fc_I(Ipp64fc* pSrcDst, int len);
-IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
-
-/* pDst[n] = pSrc[n] * I0(|alpha| * sqrt(n * (len-1-n))) / I0(|alpha| * (len-1)/2); in place pSrcDst[n] =
-   pSrcDst[n] * I0(|alpha| * sqrt(n * (len-1-n))) / I0(|alpha| * (len-1)/2). The prolate spheroidal window's
-   approximation. The usual parameter beta is |alpha| * (len-1)/2. Of an odd number of elements the middle one,
-   whose weight is 1, is copied; with alpha = 0 all weights are 1. */
-IppStatus SIG5D_STDCALL ippsWinKaiser_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinKaiser_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
-        alpha);
-IppStatus SIG5D_STDCALL ippsWinKaiser_64f_I(Ipp64f* pSrcDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinKaiser_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
-IppStatus SIG5D_STDCALL ippsWinKaiser_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinKaiser_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
-        Ipp64f alpha);
-IppStatus SIG5D_STDCALL ippsWinKaiser_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f alpha);
-IppStatus SIG5D_CDECL ippsWinKaiser_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
 /* ---- Statistics and norms ---- */
 
 /* *pSum = pSrc[0] + ... + pSrc[len-1]. */
@@ -2562,6 +2471,100 @@ IppStatus SIG5D_STDCALL ippsCountInRange_32s(const Ipp32s* pSrc, int len, int* p
         upperBound);
 IppStatus SIG5D_CDECL ippsCountInRange_32s_Idx(const Ipp32s* pSrc, int srcIdx, int len, int* pCounts, Ipp32s
         lowerBound, Ipp32s upperBound);
+
+/* ---- Windows ---- */
+
+/* pDst[n] = pSrc[n] * w[n], w[0] = 0, w[n] = w[n-1] + 2/(len-1) up to the middle, w[len-1-n] = w[n]; in place
+   pSrcDst[n] = pSrcDst[n] * w[n], w[0] = 0, w[n] = w[n-1] + 2/(len-1) up to the middle, w[len-1-n] = w[n]. The
+   triangle. Its weights are that running sum, every step rounded. Of an odd number of elements the middle one is
+   copied; with len = 3 the outer ones become 0. */
+IppStatus SIG5D_STDCALL ippsWinBartlett_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinBartlett_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinBartlett_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinBartlett_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinBartlett_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinBartlett_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinBartlett_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinBartlett_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[n] = pSrc[n] * w[n], w[n] = 0.5 - 0.5 * cos(2 pi n/(len-1)); in place pSrcDst[n] = pSrcDst[n] * w[n], w[n]
+   = 0.5 - 0.5 * cos(2 pi n/(len-1)). The raised cosine, whose first and last weight are 0. Of an odd number of
+   elements the middle one, whose weight is 1, is copied. */
+IppStatus SIG5D_STDCALL ippsWinHann_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinHann_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinHann_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinHann_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinHann_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinHann_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinHann_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinHann_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[n] = pSrc[n] * w[n], w[n] = 0.54 - 0.46 * cos(2 pi n/(len-1)); in place pSrcDst[n] = pSrcDst[n] * w[n],
+   w[n] = 0.54 - 0.46 * cos(2 pi n/(len-1)). The raised cosine on a pedestal, whose first and last weight are 0.08.
+   Of an odd number of elements the middle one, whose weight is 1, is copied. */
+IppStatus SIG5D_STDCALL ippsWinHamming_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinHamming_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinHamming_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinHamming_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinHamming_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinHamming_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinHamming_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinHamming_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[n] = pSrc[n] * w[n], w[n] = (alpha+1)/2 - 0.5 * cos(2 pi n/(len-1)) - alpha/2 * cos(4 pi n/(len-1)); in
+   place pSrcDst[n] = pSrcDst[n] * w[n], w[n] = (alpha+1)/2 - 0.5 * cos(2 pi n/(len-1)) - alpha/2 * cos(4 pi
+   n/(len-1)). A sum of two cosines. With len = 3 the middle element is copied and the outer ones become 0. */
+IppStatus SIG5D_STDCALL ippsWinBlackman_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinBlackman_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        Ipp64f alpha);
+IppStatus SIG5D_STDCALL ippsWinBlackman_64f_I(Ipp64f* pSrcDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinBlackman_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
+IppStatus SIG5D_STDCALL ippsWinBlackman_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinBlackman_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f alpha);
+IppStatus SIG5D_STDCALL ippsWinBlackman_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinBlackman_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
+
+/* pDst[n] = pSrc[n] * w[n], w[n] = 0.42 - 0.5 * cos(2 pi n/(len-1)) + 0.08 * cos(4 pi n/(len-1)); in place
+   pSrcDst[n] = pSrcDst[n] * w[n], w[n] = 0.42 - 0.5 * cos(2 pi n/(len-1)) + 0.08 * cos(4 pi n/(len-1)).
+   ippsWinBlackman with alpha = -0.16. */
+IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanStd_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanStd_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanStd_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len);
+IppStatus SIG5D_STDCALL ippsWinBlackmanStd_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanStd_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[n] = pSrc[n] * w[n], w as of ippsWinBlackman with alpha = -(0.5 / cos(pi/(len-1)))^2; in place pSrcDst[n] =
+   pSrcDst[n] * w[n], w as of ippsWinBlackman with alpha = -(0.5 / cos(pi/(len-1)))^2. The alpha with which the
+   side lobes of ippsWinBlackman fall fastest. The length is looked at before the pointers. */
+IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64f_I(Ipp64f* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
+IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int
+        len);
+IppStatus SIG5D_STDCALL ippsWinBlackmanOpt_64fc_I(Ipp64fc* pSrcDst, int len);
+IppStatus SIG5D_CDECL ippsWinBlackmanOpt_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len);
+
+/* pDst[n] = pSrc[n] * I0(|alpha| * sqrt(n * (len-1-n))) / I0(|alpha| * (len-1)/2); in place pSrcDst[n] =
+   pSrcDst[n] * I0(|alpha| * sqrt(n * (len-1-n))) / I0(|alpha| * (len-1)/2). The prolate spheroidal window's
+   approximation. The usual parameter beta is |alpha| * (len-1)/2. Of an odd number of elements the middle one,
+   whose weight is 1, is copied; with alpha = 0 all weights are 1. */
+IppStatus SIG5D_STDCALL ippsWinKaiser_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinKaiser_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len, Ipp64f
+        alpha);
+IppStatus SIG5D_STDCALL ippsWinKaiser_64f_I(Ipp64f* pSrcDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinKaiser_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
+IppStatus SIG5D_STDCALL ippsWinKaiser_64fc(const Ipp64fc* pSrc, Ipp64fc* pDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinKaiser_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, Ipp64fc* pDst, int dstIdx, int len,
+        Ipp64f alpha);
+IppStatus SIG5D_STDCALL ippsWinKaiser_64fc_I(Ipp64fc* pSrcDst, int len, Ipp64f alpha);
+IppStatus SIG5D_CDECL ippsWinKaiser_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int len, Ipp64f alpha);
 
 /* ---- Integer conversions and byte statistics ---- */
 
