@@ -1,5 +1,6 @@
 sig5d_test(fir signal/processing/fir/single_test.cpp signal/processing/fir/multi_test.cpp frame/fir_handles_test.cpp
            support/heap.cpp)
+sig5d_test(companding signal/processing/companding/companding_test.cpp)
 sig5d_test(random signal/processing/generators/random_test.cpp)
 
 # The transforms of each body, which no export shows.
