@@ -2153,8 +2153,8 @@ IppStatus SIG5D_STDCALL ippsVectorSlope_32f(Ipp32f* pDst, int len, Ipp64f offset
 IppStatus SIG5D_CDECL ippsVectorSlope_32f_Idx(Ipp32f* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
 
 /* pDst[n] = nearest integer to offset + slope * n. Every element is computed from its index, as a product and a
-   sum in double precision, each rounded. Ties go to the even integer, what is beyond the type's limits to the
-   nearer of them, NaN to the lower one. */
+   sum in double precision, each rounded. Ties go to the even integer, in every rounding mode; what is beyond the
+   type's limits to the nearer of them, NaN to the lower one. */
 IppStatus SIG5D_STDCALL ippsVectorSlope_32s(Ipp32s* pDst, int len, Ipp64f offset, Ipp64f slope);
 IppStatus SIG5D_CDECL ippsVectorSlope_32s_Idx(Ipp32s* pDst, int dstIdx, int len, Ipp64f offset, Ipp64f slope);
 IppStatus SIG5D_STDCALL ippsVectorSlope_16s(Ipp16s* pDst, int len, Ipp64f offset, Ipp64f slope);
@@ -2168,7 +2168,7 @@ IppStatus SIG5D_STDCALL ippsVectorJaehne_64f(Ipp64f* pDst, int len, Ipp64f magn)
 IppStatus SIG5D_CDECL ippsVectorJaehne_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f magn);
 
 /* pDst[n] = nearest integer to magn * sin(pi/2 * n*n / len). What ippsVectorJaehne_64f gives with the same magn,
-   rounded to the nearest integer, ties to the even one, and limited to the type. */
+   rounded to the nearest integer, ties to the even one, and limited to the type; the same in every rounding mode. */
 IppStatus SIG5D_STDCALL ippsVectorJaehne_32s(Ipp32s* pDst, int len, Ipp32s magn);
 IppStatus SIG5D_CDECL ippsVectorJaehne_32s_Idx(Ipp32s* pDst, int dstIdx, int len, Ipp32s magn);
 

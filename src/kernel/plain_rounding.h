@@ -45,5 +45,24 @@ template <class Bounds> inline i32 rounded(f64 x, Scale scale, int mode)
 // The processor rounds to the nearest, ties to even.
 inline bool rounds_to_nearest() { return (_mm_getcsr() & _MM_ROUND_MASK) == _MM_ROUND_NEAREST; }
 
+// The processor rounds to the nearest as long as this lives, for integer results of many operations, which are to
+// depend on no mode. What is computed meanwhile stands in a function that is not inlined: the compiler does not know
+// that it depends on this.
+class NearestMode
+{
+public:
+    NearestMode() : direction_(_mm_getcsr() & _MM_ROUND_MASK)
+    {
+        if (direction_ != _MM_ROUND_NEAREST) _mm_setcsr(_mm_getcsr() & ~static_cast<u32>(_MM_ROUND_MASK));
+    }
+    ~NearestMode()
+    {
+        if (direction_ != _MM_ROUND_NEAREST) _mm_setcsr(_mm_getcsr() | direction_);
+    }
+
+private:
+    u32 direction_;
+};
+
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

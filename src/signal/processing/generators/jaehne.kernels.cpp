@@ -10,23 +10,6 @@ namespace {
 
 [[gnu::noinline]] void stretch(f64* d, size_t n, const Jaehne& signal) { generate(d, n, signal); }
 
-// The processor rounds to the nearest as long as this lives: what is made of integers depends on no mode.
-class NearestMode
-{
-public:
-    NearestMode() : direction_(_mm_getcsr() & _MM_ROUND_MASK)
-    {
-        if (direction_ != _MM_ROUND_NEAREST) _mm_setcsr(_mm_getcsr() & ~static_cast<u32>(_MM_ROUND_MASK));
-    }
-    ~NearestMode()
-    {
-        if (direction_ != _MM_ROUND_NEAREST) _mm_setcsr(_mm_getcsr() | direction_);
-    }
-
-private:
-    u32 direction_;
-};
-
 void to_integers(const f64* a, i32* d, size_t n)
 {
     using Whole = Limits<32, true>;

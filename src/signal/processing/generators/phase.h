@@ -7,7 +7,7 @@ namespace {
 
 constexpr f64 fullTurn = 6.283185307179586, turnsEach = 0.15915494309189535; // a radian
 
-// high + low, less some whole number, whose low bits are in "whole"; |high| <= 1, |low| is very small.
+// A number less the nearest whole one, or nearly, whose low bits are in "whole": high + low, where |low| < 2^-8.
 template <class V> struct Fraction {
     V high, low;
     typename BitsOf<V>::type whole;

@@ -61,17 +61,25 @@ template <class Shape, class D> inline void draw(D* d, int n, Line line)
     map<Shape>(static_cast<size_t>(n), d, Same{}, Points<D>{indexes<1>(), line});
 }
 
-template <class D> [[gnu::noinline]] void vector_slope(D* d, int n, f64 offset, f64 slope)
+template <class D> [[gnu::noinline]] void draw_integers(D* d, int n, Line line)
+{
+    if constexpr (vectorBytes > 0) { // 16 bytes at a time, since that is how doubles become integers
+        draw<InFlight<2, false, 16>>(d, n, line);
+    } else {
+        const Scale one(0);
+        for (int i = 0; i < n; ++i)
+            d[i] = static_cast<D>(rounded<LimitsOf<D>>(line(static_cast<f64>(i)), one, NearestEven));
+    }
+}
+
+template <class D> void vector_slope(D* d, int n, f64 offset, f64 slope)
 {
     const Line line{offset, slope};
     if constexpr (std::is_floating_point_v<D>) {
         draw<std::conditional_t<sizeof(D) == sizeof(f64), Light, Medium>>(d, n, line);
     } else {
-        if constexpr (vectorBytes > 0) // 16 bytes at a time, since that is how doubles become integers
-            if (rounds_to_nearest()) return draw<InFlight<2, false, 16>>(d, n, line);
-        const Scale one(0);
-        for (int i = 0; i < n; ++i)
-            d[i] = static_cast<D>(rounded<LimitsOf<D>>(line(static_cast<f64>(i)), one, NearestEven));
+        const NearestMode mode;
+        draw_integers(d, n, line);
     }
 }
 

@@ -8,25 +8,38 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// By recurrence: two samples from cosines, two from one step, then each from those two and four before it.
+// Each sample from those two and four before it: as many steps as registers need to change no places, since moves from
+// one to another would be part of the chain that is waited for.
+inline void continue_tone(f64* d, int n, f64 factor, f64 a, f64 b, f64 even, f64 odd)
+{
+    int i = 0;
+    for (; i + 4 <= n; i += 4) {
+        a = factor * even - a;
+        b = factor * odd - b;
+        asm("" : "+x"(a), "+x"(b)); // not as a pair, which takes longer
+        d[i] = a;
+        d[i + 1] = b;
+        even = factor * a - even;
+        odd = factor * b - odd;
+        asm("" : "+x"(even), "+x"(odd));
+        d[i + 2] = even;
+        d[i + 3] = odd;
+    }
+    if (i < n) d[i] = a = factor * even - a;
+    if (i + 1 < n) d[i + 1] = factor * odd - b;
+    if (i + 2 < n) d[i + 2] = factor * a - even;
+}
+
+// Two samples from cosines, two from one step of recurrence, the others from two steps at a time.
 void tone(f64* d, int n, f64 magn, f64 frequency, f64* pPhase, int)
 {
-    const f64 phase = *pPhase, step = fullTurn * frequency, cosine = libm::cos(step), twice = 2.0 * cosine,
-              twiceOfDouble = 4.0 * (cosine * cosine) - 2.0;
+    const f64 phase = *pPhase, step = fullTurn * frequency, cosine = libm::cos(step), twice = 2.0 * cosine;
     *pPhase = advanced(phase, n, frequency);
-    f64 a = magn * libm::cos(phase), b = magn * libm::cos(step + phase), even = twice * b - a, odd = twice * even - b;
-    const f64 first[] = {a, b, even, odd};
-    for (int i = 0; i < n && i < 4; ++i) d[i] = first[i];
-    for (int i = 4; i < n; i += 2) {
-        const f64 nextEven = twiceOfDouble * even - a, nextOdd = twiceOfDouble * odd - b;
-        a = even;
-        b = odd;
-        even = nextEven;
-        odd = nextOdd;
-        asm("" : "+x"(even), "+x"(odd)); // in registers of their own: to make pairs of them takes longer
-        d[i] = even;
-        if (i + 1 < n) d[i + 1] = odd;
-    }
+    d[0] = magn * libm::cos(phase);
+    if (n > 1) d[1] = magn * libm::cos(step + phase);
+    if (n > 2) d[2] = twice * d[1] - d[0];
+    if (n > 3) d[3] = twice * d[2] - d[1];
+    if (n > 4) continue_tone(d + 4, n - 4, 4.0 * (cosine * cosine) - 2.0, d[0], d[1], d[2], d[3]);
 }
 
 constexpr size_t startsAtOnce = 16, longestBlock = 64;

@@ -22,6 +22,7 @@ template <size_t first, class V, size_t... i> inline V doubled_lanes(V v, std::i
 inline f64 weighted(f64 x, f64 w) { return x * w; }
 inline c64f weighted(c64f x, f64 w) { return {x.re * w, x.im * w}; }
 
+// Weights that stand in memory.
 struct StoredWeights {
     const f64* w;
     Vec<f64> at(size_t k) const { return load(w + k); }

@@ -1,5 +1,4 @@
-// Weights mean - a1 cos t - a2 cos 2t with t = 2 pi i / (n - 1), each within 0.6 units of the last place or of 2^-53 of
-// the amplitudes.
+// Weights mean - a1 cos t - a2 cos 2t with t = 2 pi i / (n - 1), each within 2^-52 (1 + |2 a2|) of that, at any length.
 //
 // In blocks: the weight at the block's start s is computed in twice the precision, and those behind it are
 //     w(s + k) = w(s) + sum of a_h ((1 - cos h t_k) cos h t_s + sin h t_k sin h t_s),
