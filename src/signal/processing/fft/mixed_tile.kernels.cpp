@@ -23,8 +23,8 @@ SIG5D_INLINE Value minusTurned(Value a, Value b) { return {a.re + b.im, a.im - b
 SIG5D_INLINE Value plusTurned(Value a, Value b) { return {a.re - b.im, a.im + b.re}; }  // a + i b
 
 // A transform of r values, by halves: the real parts of its results come of the sums of real parts and the differences
-// of imaginary ones of mirror images, k and r - k; imaginary parts the other way round, with the signs that exchange
-// the two. So few values are under way at a time that eight registers do.
+// of imaginary ones of mirror images, j and r - j; imaginary parts the other way round, with the signs that exchange
+// results k and r - k.
 //   result[k] = sum over j of p[j] cos(2 pi j k / r) + q[j] sin(2 pi j k / r)
 template <int r> SIG5D_INLINE void half(const Vector* p, const Vector* q, Vector* result)
 {
