@@ -1,5 +1,6 @@
 // Every status of every function: the first failing check decides, and a failure leaves no trace but where the
 // description says that it may.
+#include "states.h"
 #include "support/stage.h"
 #include <algorithm>
 #include <cstring>
@@ -32,6 +33,7 @@ void spoil(Arguments& a, registry::Random& random)
             a.values[i].p = nullptr;
         }
     }
+    registry::askAgain(a.f, a.values);
 }
 
 int firstFailing(const Arguments& a)

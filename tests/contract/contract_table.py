@@ -86,7 +86,7 @@ def delay(spec):
 CALLS = {f.__name__: f for f in (at, block, lower, upper, reach, bytes_of, words_of, delay, max, min)}
 # Properties of filters and transforms. The lengths are apart by one, so that a rounding that is off by one shows.
 SPECS = [
-    SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down, len=taps, bufSize=64)
+    SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down, len=taps, specBufSize=64, bufSize=64)
     for taps, up, down in ((36, 3, 5), (37, 3, 5), (38, 3, 5), (1, 7, 2), (9, 1, 1))
 ]
 

@@ -1,6 +1,7 @@
 // Calls of all functions that the registry describes: any scalars, lengths, values, places, null pointers. A refused
 // call answers with its first failing check and writes nothing; any other equals px bit for bit, in guarded memory.
 #include "fuzz.h"
+#include "states.h"
 #include "support/stage.h"
 #include <algorithm>
 
@@ -64,6 +65,7 @@ void spoil(Arguments& a, Input& in)
             a.null[static_cast<size_t>(i)] = true;
         }
     }
+    registry::askAgain(a.f, a.values);
 }
 
 // Arrays as long as the scalars now say; false where that is too long or more than the scalars decide, and where

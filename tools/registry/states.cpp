@@ -55,6 +55,16 @@ bool ask(const Query& query, std::vector<Value>& values)
     return true;
 }
 
+void askAgain(const Function& f, std::vector<Value>& values)
+{
+    for (int i = 0; i < f.namedCount; ++i) {
+        const Query* const query = f.named[i].query;
+        if (!query || ask(*query, values)) continue;
+        for (int k = 0; k < query->argCount; ++k)
+            if (!query->args[k].value) values[static_cast<size_t>(query->args[k].named)].i = 0;
+    }
+}
+
 Made::Made(const Arguments& maker, const Room& room) : maker_(maker.f)
 {
     std::vector<Value> values = maker.values;

@@ -14,6 +14,9 @@ Answer call(const Function& f, const Value* values);
 // Asks for sizes and stores them among the values; false: the function that gives them refuses.
 bool ask(const Query& query, std::vector<Value>& values);
 
+// All sizes again, when scalars have changed: 0 where they are refused now.
+void askAgain(const Function& f, std::vector<Value>& values);
+
 // A state, made by a call of its maker, until it is released. What is not kept is overwritten after the call: a state
 // must hold copies.
 class Made

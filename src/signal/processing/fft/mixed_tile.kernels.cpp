@@ -22,63 +22,84 @@ SIG5D_INLINE Value times(Value a, Vector c) { return {a.re * c, a.im * c}; }
 SIG5D_INLINE Value minusTurned(Value a, Value b) { return {a.re + b.im, a.im - b.re}; } // a - i b
 SIG5D_INLINE Value plusTurned(Value a, Value b) { return {a.re - b.im, a.im + b.re}; }  // a + i b
 
-SIG5D_INLINE void four(Value& a, Value& b, Value& c, Value& d)
-{
-    const Value s0 = a + c, d0 = a - c, s1 = b + d, d1 = b - d;
-    a = s0 + s1;
-    b = minusTurned(d0, d1);
-    c = s0 - s1;
-    d = plusTurned(d0, d1);
-}
-
-// Transforms of r values, in natural order.
-template <int r> SIG5D_INLINE void butterfly(Value* v)
+// A transform of r values, by halves: the real parts of its results come of the sums of real parts and the differences
+// of imaginary ones of mirror images, j and r - j; imaginary parts the other way round, with the signs that exchange
+// results k and r - k.
+//   result[k] = sum over j of p[j] cos(2 pi j k / r) + q[j] sin(2 pi j k / r)
+template <int r> SIG5D_INLINE void half(const Vector* p, const Vector* q, Vector* result)
 {
     if constexpr (r == 2) {
-        const Value a = v[0];
-        v[0] = a + v[1];
-        v[1] = a - v[1];
+        result[0] = p[0] + p[1];
+        result[1] = p[0] - p[1];
     } else if constexpr (r == 3) {
-        const Value sum = v[1] + v[2], difference = times(v[1] - v[2], every(sinThird));
-        const Value middle = v[0] - times(sum, every(oneHalf));
-        v[0] = v[0] + sum;
-        v[1] = minusTurned(middle, difference);
-        v[2] = plusTurned(middle, difference);
+        const Vector sum = p[1] + p[2], odd = (q[1] - q[2]) * every(sinThird);
+        const Vector even = p[0] - sum * every(oneHalf);
+        result[0] = p[0] + sum;
+        result[1] = even + odd;
+        result[2] = even - odd;
     } else if constexpr (r == 4) {
-        four(v[0], v[1], v[2], v[3]);
+        const Vector s0 = p[0] + p[2], s1 = p[1] + p[3], even = p[0] - p[2], odd = q[1] - q[3];
+        result[0] = s0 + s1;
+        result[1] = even + odd;
+        result[2] = s0 - s1;
+        result[3] = even - odd;
     } else if constexpr (r == 5) {
-        const Value s1 = v[1] + v[4], s2 = v[2] + v[3], d1 = v[1] - v[4], d2 = v[2] - v[3], sum = s1 + s2;
-        const Value middle = v[0] - times(sum, every(oneQuarter)), spread = times(s1 - s2, every(rootQuarter));
-        const Value even1 = middle + spread, even2 = middle - spread;
-        const Vector s = every(sinFifth), t = every(sinTwoFifths);
-        const Value odd1 = times(d1, s) + times(d2, t), odd2 = times(d1, t) - times(d2, s);
-        v[0] = v[0] + sum;
-        v[1] = minusTurned(even1, odd1);
-        v[4] = plusTurned(even1, odd1);
-        v[2] = minusTurned(even2, odd2);
-        v[3] = plusTurned(even2, odd2);
-    } else if constexpr (r == 7) {
-        const Value s1 = v[1] + v[6], s2 = v[2] + v[5], s3 = v[3] + v[4];
-        const Value d1 = v[1] - v[6], d2 = v[2] - v[5], d3 = v[3] - v[4];
+        const Vector s1 = p[1] + p[4], s2 = p[2] + p[3], sum = s1 + s2;
+        const Vector middle = p[0] - sum * every(oneQuarter), spread = (s1 - s2) * every(rootQuarter);
+        result[0] = p[0] + sum;
+        const Vector d1 = q[1] - q[4], d2 = q[2] - q[3], s = every(sinFifth), t = every(sinTwoFifths);
+        const Vector even1 = middle + spread, even2 = middle - spread, odd1 = d1 * s + d2 * t, odd2 = d1 * t - d2 * s;
+        result[1] = even1 + odd1;
+        result[4] = even1 - odd1;
+        result[2] = even2 + odd2;
+        result[3] = even2 - odd2;
+    } else {
+        static_assert(r == 7);
+        const Vector s1 = p[1] + p[6], s2 = p[2] + p[5], s3 = p[3] + p[4];
         const Vector c1 = every(cosSevenths[0]), c2 = every(cosSevenths[1]), c3 = every(cosSevenths[2]);
-        const Value even1 = ((v[0] + times(s1, c1)) - times(s2, c2)) - times(s3, c3);
-        const Value even2 = ((v[0] - times(s1, c2)) - times(s2, c3)) + times(s3, c1);
-        const Value even3 = ((v[0] - times(s1, c3)) + times(s2, c1)) - times(s3, c2);
-        v[0] = v[0] + ((s1 + s2) + s3);
+        const Vector even1 = ((p[0] + s1 * c1) - s2 * c2) - s3 * c3;
+        const Vector even2 = ((p[0] - s1 * c2) - s2 * c3) + s3 * c1;
+        const Vector even3 = ((p[0] - s1 * c3) + s2 * c1) - s3 * c2;
+        result[0] = p[0] + ((s1 + s2) + s3);
+        const Vector d1 = q[1] - q[6], d2 = q[2] - q[5], d3 = q[3] - q[4];
         const Vector t1 = every(sinSevenths[0]), t2 = every(sinSevenths[1]), t3 = every(sinSevenths[2]);
-        const Value odd1 = (times(d1, t1) + times(d2, t2)) + times(d3, t3);
-        const Value odd2 = (times(d1, t2) - times(d2, t3)) - times(d3, t1);
-        const Value odd3 = (times(d1, t3) - times(d2, t1)) + times(d3, t2);
-        v[1] = minusTurned(even1, odd1);
-        v[6] = plusTurned(even1, odd1);
-        v[2] = minusTurned(even2, odd2);
-        v[5] = plusTurned(even2, odd2);
-        v[3] = minusTurned(even3, odd3);
-        v[4] = plusTurned(even3, odd3);
+        const Vector odd1 = (d1 * t1 + d2 * t2) + d3 * t3;
+        const Vector odd2 = (d1 * t2 - d2 * t3) - d3 * t1;
+        const Vector odd3 = (d1 * t3 - d2 * t1) + d3 * t2;
+        result[1] = even1 + odd1;
+        result[6] = even1 - odd1;
+        result[2] = even2 + odd2;
+        result[5] = even2 - odd2;
+        result[3] = even3 + odd3;
+        result[4] = even3 - odd3;
+    }
+}
+SIG5D_INLINE void four(Value* v, int apart)
+{
+    const Vector re[] = {v[0].re, v[apart].re, v[2 * apart].re, v[3 * apart].re};
+    const Vector im[] = {v[0].im, v[apart].im, v[2 * apart].im, v[3 * apart].im};
+    Vector x[4], y[4];
+    half<4>(re, im, x);
+    half<4>(im, re, y);
+    for (int k = 0; k < 4; ++k) v[k * apart] = {x[k], y[-k & 3]};
+}
+
+// In natural order.
+template <int r> SIG5D_INLINE void butterfly(Value* v)
+{
+    if constexpr (r < 8) {
+        Vector re[r], im[r], x[r], y[r];
+        for (int j = 0; j < r; ++j) {
+            re[j] = v[j].re;
+            im[j] = v[j].im;
+        }
+        half<r>(re, im, x);
+        half<r>(im, re, y);
+        for (int k = 0; k < r; ++k) v[k] = {x[k], y[k ? r - k : 0]};
     } else {
         static_assert(r == 8);
-        four(v[0], v[2], v[4], v[6]);
-        four(v[1], v[3], v[5], v[7]);
+        four(v, 2);
+        four(v + 1, 2);
         const Vector c = every(cosEighth);
         const Value one = {(v[3].re + v[3].im) * c, (v[3].im - v[3].re) * c};   // times exp(-i pi / 4)
         const Value three = {(v[7].re - v[7].im) * c, (v[7].re + v[7].im) * c}; // times -exp(-3 i pi / 4)
