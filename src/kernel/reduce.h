@@ -140,8 +140,7 @@ template <size_t half, size_t members> [[gnu::always_inline]] inline void join_a
 }
 
 // The sums of a block, 0 < n <= Op::block; of pairs n is even.
-template <class Op, class... A>
-[[gnu::always_inline]] inline Totals<Op> block_sums(size_t n, const Op& op, A... a)
+template <class Op, class... A> [[gnu::always_inline]] inline Totals<Op> block_sums(size_t n, const Op& op, A... a)
 {
     constexpr size_t all = Op::lanes;
     const size_t whole = n - n % all;
