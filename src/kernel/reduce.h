@@ -133,9 +133,11 @@ template <size_t half, size_t members> [[gnu::always_inline]] inline void join_a
         join_all<half / 2, members>(p);
     }
 }
-[[gnu::noinline]] inline void join_some(size_t n, size_t half, size_t members, f64* p)
+[[gnu::always_inline]] inline void join_some(size_t n, size_t half, size_t members, f64* p)
 {
+#pragma GCC unroll 1
     for (; half >= members; half /= 2)
+#pragma GCC unroll 1
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] += p[k + half];
 }
 
