@@ -27,16 +27,15 @@ const struct Work {
     Element element;
     double divisions, squareRoots, flops = 0;
 } works[] = {
-    {"ippsDiv", Element::f64, 1, 0},        {"ippsDiv", Element::c64f, 1, 0},    {"ippsDivCRev", Element::f64, 1, 0},
-    {"ippsSqrt", Element::f64, 0, 1},       {"ippsSqrt", Element::c64f, 2, 2},   {"ippsMagnitude", Element::f64, 0, 1},
-    {"ippsMagnitude", Element::c64f, 0, 1}, {"DivideValue", Element::f64, 1, 0}, {"DivideValue", Element::c64f, 1, 0},
-    {"DivideValuedc", Element::f64, 2, 0},  {"DivVeccd", Element::c64f, 2, 0},   {"DivVeccc", Element::c64f, 1, 0},
-    {"DivVecdc", Element::f64, 1, 0},
-    {"ippsNormalize", Element::f64, 1, 0},
-    {"ippsNormalize", Element::c64f, 2, 0},
-    {"ippsNorm_L1", Element::c64f, 0, 1},
-    {"ippsNormDiff_L1", Element::c64f, 0, 1},
-    {"ippsDotProd", Element::c64f, 0, 0, 8},
+    {"ippsDiv", Element::f64, 1, 0},           {"ippsDiv", Element::c64f, 1, 0},
+    {"ippsDivCRev", Element::f64, 1, 0},       {"ippsSqrt", Element::f64, 0, 1},
+    {"ippsSqrt", Element::c64f, 2, 2},         {"ippsMagnitude", Element::f64, 0, 1},
+    {"ippsMagnitude", Element::c64f, 0, 1},    {"DivideValue", Element::f64, 1, 0},
+    {"DivideValue", Element::c64f, 1, 0},      {"DivideValuedc", Element::f64, 2, 0},
+    {"DivVeccd", Element::c64f, 2, 0},         {"DivVeccc", Element::c64f, 1, 0},
+    {"DivVecdc", Element::f64, 1, 0},          {"ippsNormalize", Element::f64, 1, 0},
+    {"ippsNormalize", Element::c64f, 2, 0},    {"ippsNorm_L1", Element::c64f, 0, 1},
+    {"ippsNormDiff_L1", Element::c64f, 0, 1},  {"ippsDotProd", Element::c64f, 0, 0, 8},
     {"ippsStdDev", Element::f64, 0, 0, 4}, // a sum, and squares of distances from the mean
     {"ippsMeanStdDev", Element::f64, 0, 0, 4},
 };

@@ -133,15 +133,16 @@ template <size_t half, size_t members> [[gnu::always_inline]] inline void join_a
         join_all<half / 2, members>(p);
     }
 }
-[[gnu::noinline]] inline void join_some(size_t n, size_t half, size_t members, f64* p)
+[[gnu::always_inline]] inline void join_some(size_t n, size_t half, size_t members, f64* p)
 {
+#pragma GCC unroll 1
     for (; half >= members; half /= 2)
+#pragma GCC unroll 1
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] += p[k + half];
 }
 
 // The sums of a block, 0 < n <= Op::block; of pairs n is even.
-template <class Op, class... A>
-[[gnu::always_inline]] inline Totals<Op> block_sums(size_t n, const Op& op, A... a)
+template <class Op, class... A> [[gnu::always_inline]] inline Totals<Op> block_sums(size_t n, const Op& op, A... a)
 {
     constexpr size_t all = Op::lanes;
     const size_t whole = n - n % all;

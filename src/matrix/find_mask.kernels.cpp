@@ -91,9 +91,10 @@ void count_greater(const f64* x, f64 value, u32* count, u32 n)
 {
     size_t left = n;
     u32 found = 0;
-    if constexpr (lanes<f64> > 1) {
+    if constexpr (lanes < f64 >> 1) {
         Vec<i64> s[4] = {};
-        left = each_vector<lanes<f64>>(left, s, [=](Vec<i64>& to, Vec<f64> v) { to -= splat(value) < v; }, x);
+        left = each_vector<lanes<f64>>(
+            left, s, [=](Vec<i64>& to, Vec<f64> v) { to -= splat(value) < v; }, x);
         const auto all = as<Vec<i32, 2 * lanes<f64>>>(s[0] + s[1] + (s[2] + s[3]));
         for (size_t i = 0; i < lanes<f64>; ++i) found += static_cast<u32>(all[2 * i]);
     }

@@ -20,6 +20,7 @@
 #include "kernel/plain_rounding.h"
 #include "kernel/polynomial.h"
 #include "kernel/power_of_two.h"
+#include "kernel/reduce.h"
 #include "kernel/repeated.h"
 #include "kernel/rescale.h"
 #include "kernel/rounding.h"

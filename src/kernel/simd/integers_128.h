@@ -252,10 +252,7 @@ inline void stream_bits(void* p, __m128i v) { _mm_stream_si128(static_cast<__m12
 inline Vec<u64, 2> sums_of_eight(Vec<u8, 16> x) { return as<Vec<u64, 2>>(_mm_sad_epu8(bits(x), __m128i{})); }
 
 // The sums of neighbours.
-inline Vec<i32, 4> sums_of_two(Vec<i16, 8> x)
-{
-    return as<Vec<i32, 4>>(_mm_madd_epi16(bits(x), _mm_set1_epi16(1)));
-}
+inline Vec<i32, 4> sums_of_two(Vec<i16, 8> x) { return as<Vec<i32, 4>>(_mm_madd_epi16(bits(x), _mm_set1_epi16(1))); }
 
 // The bytes of v moved up, and the last ones of the vector before it.
 template <int bytes> inline __m128i shifted_in(__m128i before, __m128i v)

@@ -36,9 +36,10 @@ inline Spread joined(const Spread& a, const Spread& b)
 
 // What the block's mean lost when it was rounded, and the squares without it. It matters where the elements are so
 // close together that the distances are of the size of that loss.
-template <class A> [[gnu::noinline, gnu::cold]] f64 correction(size_t n, f64 centre, f64& squares, A a)
+template <class A> [[gnu::noinline]] f64 correction(size_t n, f64 centre, f64& squares, A a)
 {
-    const f64 rest = block_sums(n, FromCentre{centre}, a).of[0][0], without = squares - rest * rest / static_cast<f64>(n);
+    const f64 rest = block_sums(n, FromCentre{centre}, a).of[0][0],
+              without = squares - rest * rest / static_cast<f64>(n);
     squares = larger(0.0, without); // a NaN stays one
     return rest / static_cast<f64>(n);
 }
@@ -64,10 +65,7 @@ template <class A> [[gnu::always_inline]] inline Spread spread_of(size_t n, A a)
 }
 
 // The same of numbers whose squares or sums have no place among doubles.
-[[gnu::noinline, gnu::cold]] Spread scaled_spread(size_t n, const f64* a, f64 by)
-{
-    return spread_of(n, ScaledReals{a, by});
-}
+[[gnu::noinline]] Spread scaled_spread(size_t n, const f64* a, f64 by) { return spread_of(n, ScaledReals{a, by}); }
 
 struct MeanAndDeviation {
     f64 mean, deviation;

@@ -209,7 +209,7 @@ template <class A> [[gnu::noinline]] FoundBoth<Element<A>> extreme_places(size_t
 // Of zeros that are the best the first one counts, whose sign vectors do not tell.
 template <class A> inline Element<A> with_first_sign(Element<A> x, size_t n, A a)
 {
-    if constexpr (std::is_floating_point_v<Element<A>> && lanes<u8> > 1)
+    if constexpr (std::is_floating_point_v<Element<A>> && lanes < u8 >> 1)
         if (x == 0) return element(a + place_of(x, 0, n, a));
     return x;
 }

@@ -16,17 +16,18 @@ void both(const f64* a, int n, f64* min, i32* minIndex, f64* max, i32* maxIndex)
 struct Magnitudes {
     template <class V> V operator()(V x) const { return absolute_value(x); }
 };
-[[gnu::noinline, gnu::cold]] f64 largest_finite(size_t n, const f64* a)
+[[gnu::noinline]] f64 largest_magnitude(size_t n, const f64* a) { return largest_of(n, Magnitudes{}, a); }
+[[gnu::noinline]] f64 largest_finite(size_t n, const f64* a)
 {
     f64 largest = 0;
     for (size_t i = 0; i < n; ++i)
         if (const f64 x = absolute_value(a[i]); x < __builtin_inf() && x > largest) largest = x;
     return largest;
 }
-[[gnu::noinline]] Status order(const f64* a, int n, int* result)
+Status order(const f64* a, int n, int* result)
 {
     const size_t all = static_cast<size_t>(n);
-    f64 m = largest_of(all, Magnitudes{}, a);
+    f64 m = largest_magnitude(all, a);
     const bool finite = m < __builtin_inf();
     if (!finite) m = largest_finite(all, a);
     const int exponent = static_cast<int>(BitsOf<f64>::of(m) >> 52);

@@ -79,7 +79,8 @@ inline i32 scaled(Long x, int s)
         const u64 upper = static_cast<u64>(high) << 2 | low >> 30, isMore = (low & 0x3FFFFFFFu) != 0;
         return scaled<i32>(static_cast<i64>(upper | isMore), s - 30);
     }
-    if (high != static_cast<i32>(high)) return high < 0 ? static_cast<i32>(lowest_of<i32>) : static_cast<i32>(highest<i32>);
+    if (high != static_cast<i32>(high))
+        return high < 0 ? static_cast<i32>(lowest_of<i32>) : static_cast<i32>(highest<i32>);
     return scaled<i32>(static_cast<i64>(static_cast<u64>(high) << 32 | low), s);
 }
 
@@ -150,7 +151,10 @@ inline size_t add_products(size_t n, const i32* a, const i32* b, Long& sum)
 
 void sum(const i32* a, int n, i32* result, int s) { *result = scaled<i32>(exact_sum(static_cast<size_t>(n), a), s); }
 void sum(const i16* a, int n, i32* result, int s) { *result = scaled<i32>(exact_sum(static_cast<size_t>(n), a), s); }
-void mean(const i32* a, int n, i32* result, int s) { *result = scaled_mean(exact_sum(static_cast<size_t>(n), a), n, s); }
+void mean(const i32* a, int n, i32* result, int s)
+{
+    *result = scaled_mean(exact_sum(static_cast<size_t>(n), a), n, s);
+}
 
 [[gnu::noinline]] void dot(const i32* a, const i32* b, int n, i32* result, int s)
 {
@@ -178,8 +182,7 @@ void mean(const i32* a, int n, i32* result, int s) { *result = scaled_mean(exact
         const i32 last = static_cast<i32>(static_cast<u32>(upper) - first);
         Vec<i32> s[4] = {};
         i = all - each_vector<lanes<i32>>(
-                      all, s,
-                      [=](Vec<i32>& to, Vec<i32> x) { to -= as<Vec<i32>>(as<Vec<u32>>(x) - first) > last; }, a);
+                      all, s, [=](Vec<i32>& to, Vec<i32> x) { to -= as<Vec<i32>>(as<Vec<u32>>(x) - first) > last; }, a);
         outside = lane_sum<u32>(s[0] + s[1] + (s[2] + s[3]));
     }
 #endif

@@ -61,17 +61,17 @@ struct Scaling {
     explicit Scaling(f64 size) : by(size < 1 ? farUp : farDown), back(size < 1 ? farDown : farUp) {}
 };
 
-template <class... A> [[gnu::noinline, gnu::cold]] f64 scaled_euclidean(size_t n, f64 squares, A... a)
+template <class... A> [[gnu::noinline]] f64 scaled_euclidean(size_t n, f64 squares, A... a)
 {
     const Scaling s(squares);
     return square_root(sum_of(n, ScaledSquares{s.by}, a...).of[0][0]) * s.back;
 }
-template <class... A> [[gnu::noinline, gnu::cold]] f64 scaled_moduli(size_t n, f64 sum, A... a)
+template <class... A> [[gnu::noinline]] f64 scaled_moduli(size_t n, f64 sum, A... a)
 {
     const Scaling s(sum);
     return sum_of(n, ScaledModuli{s.by}, complex(a)...).of[0][0] * s.back;
 }
-template <class... A> [[gnu::noinline, gnu::cold]] f64 scaled_largest(size_t n, f64 power, A... a)
+template <class... A> [[gnu::noinline]] f64 scaled_largest(size_t n, f64 power, A... a)
 {
     const Scaling s(power);
     return square_root(largest_of(n, LargestScaledPower{s.by}, folded(a)...)) * s.back;

@@ -53,7 +53,7 @@ template <class T, class A> [[gnu::always_inline]] inline auto total(const T* a,
 }
 
 // The sum of numbers that are so large that it may have no place among doubles, divided by their number.
-template <class T> [[gnu::noinline, gnu::cold]] void mean_scaled(const T* a, int n, f64* mean)
+template <class T> [[gnu::noinline]] void mean_scaled(const T* a, int n, f64* mean)
 {
     const auto t = total(a, n, ScaledReals{parts(a), farDown});
     for (size_t m = 0; m < sizeof(T) / sizeof(f64); ++m)
@@ -90,7 +90,9 @@ template <class T> [[gnu::noinline]] void mean(const T* a, int n, T* result)
 [[gnu::noinline]] void dot(const c64f* a, const c64f* b, int n, c64f* result)
 {
     const auto t = sum_of(count(a, n), ComplexProducts{}, parts(a), parts(b), PartsExchanged{parts(b)});
-    *result = {t.of[0][0] - t.of[0][1], t.of[1][0] + t.of[1][1]};
+    // Apart: compilers compute a difference and a sum as two of each, of which the others may be of infinities.
+    const f64 re = in_register(t.of[0][0] - t.of[0][1]);
+    *result = {re, t.of[1][0] + t.of[1][1]};
 }
 
 } // namespace

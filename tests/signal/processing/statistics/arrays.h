@@ -26,7 +26,8 @@ R valueOf(const std::string& name, const std::vector<T>& x, const std::vector<U>
 inline const std::vector<size_t> lengths = [] {
     std::vector<size_t> all;
     for (size_t n = 1; n <= 70; ++n) all.push_back(n);
-    for (size_t n : {100, 511, 512, 513, 767, 1023, 1024, 1025, 1040, 1056, 1536, 2047, 2048, 2049, 3000, 5120, 5121, 7168})
+    for (size_t n :
+         {100, 511, 512, 513, 767, 1023, 1024, 1025, 1040, 1056, 1536, 2047, 2048, 2049, 3000, 5120, 5121, 7168})
         all.push_back(n);
     return all;
 }();

@@ -66,12 +66,12 @@ TEST(Deviation, OfAnyData)
                     with([&](size_t i) { return i == at ? outlier : noise[i]; });
                     with([&](size_t i) { return i == at ? outlier : 0.1; });
                 }
-            with([](size_t i) { return i % 2 ? 0.1 : -0.1; });                      // every rounding in one direction
+            with([](size_t i) { return i % 2 ? 0.1 : -0.1; }); // every rounding in one direction
             with([](size_t i) { return i % 3 ? 0.1 : 0.7; });
-            with([](size_t i) { return i < 1500 ? 1e10 + 0.1 : 1e10 - 0.1; });      // blocks of equal elements
-            with([](size_t i) { return static_cast<double>(i); });                  // means far apart
+            with([](size_t i) { return i < 1500 ? 1e10 + 0.1 : 1e10 - 0.1; }); // blocks of equal elements
+            with([](size_t i) { return static_cast<double>(i); });             // means far apart
             with([](size_t i) { return 1e9 + 1e-3 * static_cast<double>(i * i % 97); });
-            with([](size_t i) { return i ? 1 : 1 + 0x1p-52; });                     // the least spread there is
+            with([](size_t i) { return i ? 1 : 1 + 0x1p-52; }); // the least spread there is
             with([&](size_t i) { return 1 + 0x1p-52 * static_cast<double>(i % 5); });
             for (int exponent : {-1060, -700, -400, 505, 520, 700, 1010}) {
                 with([&](size_t i) { return std::ldexp(noise[i], exponent); });

@@ -35,7 +35,8 @@ template <class T> std::ostream& operator<<(std::ostream& out, const Extreme<T>&
     return out << e.value << " at " << e.index;
 }
 
-template <class T> void expect(const std::string& name, const std::string& type, const std::vector<T>& x, Extreme<T> right)
+template <class T>
+void expect(const std::string& name, const std::string& type, const std::vector<T>& x, Extreme<T> right)
 {
     const void* const p = x.data();
     const int n = static_cast<int>(x.size());

@@ -25,8 +25,34 @@ Wide power(int e)
     return p;
 }
 
-const int scaleFactors[] = {-2147483647 - 1, -70, -33, -32, -31, -30, -5, -1, 0,  1,  2,  7,         15,
-                            29,              30,  31,  32,  33,  34,  40, 61, 62, 63, 64, 93, 94, 100, 2147483647};
+const int scaleFactors[] = {-2147483647 - 1,
+                            -70,
+                            -33,
+                            -32,
+                            -31,
+                            -30,
+                            -5,
+                            -1,
+                            0,
+                            1,
+                            2,
+                            7,
+                            15,
+                            29,
+                            30,
+                            31,
+                            32,
+                            33,
+                            34,
+                            40,
+                            61,
+                            62,
+                            63,
+                            64,
+                            93,
+                            94,
+                            100,
+                            2147483647};
 int bounded(int s) { return std::clamp(s, -200, 200); }
 
 template <class T> Ipp32s scaledOf(const char* name, const std::vector<T>& x, int s)

@@ -52,8 +52,8 @@ void checkReal(const std::vector<double>& x, const std::vector<double>& y)
     EXPECT_TRUE(same(valueOf<double>("ippsNorm_L1_64f", x), right([&](size_t i) { return std::fabs(x[i]); })));
     EXPECT_TRUE(same(valueOf<double>("ippsNormDiff_L1_64f", x, y),
                      right([&](size_t i) { return std::fabs(difference(x[i], y[i])); })));
-    EXPECT_TRUE(same(valueOf<double>("ippsNorm_L2_64f", y),
-                     squareRoot(right([&](size_t i) { return product(y[i], y[i]); }))));
+    EXPECT_TRUE(
+        same(valueOf<double>("ippsNorm_L2_64f", y), squareRoot(right([&](size_t i) { return product(y[i], y[i]); }))));
 }
 void checkComplex(const std::vector<Ipp64fc>& z, const std::vector<Ipp64fc>& w, const std::vector<double>& x)
 {
@@ -159,7 +159,8 @@ TEST(Norms, OfTinyDifferences)
     inEveryVariant([] {
         const std::vector<double> a = {1e300, 0x1.0000000000001p-500}, b = {1e300, 0x1p-500};
         EXPECT_EQ(valueOf<double>("ippsNormDiff_L2_64f", a, b), 0x1p-552);
-        const std::vector<Ipp64fc> c = {{1e300, -1e300}, {0, 0x1.0000000000001p-500}}, d = {{1e300, -1e300}, {0, 0x1p-500}};
+        const std::vector<Ipp64fc> c = {{1e300, -1e300}, {0, 0x1.0000000000001p-500}},
+                                   d = {{1e300, -1e300}, {0, 0x1p-500}};
         EXPECT_EQ(valueOf<double>("ippsNormDiff_L2_64fc64f", c, d), 0x1p-552);
         EXPECT_EQ(valueOf<double>("ippsNormDiff_L1_64fc64f", c, d), 0x1p-552);
         EXPECT_EQ(valueOf<double>("ippsNormDiff_Inf_64fc64f", c, d), 0x1p-552);
