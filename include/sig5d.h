@@ -1951,6 +1951,45 @@ void SIG5D_CDECL vbunpackm(unsigned int n, const Ipp8u* src, Ipp8u* dst, const I
 void SIG5D_CDECL vbunpackm_Idx(unsigned int n, const Ipp8u* src, int srcIdx, Ipp8u* dst, int dstIdx, const Ipp32s*
         mask, int maskIdx);
 
+/* ---- Companding ---- */
+
+/* Decodes G.711 A-law: pDst[i] is the sample of the code pSrc[i], a multiple of 8 from -32256 to 32256. Code 0x55
+   gives -8, 0xD5 gives 8, 0x80 gives 5504. */
+IppStatus SIG5D_CDECL ippsALawToLin_8u16s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+
+/* pDst[i] = s * 2^-15. Decodes G.711 A-law: s is the sample of the code pSrc[i], a multiple of 8 from -32256 to
+   32256. */
+IppStatus SIG5D_CDECL ippsALawToLin_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_CDECL ippsALawToLin_8u64f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* Decodes G.711 mu-law: pDst[i] is the sample of the code pSrc[i], a multiple of 4 from -32124 to 32124. Codes
+   0x7F and 0xFF both give 0. */
+IppStatus SIG5D_CDECL ippsMuLawToLin_8u16s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
+
+/* pDst[i] = s * 2^-15. Decodes G.711 mu-law: s is the sample of the code pSrc[i], a multiple of 4 from -32124 to
+   32124. Codes 0x7F and 0xFF both give 0, without a sign. */
+IppStatus SIG5D_CDECL ippsMuLawToLin_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
+IppStatus SIG5D_CDECL ippsMuLawToLin_8u64f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
+
+/* Encodes samples in G.711 A-law. 0 gives 0xD5. Every code comes back from the sample that it is decoded to. */
+IppStatus SIG5D_CDECL ippsLinToALaw_16s8u_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+
+/* s = pSrc[i] limited to [-1, 1], * 32767, rounded to the nearest integer, ties away from zero. Encodes samples in
+   G.711 A-law: pDst[i] is the code that ippsLinToALaw_16s8u gives for s. NaN gives the code of 0, 0xD5. Every code
+   comes back from the fraction that it is decoded to. */
+IppStatus SIG5D_CDECL ippsLinToALaw_32f8u_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_CDECL ippsLinToALaw_64f8u_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+
+/* Encodes samples in G.711 mu-law. 0 gives 0xFF. Every code comes back from the sample that it is decoded to, but
+   0x7F, the negative zero, which comes back as 0xFF. */
+IppStatus SIG5D_CDECL ippsLinToMuLaw_16s8u_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+
+/* s = pSrc[i] limited to [-1, 1], * 32767, rounded to the nearest integer, ties away from zero. Encodes samples in
+   G.711 mu-law: pDst[i] is the code that ippsLinToMuLaw_16s8u gives for s. NaN gives the code of 0, 0xFF. Every
+   code comes back from the fraction that it is decoded to, but 0x7F, the negative zero, which comes back as 0xFF. */
+IppStatus SIG5D_CDECL ippsLinToMuLaw_32f8u_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+IppStatus SIG5D_CDECL ippsLinToMuLaw_64f8u_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
+
 /* ---- Cosine transforms ---- */
 
 /* The bytes of a specification, of the buffer that sets it up (0: none) and of the work buffer that a transform of
@@ -2008,44 +2047,6 @@ IppStatus SIG5D_CDECL ippsDCTInvInitAlloc_64f_Idx(int len, int hint, IppsDCTHand
 
 /* Releases what ippsDCTFwdInitAlloc or ippsDCTInvInitAlloc allocated; null is ignored. */
 void SIG5D_CDECL ippsDCTFree_64f_Idx(void* pHandle);
-/* ---- Companding ---- */
-
-/* Decodes G.711 A-law: pDst[i] is the sample of the code pSrc[i], a multiple of 8 from -32256 to 32256. Code 0x55
-   gives -8, 0xD5 gives 8, 0x80 gives 5504. */
-IppStatus SIG5D_CDECL ippsALawToLin_8u16s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
-
-/* pDst[i] = s * 2^-15. Decodes G.711 A-law: s is the sample of the code pSrc[i], a multiple of 8 from -32256 to
-   32256. */
-IppStatus SIG5D_CDECL ippsALawToLin_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_CDECL ippsALawToLin_8u64f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-
-/* Decodes G.711 mu-law: pDst[i] is the sample of the code pSrc[i], a multiple of 4 from -32124 to 32124. Codes
-   0x7F and 0xFF both give 0. */
-IppStatus SIG5D_CDECL ippsMuLawToLin_8u16s_Idx(const Ipp8u* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len);
-
-/* pDst[i] = s * 2^-15. Decodes G.711 mu-law: s is the sample of the code pSrc[i], a multiple of 4 from -32124 to
-   32124. Codes 0x7F and 0xFF both give 0, without a sign. */
-IppStatus SIG5D_CDECL ippsMuLawToLin_8u32f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp32f* pDst, int dstIdx, int len);
-IppStatus SIG5D_CDECL ippsMuLawToLin_8u64f_Idx(const Ipp8u* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len);
-
-/* Encodes samples in G.711 A-law. 0 gives 0xD5. Every code comes back from the sample that it is decoded to. */
-IppStatus SIG5D_CDECL ippsLinToALaw_16s8u_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
-
-/* s = pSrc[i] limited to [-1, 1], * 32767, rounded to the nearest integer, ties away from zero. Encodes samples in
-   G.711 A-law: pDst[i] is the code that ippsLinToALaw_16s8u gives for s. NaN gives the code of 0, 0xD5. Every code
-   comes back from the fraction that it is decoded to. */
-IppStatus SIG5D_CDECL ippsLinToALaw_32f8u_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
-IppStatus SIG5D_CDECL ippsLinToALaw_64f8u_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
-
-/* Encodes samples in G.711 mu-law. 0 gives 0xFF. Every code comes back from the sample that it is decoded to, but
-   0x7F, the negative zero, which comes back as 0xFF. */
-IppStatus SIG5D_CDECL ippsLinToMuLaw_16s8u_Idx(const Ipp16s* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
-
-/* s = pSrc[i] limited to [-1, 1], * 32767, rounded to the nearest integer, ties away from zero. Encodes samples in
-   G.711 mu-law: pDst[i] is the code that ippsLinToMuLaw_16s8u gives for s. NaN gives the code of 0, 0xFF. Every
-   code comes back from the fraction that it is decoded to, but 0x7F, the negative zero, which comes back as 0xFF. */
-IppStatus SIG5D_CDECL ippsLinToMuLaw_32f8u_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
-IppStatus SIG5D_CDECL ippsLinToMuLaw_64f8u_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 
 /* ---- FIR filters ---- */
 

@@ -78,7 +78,7 @@ void put(f64* array, i64 length, i64 i, c64f x)
 template <class T, class S>
 IirState* begin(IirTag tag, const Layout& at, int delays, int sections, const T* pDlyLine, u8* pBuf, S** ppState)
 {
-    const auto start = reinterpret_cast<uintptr_t>(pBuf), head = (start + alignment - 1) & ~uintptr_t(alignment - 1);
+    const uintptr_t start = reinterpret_cast<uintptr_t>(pBuf), head = (start + alignment - 1) & ~uintptr_t(alignment - 1);
     const uintptr_t usual = head + headBytes;
     const uintptr_t latest = start + static_cast<uintptr_t>(at.bytes - (at.taps + at.delays) * i64(sizeof(T)));
     auto* const state = reinterpret_cast<IirState*>(head);
