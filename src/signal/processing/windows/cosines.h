@@ -51,7 +51,7 @@ template <int terms> class CosineWeights
 public:
     // n: elements of the window. Of few weights each is a block of its own; more have up to 16 blocks, or such of 128
     // weights.
-    CosineWeights(size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms])
+    [[gnu::noinline]] CosineWeights(size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms])
         : weights_(n / 2), circle_(static_cast<f64>(static_cast<i32>(n - 1))), mean_(mean)
     {
         for (int h = 0; h < terms; ++h) amplitudes_[h] = amplitudes[h];
@@ -63,24 +63,31 @@ public:
     size_t length() const { return shift_ == 0 ? startsAtOnce : block(); }
     template <class Use> void stretch(size_t first, size_t, Use use)
     {
-        const size_t start = (first >> shift_) % startsAtOnce;
-        if (start == 0) makeStarts(first);
-        if (shift_ == 0) return use(StoredWeights{high_});
-        CosineBlock<terms> b;
-        b.high = splat(high_[start]);
-        b.low = splat(low_[start]);
-        for (int h = 0; h < terms; ++h) {
-            b.cosine[h] = splat(startCosine_[h][start]);
-            b.sine[h] = splat(startSine_[h][start]);
-            b.lessThanOnes[h] = lessThanOne_[h];
-            b.sines[h] = sine_[h];
-        }
-        use(b);
+        find(first);
+        if (shift_ == 0)
+            use(StoredWeights{high_});
+        else
+            use(here_);
     }
 
 private:
     using V = Vec<f64>;
     static constexpr size_t L = lanes<f64>;
+
+    // The block that begins with this weight.
+    void find(size_t first)
+    {
+        const size_t start = (first >> shift_) % startsAtOnce;
+        if (start == 0) makeStarts(first);
+        here_.high = splat(high_[start]);
+        here_.low = splat(low_[start]);
+        for (int h = 0; h < terms; ++h) {
+            here_.cosine[h] = splat(startCosine_[h][start]);
+            here_.sine[h] = splat(startSine_[h][start]);
+            here_.lessThanOnes[h] = lessThanOne_[h];
+            here_.sines[h] = sine_[h];
+        }
+    }
 
     [[gnu::noinline]] void makeTable()
     {
@@ -96,6 +103,7 @@ private:
     [[gnu::noinline]] void makeStarts(size_t first)
     {
         const size_t left = (weights_ - first + block() - 1) >> shift_, n = left < startsAtOnce ? left : startsAtOnce;
+#pragma GCC unroll 1
         for (size_t i = 0; i < n; i += L) {
             const V at = indexes_from(i) * all_lanes<V>(static_cast<f64>(static_cast<i32>(block()))) +
                          all_lanes<V>(static_cast<f64>(static_cast<i32>(first)));
@@ -126,6 +134,7 @@ private:
     alignas(64) f64 sine_[terms][mostWeights], lessThanOne_[terms][mostWeights];
     alignas(64) f64 high_[startsAtOnce], low_[startsAtOnce];
     alignas(64) f64 startCosine_[terms][startsAtOnce], startSine_[terms][startsAtOnce];
+    CosineBlock<terms> here_;
 };
 
 } // namespace
