@@ -4,13 +4,14 @@
 # For all code of the product. No fused multiply-add and no x87 arithmetic, so that all variants and platforms give the
 # same bits; hosts align a 32-bit stack to 4 bytes only, so that functions that need more realign it themselves. Loops
 # that copy or fill stay loops, since calls of the C runtime instead would be slow on Windows; and they begin at a cache
-# line, without which the same store loop ran at 50 or at 62 bytes per cycle, as chance had it.
-set(optimise -O3)
+# line, without which the same store loop ran at 50 or at 62 bytes per cycle, as chance had it. px is for size, which
+# halves what it takes: beside it there are faster bodies.
+set(optimise -O3 -falign-loops=64)
 if(SIG5D_SANITIZE) # whose checks in every loop took ten times as long to optimise as the loops
-    set(optimise -O1 -fexpensive-optimizations) # the latter clears the upper halves of vector registers
+    set(optimise -O1 -fexpensive-optimizations -falign-loops=64) # the latter clears the upper halves of vector registers
 endif()
-set(SIG5D_COMMON_FLAGS ${optimise} -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign
-    -falign-loops=64)
+set(SIG5D_COMMON_FLAGS "$<IF:$<BOOL:$<TARGET_PROPERTY:SIG5D_FOR_SIZE>>,-Os,${optimise}>" -msse2 -mfpmath=sse
+    -ffp-contract=off -fno-math-errno -mstackrealign)
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang) # which builds for fuzzing only, and has no such option
     list(APPEND SIG5D_COMMON_FLAGS -fno-tree-loop-distribute-patterns)
 endif()
@@ -23,6 +24,9 @@ function(sig5d_add_variants list)
         set(sources "")
         foreach(source ${SIG5D_KERNEL_SOURCES})
             string(REPLACE "/" "_" key ${source})
+            if(SIG5D_BODIES_${key} STREQUAL px) # which then serves every processor
+                set_source_files_properties(${CMAKE_SOURCE_DIR}/src/${source} PROPERTIES COMPILE_OPTIONS ${optimise})
+            endif()
             if(variant IN_LIST SIG5D_BODIES_${key})
                 list(APPEND sources ${CMAKE_SOURCE_DIR}/src/${source})
             endif()
@@ -32,6 +36,9 @@ function(sig5d_add_variants list)
             target_link_libraries(sig5d_${variant} PRIVATE sig5d_product)
             target_compile_definitions(sig5d_${variant} PRIVATE SIG5D_VARIANT=${variant} SIG5D_LEVEL=${level})
             target_compile_options(sig5d_${variant} PRIVATE ${SIG5D_FLAGS_${variant}})
+            if(variant STREQUAL px AND NOT SIG5D_SANITIZE)
+                set_target_properties(sig5d_${variant} PROPERTIES SIG5D_FOR_SIZE ON)
+            endif()
             if(SIG5D_SANITIZE STREQUAL thread AND NOT variant STREQUAL px)
                 # px has the accesses of every source; the others are what the first calls choose from.
                 target_compile_options(sig5d_${variant} PRIVATE -fno-sanitize=thread -O0)

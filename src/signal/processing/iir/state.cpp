@@ -6,12 +6,12 @@
 namespace sig5d {
 namespace {
 
-constexpr i64 alignment = 32; // of the head
-constexpr i64 headBytes = 64; // from the head to the taps, where there is room
+constexpr uintptr_t alignment = 32; // of the head
+constexpr i64 headBytes = 64;       // from the head to the taps, where there is room
 
 // What the sizes of real filters leave for alignment. A cascade with an even number of sections has none by the
-// formula: the taps then start as far from the buffer as they should from the head. Heads with longer pointers need the
-// room.
+// formula: the taps then start as far from the buffer as they should from the head. Heads with longer pointers need
+// more room.
 constexpr i64 moreRoom = sizeof(void*) == 8 ? alignment : 0;
 static_assert(sizeof(IirState) + (moreRoom ? 0 : alignment - 1) <= headBytes);
 
@@ -24,9 +24,9 @@ template <class T> Layout layoutOfOrder(i64 n)
 {
     const i64 taps = tapsOfOrder(n), delays = delaysOfOrder(n);
     if constexpr (sizeof(T) == sizeof(f64))
-        return {taps, delays, 16 * n + 144 + (8 * n + 23) / 16 * 16};
+        return {taps, delays, 16 * n + 144 + (8 * n + 23) / 16 * 16 + moreRoom};
     else
-        return {taps, delays, headBytes + alignment + (taps + delays) * i64(sizeof(T))};
+        return {taps, delays, headBytes + i64(alignment) + (taps + delays) * i64(sizeof(T))};
 }
 template <class T> Layout layoutOfSections(i64 n)
 {
@@ -34,7 +34,7 @@ template <class T> Layout layoutOfSections(i64 n)
     if constexpr (sizeof(T) == sizeof(f64))
         return {taps, delays, (40 * n + 15) / 16 * 16 + 64 + 16 * n + moreRoom};
     else
-        return {taps, delays, headBytes + alignment + (taps + delays) * i64(sizeof(T))};
+        return {taps, delays, headBytes + i64(alignment) + (taps + delays) * i64(sizeof(T))};
 }
 
 bool fits(const Layout& at) { return at.bytes <= 0x7fffffff; }
@@ -74,18 +74,34 @@ void put(f64* array, i64 length, i64 i, c64f x)
     array[length + i] = x.im;
 }
 
+// Where the delay line of a filter that is no cascade starts: its fourth delay, from which on they go in vectors, at a
+// multiple of 64 or, where the buffer has no room for that, 32 bytes. At most so late.
+uintptr_t delayLine(uintptr_t earliest, uintptr_t latest)
+{
+    constexpr uintptr_t before = 3 * sizeof(f64);
+    constexpr uintptr_t units[] = {64, 32};
+    for (const uintptr_t unit : units) {
+        const uintptr_t at = (earliest + before + unit - 1) / unit * unit - before;
+        if (at <= latest) return at;
+    }
+    return earliest;
+}
+
 // All but the taps: the first `delays` numbers of the delay line are the caller's, or zeros.
 template <class T, class S>
 IirState* begin(IirTag tag, const Layout& at, int delays, int sections, const T* pDlyLine, u8* pBuf, S** ppState)
 {
-    const uintptr_t start = reinterpret_cast<uintptr_t>(pBuf), head = (start + alignment - 1) & ~uintptr_t(alignment - 1);
+    const uintptr_t start = reinterpret_cast<uintptr_t>(pBuf);
+    const uintptr_t head = (start + alignment - 1) / alignment * alignment;
     const uintptr_t usual = head + headBytes;
     const uintptr_t latest = start + static_cast<uintptr_t>(at.bytes - (at.taps + at.delays) * i64(sizeof(T)));
     auto* const state = reinterpret_cast<IirState*>(head);
     *state = {};
     state->tag = tag;
     state->taps = reinterpret_cast<f64*>(usual < latest ? usual : latest);
-    state->delays = state->taps + at.taps * i64(sizeof(T) / sizeof(f64));
+    const uintptr_t behindTaps = reinterpret_cast<uintptr_t>(state->taps) + static_cast<uintptr_t>(at.taps) * sizeof(T);
+    const uintptr_t latestDelays = start + static_cast<uintptr_t>(at.bytes - at.delays * i64(sizeof(T)));
+    state->delays = reinterpret_cast<f64*>(sections ? behindTaps : delayLine(behindTaps, latestDelays));
     state->count = delays;
     state->sections = sections;
     for (i64 i = 0; i < at.delays; ++i) put(state->delays, at.delays, i, pDlyLine && i < delays ? pDlyLine[i] : T{});

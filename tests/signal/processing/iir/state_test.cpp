@@ -198,7 +198,8 @@ TYPED_TEST(States, SizesNeverWrap)
         counts.push_back(n);
     for (const long long n : counts) {
         const long long more = sizeof(void*) == 8 ? 32 : 0;
-        const long long sizes[2] = {sizeof(T) == 8 ? 16 * n + 144 + ((8 * n + 23) & ~15ll) : 96 + 16 * (3 * n + 2),
+        const long long sizes[2] = {sizeof(T) == 8 ? 16 * n + 144 + ((8 * n + 23) & ~15ll) + more
+                                                   : 96 + 16 * (3 * n + 2),
                                     sizeof(T) == 8 ? ((40 * n + 15) & ~15ll) + 64 + 16 * n + more : 96 + 112 * n};
         for (const Kind kind : {ofOrder, ofSections}) {
             int bytes = -1;
