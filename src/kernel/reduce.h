@@ -79,31 +79,25 @@ private:
 constexpr size_t vectorsUnderWay = sizeof(void*) == 4 && SIG5D_LEVEL < 6 ? 4 : 8;
 
 // Adds so many terms, fewer than there are partial sums, to the first partial sums, or makes these of them.
-template <size_t w, bool fresh, size_t all, class Op, class... A>
-[[gnu::always_inline]] inline size_t add_some(size_t k, size_t n, f64 (&partial)[Op::sums][all], const Op& op, A... a)
+template <size_t w, class Op, class... A>
+[[gnu::always_inline]] inline size_t add_some(size_t k, size_t n, bool fresh, f64* partial, const Op& op, A... a)
 {
+#pragma GCC unroll 1
     for (; n - k >= w; k += w) {
         const auto t = as_terms(op(load_lanes<w>(a + k)...));
         for (int s = 0; s < Op::sums; ++s) {
-            f64* const p = partial[s] + k;
+            f64* const p = partial + s * Op::lanes + k;
             store_lanes<w>(Ordinary{}, p, fresh ? t.of[s] : load_lanes<w>(p) + t.of[s]);
         }
     }
     return k;
 }
-template <bool fresh, size_t all, class Op, class... A>
-[[gnu::always_inline]] inline void add_rest(size_t n, f64 (&partial)[Op::sums][all], const Op& op, A... a)
-{
-    constexpr size_t L = lanes<f64>, least = L == 1 ? 1 : Op::members;
-    const size_t done = L > least ? add_some<L, fresh>(0, n, partial, op, a...) : 0;
-    add_some<least, fresh>(done, n, partial, op, a...);
-}
 
 // The partial sums of whole rows, each of which has an element for each partial sum.
-template <size_t all, class Op, class... A>
-[[gnu::always_inline]] inline void add_rows(size_t rows, f64 (&partial)[Op::sums][all], const Op& op, A... a)
+template <class Op, class... A>
+[[gnu::always_inline]] inline void add_rows(size_t rows, f64* partial, const Op& op, A... a)
 {
-    constexpr size_t L = lanes<f64>, most = vectorsUnderWay / Op::sums, vectors = all / L,
+    constexpr size_t L = lanes<f64>, all = Op::lanes, most = vectorsUnderWay / Op::sums, vectors = all / L,
                      group = vectors < most ? vectors : most;
     for (size_t first = 0; first < all; first += group * L) {
         decltype(as_terms(op(load_lanes<L>(a)...))) t[group];
@@ -119,11 +113,22 @@ template <size_t all, class Op, class... A>
 #pragma GCC unroll 8
         for (size_t j = 0; j < group; ++j)
 #pragma GCC unroll 2
-            for (int s = 0; s < Op::sums; ++s) storen<L>(partial[s] + first + j * L, t[j].of[s]);
+            for (int s = 0; s < Op::sums; ++s) storen<L>(partial + s * all + first + j * L, t[j].of[s]);
     }
 }
 
-// Joins all partial sums, or n of them.
+// The partial sums of a block, one after the other: a function for each operation, and the rest for all of them.
+template <class Op, class... A> [[gnu::noinline]] void add_block(size_t n, f64* partial, Op op, A... a)
+{
+    constexpr size_t L = lanes<f64>, least = L == 1 ? 1 : Op::members;
+    const size_t whole = n - n % Op::lanes;
+    if (whole) add_rows(whole / Op::lanes, partial, op, a...);
+    size_t k = 0;
+    if constexpr (L > least) k = add_some<L>(0, n - whole, !whole, partial, op, (a + whole)...);
+    add_some<least>(k, n - whole, !whole, partial, op, (a + whole)...);
+}
+
+// Joins the partial sums, those of n elements if there are fewer.
 template <size_t half, size_t members> [[gnu::always_inline]] inline void join_all(f64* p)
 {
     if constexpr (half >= members) {
@@ -133,39 +138,31 @@ template <size_t half, size_t members> [[gnu::always_inline]] inline void join_a
         join_all<half / 2, members>(p);
     }
 }
-[[gnu::always_inline]] inline void join_some(size_t n, size_t half, size_t members, f64* p)
+template <size_t all, size_t members> [[gnu::noinline]] void join(size_t n, f64* p)
 {
+    if (n >= all) return join_all<all / 2, members>(p);
 #pragma GCC unroll 1
-    for (; half >= members; half /= 2)
+    for (size_t half = all / 2; half >= members; half /= 2)
 #pragma GCC unroll 1
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] += p[k + half];
 }
 
 // The sums of a block, 0 < n <= Op::block; of pairs n is even.
-template <class Op, class... A> [[gnu::always_inline]] inline Totals<Op> block_sums(size_t n, const Op& op, A... a)
+template <class Op, class... A> inline Totals<Op> block_sums(size_t n, const Op& op, A... a)
 {
-    constexpr size_t all = Op::lanes;
-    const size_t whole = n - n % all;
-    f64 partial[Op::sums][all];
-    if (whole) {
-        add_rows(whole / all, partial, op, a...);
-        if (n > whole) add_rest<false>(n - whole, partial, op, (a + whole)...);
-    } else {
-        add_rest<true>(n, partial, op, a...);
-    }
+    f64 partial[Op::sums * Op::lanes];
+    add_block(n, partial, op, a...);
     Totals<Op> totals;
     for (int s = 0; s < Op::sums; ++s) {
-        if (whole)
-            join_all<all / 2, Op::members>(partial[s]);
-        else
-            join_some(n, all / 2, Op::members, partial[s]);
-        for (int m = 0; m < Op::members; ++m) totals.of[s][m] = partial[s][m];
+        f64* const p = partial + s * Op::lanes;
+        join<Op::lanes, Op::members>(n, p);
+        for (int m = 0; m < Op::members; ++m) totals.of[s][m] = p[m];
     }
     return totals;
 }
 
 // The sums of an array of n > 0 elements, members of pairs counted each.
-template <class Op, class... A> [[gnu::always_inline]] inline Totals<Op> sum_of(size_t n, Op op, A... a)
+template <class Op, class... A> inline Totals<Op> sum_of(size_t n, Op op, A... a)
 {
     Tree<Totals<Op>> tree;
     for (size_t i = 0;; i += Op::block) {

@@ -175,56 +175,48 @@ template <class Kind, class A> struct Search {
     }
 };
 
-template <class T> constexpr size_t blockOfSearch = 4096 / sizeof(T);
+// A place is looked for in blocks; without one all is a block.
+template <class T> inline size_t block_of_search(size_t n, bool placed)
+{
+    constexpr size_t most = 4096 / sizeof(T);
+    return placed && n > most ? most : n;
+}
+// Of zeros that are the best the first one counts, whose sign vectors do not tell: then its place is looked for, too.
+template <class Kind, class A> inline Found<Element<A>> found(const Search<Kind, A>& s, size_t n, A a, bool placed)
+{
+    if (placed || (std::is_floating_point_v<Element<A>> && s.value == 0)) return s.found(n, a);
+    return {s.value, 0};
+}
 
-template <class Kind, class A> [[gnu::noinline]] Found<Element<A>> extreme_place(size_t n, A a)
+template <class Kind, class A> [[gnu::noinline]] Found<Element<A>> extreme(size_t n, A a, bool placed)
 {
     using T = Element<A>;
     using State = BestOf<Kind, Vec<T>>;
     Search<Kind, A> s(a);
-    for (size_t i = 0; i < n; i += blockOfSearch<T>) {
-        const size_t m = n - i < blockOfSearch<T> ? n - i : blockOfSearch<T>;
+    const size_t block = block_of_search<T>(n, placed);
+    for (size_t i = 0; i < n; i += block) {
+        const size_t m = n - i < block ? n - i : block;
         s.add(folded_vectors<State>(m, {s.all}, AsItIs{}, a + i).best, i);
     }
-    return s.found(n, a);
+    return found(s, n, a, placed);
 }
 template <class T> struct FoundBoth {
     Found<T> smallest, largest;
 };
-template <class A> [[gnu::noinline]] FoundBoth<Element<A>> extreme_places(size_t n, A a)
+template <class A> [[gnu::noinline]] FoundBoth<Element<A>> extremes(size_t n, A a, bool placed)
 {
     using T = Element<A>;
     using State = BothOf<Vec<T>>;
     Search<Smallest, A> low(a);
     Search<Largest, A> high(a);
-    for (size_t i = 0; i < n; i += blockOfSearch<T>) {
-        const size_t m = n - i < blockOfSearch<T> ? n - i : blockOfSearch<T>;
+    const size_t block = block_of_search<T>(n, placed);
+    for (size_t i = 0; i < n; i += block) {
+        const size_t m = n - i < block ? n - i : block;
         const State s = folded_vectors<State>(m, {low.all, high.all}, AsItIs{}, a + i);
         low.add(s.smallest, i);
         high.add(s.largest, i);
     }
-    return {low.found(n, a), high.found(n, a)};
-}
-
-// Of zeros that are the best the first one counts, whose sign vectors do not tell.
-template <class A> inline Element<A> with_first_sign(Element<A> x, size_t n, A a)
-{
-    if constexpr (std::is_floating_point_v<Element<A>> && lanes < u8 >> 1)
-        if (x == 0) return element(a + place_of(x, 0, n, a));
-    return x;
-}
-template <class Kind, class A> [[gnu::noinline]] Element<A> extreme(size_t n, A a)
-{
-    const auto start = splat(element(a));
-    const auto s = folded_vectors<BestOf<Kind, std::remove_const_t<decltype(start)>>>(n, {start}, AsItIs{}, a);
-    return with_first_sign(best_lane<Kind>(s.best), n, a);
-}
-template <class A> [[gnu::noinline]] FoundBoth<Element<A>> extremes(size_t n, A a)
-{
-    const auto start = splat(element(a));
-    const auto s = folded_vectors<BothOf<std::remove_const_t<decltype(start)>>>(n, {start, start}, AsItIs{}, a);
-    return {{with_first_sign(best_lane<Smallest>(s.smallest), n, a), 0},
-            {with_first_sign(best_lane<Largest>(s.largest), n, a), 0}};
+    return {found(low, n, a, placed), found(high, n, a, placed)};
 }
 
 // What is stored of a magnitude: the largest of all is no number of its type.
@@ -234,23 +226,19 @@ inline i32 stored(u32 x) { return static_cast<i32>(x > 0x7FFFFFFFu ? 0x7FFFFFFFu
 // A single place need not be asked for.
 template <class Kind, class A, class D> inline void tell_extreme(A a, int n, D* value, i32* index)
 {
-    if (!index) {
-        *value = stored(extreme<Kind>(static_cast<size_t>(n), a));
-        return;
-    }
-    const auto found = extreme_place<Kind>(static_cast<size_t>(n), a);
+    const auto found = extreme<Kind>(static_cast<size_t>(n), a, index);
     *value = stored(found.value);
-    *index = static_cast<i32>(found.index);
+    if (index) *index = static_cast<i32>(found.index);
 }
 template <class T> inline void tell_extremes(const T* a, int n, T* min, T* max)
 {
-    const FoundBoth<T> found = extremes(static_cast<size_t>(n), a);
+    const FoundBoth<T> found = extremes(static_cast<size_t>(n), a, false);
     *min = found.smallest.value;
     *max = found.largest.value;
 }
 template <class T> inline void tell_extremes(const T* a, int n, T* min, i32* minIndex, T* max, i32* maxIndex)
 {
-    const FoundBoth<T> found = extreme_places(static_cast<size_t>(n), a);
+    const FoundBoth<T> found = extremes(static_cast<size_t>(n), a, true);
     *min = found.smallest.value;
     *minIndex = static_cast<i32>(found.smallest.index);
     *max = found.largest.value;

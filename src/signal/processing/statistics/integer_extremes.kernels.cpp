@@ -46,7 +46,7 @@ void smallest_magnitude(const i32* a, int n, i32* min, i32* index = nullptr)
 }
 void order(const i32* a, int n, int* result)
 {
-    const u32 m = extreme<Largest>(static_cast<size_t>(n), converted(a, Magnitude{}));
+    const u32 m = extreme<Largest>(static_cast<size_t>(n), converted(a, Magnitude{}), false).value;
     *result = m == 0 ? 0 : 32 - __builtin_clz(m);
 }
 
