@@ -295,6 +295,11 @@ typedef struct IppsFIRSpec_64f IppsFIRSpec_64f;
 typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
+typedef struct IppsDCTFwdSpec_64f IppsDCTFwdSpec_64f;
+typedef struct IppsDCTInvSpec_64f IppsDCTInvSpec_64f;
+typedef struct IppsDCTHandle_64f IppsDCTHandle_64f;
+typedef struct IppsIIRState_64f IppsIIRState_64f;
+typedef struct IppsIIRState_64fc IppsIIRState_64fc;
 typedef struct IppsRandUniState_64f IppsRandUniState_64f;
 typedef struct IppsRandUniState_16s IppsRandUniState_16s;
 typedef struct IppsRandUniState_8u IppsRandUniState_8u;
@@ -302,11 +307,6 @@ typedef struct IppsRandGaussState_64f IppsRandGaussState_64f;
 typedef struct IppsRandGaussState_32f IppsRandGaussState_32f;
 typedef struct IppsRandGaussState_16s IppsRandGaussState_16s;
 typedef struct IppsRandGaussState_8u IppsRandGaussState_8u;
-typedef struct IppsDCTFwdSpec_64f IppsDCTFwdSpec_64f;
-typedef struct IppsDCTInvSpec_64f IppsDCTInvSpec_64f;
-typedef struct IppsDCTHandle_64f IppsDCTHandle_64f;
-typedef struct IppsIIRState_64f IppsIIRState_64f;
-typedef struct IppsIIRState_64fc IppsIIRState_64fc;
 
 /* ---- Arithmetic on doubles, element by element ---- */
 
