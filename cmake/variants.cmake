@@ -25,7 +25,7 @@ function(sig5d_add_variants list)
         foreach(source ${SIG5D_KERNEL_SOURCES})
             string(REPLACE "/" "_" key ${source})
             if(SIG5D_BODIES_${key} STREQUAL px) # which then serves every processor
-                set_source_files_properties(${CMAKE_SOURCE_DIR}/src/${source} PROPERTIES COMPILE_OPTIONS ${optimise})
+                set_source_files_properties(${CMAKE_SOURCE_DIR}/src/${source} PROPERTIES COMPILE_OPTIONS "${optimise}")
             endif()
             if(variant IN_LIST SIG5D_BODIES_${key})
                 list(APPEND sources ${CMAKE_SOURCE_DIR}/src/${source})
