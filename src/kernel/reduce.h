@@ -141,7 +141,6 @@ template <size_t half, size_t members> [[gnu::always_inline]] inline void join_a
 template <size_t all, size_t members> [[gnu::noinline]] void join(size_t n, f64* p)
 {
     if (n >= all) return join_all<all / 2, members>(p);
-#pragma GCC unroll 1
     for (size_t half = all / 2; half >= members; half /= 2)
 #pragma GCC unroll 1
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] += p[k + half];

@@ -54,8 +54,10 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
 
     F factor; // 1 unless "scaled"
     F low, high;
-    explicit Rounded(F f)
-        : factor(f), low(static_cast<F>(Bounds::low) / f), high((inexact ? F(0x1.fffffep30) : F(Bounds::high)) / f)
+    F half; // of NearestAway: added to magnitudes
+    explicit Rounded(F f, F added = belowHalf<F>)
+        : factor(f), low(static_cast<F>(Bounds::low) / f), high((inexact ? F(0x1.fffffep30) : F(Bounds::high)) / f),
+          half(added)
     {
     }
 
@@ -65,7 +67,7 @@ template <class F, class Bounds, Rounding mode, bool scaled = true> struct Round
         const V above = larger(x, splatn<n>(low));
         V y = below_limit(above, splatn<n>(high));
         if constexpr (scaled) y *= factor;
-        if constexpr (mode == NearestAway) y = y + with_sign_of(y, belowHalf<F>);
+        if constexpr (mode == NearestAway) y = y + with_sign_of(y, half);
         const auto whole = [](V z) {
             if constexpr (mode == NearestEven)
                 return nearest(z);

@@ -238,9 +238,9 @@ template <class D> [[gnu::noinline]] void convert(const f32* a, D* d, int n, int
     if (scale.simple() && rounds_to_nearest()) {
         const f32 factor = static_cast<f32>(scale.first);
         const size_t count = static_cast<size_t>(n);
-        if (mode == TowardZero) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, TowardZero>(factor));
         if (mode == NearestEven) return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestEven>(factor));
-        return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestAway>(factor));
+        const f32 half = mode == TowardZero ? 0.0f : belowHalf<f32>; // truncation is the same with nothing added
+        return convert_packing(count, a, d, Rounded<f32, LimitsOf<D>, NearestAway>(factor, half));
     }
 #endif
     convert_plain(a, d, n, mode, Scale(s));
