@@ -142,7 +142,6 @@ template <size_t all, size_t members> [[gnu::noinline]] void join(size_t n, f64*
 {
     if (n >= all) return join_all<all / 2, members>(p);
     for (size_t half = all / 2; half >= members; half /= 2)
-#pragma GCC unroll 1
         for (size_t k = 0; k < half && k + half < n; ++k) p[k] += p[k + half];
 }
 
