@@ -40,7 +40,7 @@ struct AngleFactor {
     }
 };
 
-constexpr sig5d::Doubled quarterTurn = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};
+constexpr sig5d::Doubled quarterTurnInTwo = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};
 inline sig5d::Doubled fraction_of(sig5d::Doubled x, f64 divisor)
 {
     const f64 first = x.hi / divisor;
@@ -53,7 +53,7 @@ struct Circle {
     f64 period, quartersEach;
     AngleFactor unit; // of which a turn has four periods
 
-    explicit Circle(f64 steps) : period(steps), quartersEach(4.0 / steps), unit(fraction_of(quarterTurn, steps)) {}
+    explicit Circle(f64 steps) : period(steps), quartersEach(4.0 / steps), unit(fraction_of(quarterTurnInTwo, steps)) {}
 
     template <class V> QuarterAngle<V> angle(V n) const
     {

@@ -30,7 +30,7 @@ class Jaehne
 public:
     Jaehne(f64 magn, int n)
         : magnitude_(magn), quarter_(static_cast<f64>(n)), halvesEach_(0.5 / quarter_),
-          unit_(fraction_of(quarterTurn, quarter_))
+          unit_(fraction_of(quarterTurnInTwo, quarter_))
     {
     }
     template <class V> HalvesAndRest<V> first(V k) const
