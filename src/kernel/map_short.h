@@ -45,8 +45,9 @@ template <int L, class D, class Op, class... A>
 
 // Whether the first elements of a source or destination can be moved alone, as lanes of a whole vector.
 template <class A, size_t L> constexpr bool maskable = false;
+template <class T> constexpr bool isNumber = std::is_integral_v<T> || std::is_floating_point_v<T>;
 template <class T, size_t L>
-constexpr bool maskable<T*, L> = hasMaskedMoves&& std::is_arithmetic_v<T>&& L * sizeof(T) == vectorBytes;
+constexpr bool maskable<T*, L> = hasMaskedMoves&& isNumber<T>&& L * sizeof(T) == vectorBytes;
 template <class T, size_t L> constexpr bool maskable<TwoArrays<T>, L> = maskable<T*, L>;
 
 // The first n elements of an array; the other lanes repeat the first one, since no lane computes with anything else.

@@ -26,8 +26,9 @@ template <class T> [[gnu::noinline]] void round_to(T* d, const f64* a, size_t n)
     for (size_t i = 0; i < n; ++i) d[i] = static_cast<T>(rounded<LimitsOfInteger<T>>(a[i], Scale(0), NearestEven));
 }
 
-// next(d, n) gives some of the next n numbers at a time.
-template <class Next> [[gnu::noinline]] void fill(f64* d, size_t n, Next next)
+// next(d, n) gives some of the next n numbers at a time. (As a copy it would be moved in vectors, for which GCC does
+// not align the stack.)
+template <class Next> [[gnu::noinline]] void fill(f64* d, size_t n, Next&& next)
 {
     while (n > 0) {
         const size_t some = next(d, n);
@@ -35,7 +36,7 @@ template <class Next> [[gnu::noinline]] void fill(f64* d, size_t n, Next next)
         n -= some;
     }
 }
-template <class T, class Next> [[gnu::noinline]] void fill(T* d, size_t n, Next next)
+template <class T, class Next> [[gnu::noinline]] void fill(T* d, size_t n, Next&& next)
 {
     constexpr size_t most = 128;
     f64 numbers[most];
@@ -55,7 +56,8 @@ template <class State, class Next, class T> Status generate(T* d, int n, void* p
     if (tag != State::ownTag) return StsContextMatchErr;
     State state;
     __builtin_memcpy(&state, pState, sizeof state);
-    fill(d, static_cast<size_t>(n), Next{state});
+    Next next{state};
+    fill(d, static_cast<size_t>(n), next);
     __builtin_memcpy(pState, &state, sizeof state);
     return StsNoErr;
 }
