@@ -4,14 +4,15 @@
 # For all code of the product. No fused multiply-add and no x87 arithmetic, so that all variants and platforms give the
 # same bits; hosts align a 32-bit stack to 4 bytes only, so that functions that need more realign it themselves. Loops
 # that copy or fill stay loops, since calls of the C runtime instead would be slow on Windows; and they begin at a cache
-# line, without which the same store loop ran at 50 or at 62 bytes per cycle, as chance had it. px is for size, which
-# halves what it takes: beside it there are faster bodies.
+# line, without which the same store loop ran at 50 or at 62 bytes per cycle, as chance had it. px is to be small, since
+# beside it there are faster bodies; but with -Os GCC 12 loses the upper half of a magnitude in 32-bit code.
 set(optimise -O3 -falign-loops=64)
 if(SIG5D_SANITIZE) # whose checks in every loop took ten times as long to optimise as the loops
     set(optimise -O1 -fexpensive-optimizations -falign-loops=64) # the latter clears the upper halves of vector registers
 endif()
-set(SIG5D_COMMON_FLAGS "$<IF:$<BOOL:$<TARGET_PROPERTY:SIG5D_FOR_SIZE>>,-Os,${optimise}>" -msse2 -mfpmath=sse
-    -ffp-contract=off -fno-math-errno -mstackrealign)
+set(optimise_small -O2 -falign-functions=1 -falign-jumps=1 -falign-loops=1)
+set(SIG5D_COMMON_FLAGS "$<IF:$<BOOL:$<TARGET_PROPERTY:SIG5D_SMALL>>,${optimise_small},${optimise}>"
+    -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign)
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang) # which builds for fuzzing only, and has no such option
     list(APPEND SIG5D_COMMON_FLAGS -fno-tree-loop-distribute-patterns)
 endif()
@@ -37,7 +38,7 @@ function(sig5d_add_variants list)
             target_compile_definitions(sig5d_${variant} PRIVATE SIG5D_VARIANT=${variant} SIG5D_LEVEL=${level})
             target_compile_options(sig5d_${variant} PRIVATE ${SIG5D_FLAGS_${variant}})
             if(variant STREQUAL px AND NOT SIG5D_SANITIZE)
-                set_target_properties(sig5d_${variant} PROPERTIES SIG5D_FOR_SIZE ON)
+                set_target_properties(sig5d_${variant} PROPERTIES SIG5D_SMALL ON)
             endif()
             if(SIG5D_SANITIZE STREQUAL thread AND NOT variant STREQUAL px)
                 # px has the accesses of every source; the others are what the first calls choose from.

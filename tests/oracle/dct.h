@@ -88,7 +88,7 @@ public:
         while (points < 2 * n) points *= 2;
         kernel_.resize(points);
         for (size_t i = 0; i < n; ++i) {
-            chirp_[i] = turn(-int64_t(i * i % (2 * n)), int64_t(2 * n));
+            chirp_[i] = turn(-int64_t(uint64_t{i} * i % (2 * n)), int64_t(2 * n));
             kernel_[i] = kernel_[(points - i) % points] = std::conj(chirp_[i]) / static_cast<Extended>(points);
         }
         fourier(kernel_);
