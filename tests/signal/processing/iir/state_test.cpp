@@ -50,7 +50,11 @@ TYPED_TEST(States, LieInTheirBufferAtAnyAddress)
                 EXPECT_EQ(head->reserved[0] | head->reserved[1] | head->reservedToo, 0);
                 const auto taps =
                     reinterpret_cast<unsigned char*>(head->taps) - reinterpret_cast<unsigned char*>(state);
-                EXPECT_TRUE(taps == 64 || (sizeof(void*) == 4 && kind == ofSections && taps == 64 - distance)) << taps;
+                // The size of a real cascade has room for alignment only in 64-bit builds, but for a number beside an
+                // odd number of sections.
+                const auto latest = 64 - distance + (count % 2 ? 8 : 0);
+                const bool crowded = sizeof(void*) == 4 && kind == ofSections && sizeof(T) == sizeof(double);
+                EXPECT_EQ(taps, crowded && latest < 64 ? latest : 64);
                 std::vector<T> y(70);
                 ASSERT_EQ(F::filter(x.data(), y.data(), 70, state), 0);
                 ASSERT_EQ(difference(y, expected), -1) << kind << " " << count << " " << offset;
