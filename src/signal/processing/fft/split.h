@@ -31,7 +31,7 @@ struct Rows {
     SIG5D_INLINE Count operator[](int j) const
     {
         if (j == 0) return 0;
-        const int twos = __builtin_ctz(static_cast<unsigned>(j));
+        const int twos = j & 1 ? 0 : j & 2 ? 1 : j & 4 ? 2 : 3;
         return odd[j >> twos >> 1] << twos;
     }
 };
