@@ -25,11 +25,10 @@ WRITABLE = {
     in_file("beyond"),
 }  # fmt: skip
 
-# What the compiler itself calls: the stack guard, and in 32-bit code 64-bit divisions, the probe of stack beyond a page on
-# Windows (which changes no register), and the address of the code, which it defines wherever it needs it (a load and a
-# return, the same on every processor).
+# What the compiler itself calls: the stack guard, and in 32-bit code 64-bit divisions and the address of the code, which
+# it defines wherever it needs it (a load and a return, the same on every processor).
 ADDRESS = r"__x86\.get_pc_thunk\.\w\w"
-COMPILERS = rf"__stack_chk_(fail(_local)?|guard)|__u?(div|mod|divmod)di[34]|_GLOBAL_OFFSET_TABLE_|_+chkstk_ms|{ADDRESS}"
+COMPILERS = rf"__stack_chk_(fail(_local)?|guard)|__u?(div|mod|divmod)di[34]|_GLOBAL_OFFSET_TABLE_|{ADDRESS}"
 
 
 def parse(listing, underscore=False):

@@ -45,9 +45,9 @@ template <int L, class D, class Op, class... A>
 
 // Whether the first elements of a source or destination can be moved alone, as lanes of a whole vector.
 template <class A, size_t L> constexpr bool maskable = false;
-template <class T> constexpr bool isNumber = std::is_integral_v<T> || std::is_floating_point_v<T>;
 template <class T, size_t L>
-constexpr bool maskable<T*, L> = hasMaskedMoves&& isNumber<T>&& L * sizeof(T) == vectorBytes;
+requires(hasMaskedMoves && (std::is_integral_v<T> ||
+                            std::is_floating_point_v<T>)) constexpr bool maskable<T*, L> = L * sizeof(T) == vectorBytes;
 template <class T, size_t L> constexpr bool maskable<TwoArrays<T>, L> = maskable<T*, L>;
 
 // The first n elements of an array; the other lanes repeat the first one, since no lane computes with anything else.
@@ -68,9 +68,9 @@ template <class T, class V> inline void store_first(TwoArrays<T> d, size_t n, co
 template <size_t L, bool inOneVector, class D, class Op, class... A>
 [[gnu::always_inline]] inline void map_fewer(size_t n, D d, Op op, A... a)
 {
-    constexpr bool anyLanes = !requires { Op::needsNeighbours; }
-    &&!requires { Op::period; };
-    if constexpr (anyLanes && maskable<D, L> && (maskable<A, L> && ...)) {
+    constexpr bool bound = requires { Op::needsNeighbours; }
+    || requires { Op::period; };
+    if constexpr (!bound && maskable<D, L> && (maskable<A, L> && ...)) {
         if (n > 0) store_first(d, n, op(load_first<L>(a, n)...));
     } else if constexpr (inOneVector) {
         map_ends<L>(n, d, op, a...);

@@ -17,45 +17,34 @@ constexpr int longestDirect = 86, sumsAtOnce = 4;
 struct Angles {
     int start, step;
 };
-// (cos, sin) of all angles of the circle. Of 4N the table has half.
+// (cos, sin) of all angles of the circle: the table of the specification has all 2N, or the first half of 4N; then
+// `opposite` has the other one.
 struct Circle {
-    const f64* table;
-    Count doubles;
-    f64 both[2 * 4 * longestDirect];
-    Circle(const DctSpec* spec, bool odd) : table(dctPart<f64>(spec, spec->turns)), doubles(Count(4) * spec->len)
-    {
-        if (odd) return;
-        for (Count i = 0; i < doubles; i += 4)
-            for (Count j = i; j < i + 4; j += width) {
-                const Vector v = load(table + j);
-                store(both + j, v);
-                store(both + doubles + j, -v);
-            }
-        table = both;
-        doubles *= 2;
-    }
+    const f64 *table, *opposite;
+    Count doubles; // in each
 };
 
+template <bool odd>
 void sumsOfTerms(const Circle& circle, const Pair* terms, int count, const Angles* angles, Pair* sums)
 {
-    const f64* const table = circle.table;
-    const Count around = circle.doubles;
+    const f64 *const table = circle.table, *const opposite = circle.opposite;
+    const Count half = circle.doubles, around = odd ? half : 2 * half;
     Pair sum[sumsAtOnce] = {};
     Count at[sumsAtOnce];
     for (int i = 0; i < sumsAtOnce; ++i) at[i] = Count(2) * angles[i].start;
     for (int n = 0; n < count; ++n)
 #pragma GCC unroll 4
         for (int i = 0; i < sumsAtOnce; ++i) {
-            sum[i] += terms[n] * loadn<2>(table + at[i]);
+            sum[i] += terms[n] * loadn<2>(odd || at[i] < half ? table + at[i] : opposite + (at[i] - half));
             const Count next = at[i] + Count(2) * angles[i].step, less = next - around;
             at[i] = less < 0 ? next : less;
         }
     for (int i = 0; i < sumsAtOnce; ++i) sums[i] = sum[i];
 }
 
-template <bool odd> void forwardDirectly(const DctSpec* spec, const f64* x, f64* y)
+template <bool odd>
+[[gnu::noinline]] void forwardDirectly(const DctSpec* spec, const Circle& circle, const f64* x, f64* y)
 {
-    const Circle circle(spec, odd);
     const int len = spec->len, some = (len + 1) / 2;
     Pair terms[2][longestDirect / 2]; // for even and for odd k
     for (int n = 0; n < some; ++n) {
@@ -74,7 +63,7 @@ template <bool odd> void forwardDirectly(const DctSpec* spec, const f64* x, f64*
                 const int k = first + 2 * i <= last ? first + 2 * i : first;
                 angles[i] = odd ? Angles{k / 2, k} : Angles{k, 2 * k};
             }
-            sumsOfTerms(circle, terms[parity], some, angles, sums);
+            sumsOfTerms<odd>(circle, terms[parity], some, angles, sums);
             for (int i = 0; i < sumsAtOnce && first + 2 * i <= last; ++i) {
                 const int k = first + 2 * i;
                 const f64 scale = k ? spec->other : spec->first;
@@ -84,9 +73,9 @@ template <bool odd> void forwardDirectly(const DctSpec* spec, const f64* x, f64*
         }
 }
 
-template <bool odd> void inverseDirectly(const DctSpec* spec, const f64* y, f64* x)
+template <bool odd>
+[[gnu::noinline]] void inverseDirectly(const DctSpec* spec, const Circle& circle, const f64* y, f64* x)
 {
-    const Circle circle(spec, odd);
     const int len = spec->len, last = odd ? len - 1 : len / 2;
     Pair terms[2][longestDirect / 2]; // of even and of odd k
     for (int k = 0; k <= last; k += odd ? 2 : 1) {
@@ -101,8 +90,8 @@ template <bool odd> void inverseDirectly(const DctSpec* spec, const f64* y, f64*
             angles[0][i] = {0, odd ? 2 * n + 1 : 4 * n + 2};
             angles[1][i] = {2 * n + 1, 4 * n + 2};
         }
-        sumsOfTerms(circle, terms[0], last / 2 + 1, angles[0], even);
-        if (!odd) sumsOfTerms(circle, terms[1], (last + 1) / 2, angles[1], uneven);
+        sumsOfTerms<odd>(circle, terms[0], last / 2 + 1, angles[0], even);
+        if (!odd) sumsOfTerms<odd>(circle, terms[1], (last + 1) / 2, angles[1], uneven);
         for (int i = 0; i < sumsAtOnce && 2 * (first + i) < len; ++i) {
             const int n = first + i;
             const f64 sign = n % 2 ? -1.0 : 1.0;
@@ -114,13 +103,31 @@ template <bool odd> void inverseDirectly(const DctSpec* spec, const f64* y, f64*
     }
 }
 
+// act(circle), where what act takes of the stack is in a frame of its own: one of a page or more would have to touch
+// its pages on Windows.
+template <class Act> void withOpposite(const DctSpec* spec, Act act)
+{
+    const f64* const table = dctPart<f64>(spec, spec->turns);
+    const Count doubles = Count(4) * spec->len;
+    f64 opposite[4 * longestDirect];
+    for (Count i = 0; i < doubles; i += 4)
+        for (Count j = i; j < i + 4; j += width) store(opposite + j, -load(table + j));
+    act(Circle{table, opposite, doubles});
+}
+inline Circle wholeCircle(const DctSpec* spec)
+{
+    return {dctPart<f64>(spec, spec->turns), nullptr, Count(4) * spec->len};
+}
+
 [[gnu::noinline]] void forwardDirect(const DctSpec* spec, const f64* x, f64* y)
 {
-    spec->len % 2 ? forwardDirectly<true>(spec, x, y) : forwardDirectly<false>(spec, x, y);
+    if (spec->len % 2) return forwardDirectly<true>(spec, wholeCircle(spec), x, y);
+    withOpposite(spec, [=](const Circle& circle) { forwardDirectly<false>(spec, circle, x, y); });
 }
 [[gnu::noinline]] void inverseDirect(const DctSpec* spec, const f64* y, f64* x)
 {
-    spec->len % 2 ? inverseDirectly<true>(spec, y, x) : inverseDirectly<false>(spec, y, x);
+    if (spec->len % 2) return inverseDirectly<true>(spec, wholeCircle(spec), y, x);
+    withOpposite(spec, [=](const Circle& circle) { inverseDirectly<false>(spec, circle, y, x); });
 }
 
 } // namespace

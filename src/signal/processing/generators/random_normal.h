@@ -86,8 +86,9 @@ template <class T> struct Normal {
     NormalState<T>& state;
     NormalPair pair{static_cast<f64>(state.mean), static_cast<f64>(state.stdDev)};
 
-    // The next numbers, n at most; how many, which may be none.
-    size_t operator()(f64* d, size_t n)
+    // The next numbers, n at most; how many, which may be none. (In a frame of its own: together with a caller's
+    // numbers it would have more than a page.)
+    [[gnu::noinline]] size_t operator()(f64* d, size_t n)
     {
         if (!state.nothingPending) {
             d[0] = pair.value(state.u1, state.factor);

@@ -44,8 +44,10 @@ template <class T> void oneByOne(const T* src, T* dst, ptrdiff_t n, Cascade<T> c
 #if SIG5D_LEVEL > 0
 
 // Vectors that go side by side. One of real sections leaves the processor idle most of the time; of complex ones, four
-// products and two sums for each, it does not.
-template <class T> constexpr int mostVectors = partsOf<T> == 1 ? 4 : 1;
+// products and two sums for each, it does not. Four of 64 bytes and all that belongs to them would take more than a
+// page of the stack where there are eight registers.
+constexpr int mostRealVectors = sizeof(void*) == 4 && vectorBytes == 64 ? 2 : 4;
+template <class T> constexpr int mostVectors = partsOf<T> == 1 ? mostRealVectors : 1;
 
 // Masks of lanes from one on, or up to one, by where one starts to read.
 struct Window {
@@ -169,6 +171,14 @@ template <int vectors, class T> [[gnu::noinline]] void skewed(const T* src, T* d
     eachNumber([](Row<T> r, int lane, Row<T> given, int i) { given.set(i, r.get(lane)); }, tapsInSection, rows);
 }
 
+// With so many vectors, at least `fewest`.
+template <int fewest, class T> void skewed_by(int vectors, const T* src, T* dst, ptrdiff_t n, const Cascade<T>& c)
+{
+    if constexpr (fewest < mostVectors<T>)
+        if (vectors > fewest) return skewed_by<fewest + 1>(vectors, src, dst, n, c);
+    skewed<fewest>(src, dst, n, c);
+}
+
 // A zero times an infinite tap raises an exception.
 inline bool isFinite(f64 x) { return (BitsOf<f64>::of(x) & infinityBits) != infinityBits; }
 inline bool isFinite(Complex<f64> x) { return isFinite(x.re) && isFinite(x.im); }
@@ -190,16 +200,8 @@ template <class T> void filter(const T* src, T* dst, ptrdiff_t n, Cascade<T> c)
         const Cascade<T> now = {sections, c.taps, c.d};
         if (sections == 1 || n < fewestSamples || !allFinite(c.taps, sections * tapsInSection))
             oneByOne(src, dst, n, now);
-        else if (vectors == 1)
-            skewed<1>(src, dst, n, now);
-        else if constexpr (mostVectors<T> == 4) {
-            if (vectors == 2)
-                skewed<2>(src, dst, n, now);
-            else if (vectors == 3)
-                skewed<3>(src, dst, n, now);
-            else
-                skewed<4>(src, dst, n, now);
-        }
+        else
+            skewed_by<1>(vectors, src, dst, n, now);
         c.sections -= sections;
         c.taps.moveOn(sections * tapsInSection);
         c.d.moveOn(sections * delaysInSection);

@@ -46,13 +46,21 @@ template <int terms> struct CosineBlock {
     }
 };
 
+// Sines, or distances of cosines from 1, behind a block's start. In two frames of the stack: one of a page or more
+// would have to touch its pages on Windows.
+template <int terms> struct CosineTable {
+    alignas(64) f64 of[terms][mostWeights];
+};
+
 template <int terms> class CosineWeights
 {
 public:
     // n: elements of the window. Of few weights each is a block of its own; more have up to 16 blocks, or such of 128
     // weights.
-    [[gnu::noinline]] CosineWeights(size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms])
-        : weights_(n / 2), circle_(static_cast<f64>(static_cast<i32>(n - 1))), mean_(mean)
+    [[gnu::noinline]] CosineWeights(size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms],
+                                    CosineTable<terms>& sines, CosineTable<terms>& lessThanOnes)
+        : weights_(n / 2), circle_(static_cast<f64>(static_cast<i32>(n - 1))), mean_(mean), sines_(sines),
+          lessThanOnes_(lessThanOnes)
     {
         for (int h = 0; h < terms; ++h) amplitudes_[h] = amplitudes[h];
         if (weights_ <= 4 * startsAtOnce) return;
@@ -84,8 +92,8 @@ private:
         for (int h = 0; h < terms; ++h) {
             here_.cosine[h] = splat(startCosine_[h][start]);
             here_.sine[h] = splat(startSine_[h][start]);
-            here_.lessThanOnes[h] = lessThanOne_[h];
-            here_.sines[h] = sine_[h];
+            here_.lessThanOnes[h] = lessThanOnes_.of[h];
+            here_.sines[h] = sines_.of[h];
         }
     }
 
@@ -95,8 +103,8 @@ private:
             for (int h = 0; h < terms; ++h) {
                 const QuarterAngle<V> angle = circle_.small_angle(indexes_from(k) * all_lanes<V>(h + 1));
                 const NearZero<V> a = near_zero(angle.rest, angle.below);
-                store(sine_[h] + k, angle.rest - a.sine_rest);
-                store(lessThanOne_[h] + k, a.half - a.cosine_rest);
+                store(sines_.of[h] + k, angle.rest - a.sine_rest);
+                store(lessThanOnes_.of[h] + k, a.half - a.cosine_rest);
             }
     }
 
@@ -131,11 +139,27 @@ private:
     Circle circle_;
     sig5d::Doubled mean_;
     f64 amplitudes_[terms];
-    alignas(64) f64 sine_[terms][mostWeights], lessThanOne_[terms][mostWeights];
+    CosineTable<terms>&sines_, &lessThanOnes_;
     alignas(64) f64 high_[startsAtOnce], low_[startsAtOnce];
     alignas(64) f64 startCosine_[terms][startsAtOnce], startSine_[terms][startsAtOnce];
     CosineBlock<terms> here_;
 };
+
+// Both ends of an array times these weights.
+template <int terms, class T>
+[[gnu::noinline]] void weigh_by_cosines(const T* a, T* d, size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms],
+                                        CosineTable<terms>& sines)
+{
+    CosineTable<terms> lessThanOnes;
+    CosineWeights<terms> weights(n, mean, amplitudes, sines, lessThanOnes);
+    weigh(a, d, n, weights);
+}
+template <int terms, class T>
+inline void weigh_by_cosines(const T* a, T* d, size_t n, sig5d::Doubled mean, const f64 (&amplitudes)[terms])
+{
+    CosineTable<terms> sines;
+    weigh_by_cosines(a, d, n, mean, amplitudes, sines);
+}
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -45,8 +45,7 @@ template <class T> void bartlett(const T* a, T* d, int n)
 template <class T> void raised_cosine(const T* a, T* d, int n, f64 mean, f64 amplitude)
 {
     const size_t all = static_cast<size_t>(n);
-    CosineWeights<1> weights(all, {mean, 0.0}, {amplitude});
-    weigh(a, d, all, weights);
+    weigh_by_cosines<1>(a, d, all, {mean, 0.0}, {amplitude});
     copy_middle(a, d, all);
 }
 template <class T> void hann(const T* a, T* d, int n) { raised_cosine(a, d, n, 0.5, 0.5); }
@@ -57,8 +56,7 @@ template <class T> void blackman(const T* a, T* d, int n, f64 alpha)
     if (n == 3) return keep_middle(a, d);
     const size_t all = static_cast<size_t>(n);
     const sig5d::Doubled twiceMean = twoSum(alpha, 1.0);
-    CosineWeights<2> weights(all, {twiceMean.hi * 0.5, twiceMean.lo * 0.5}, {0.5, alpha * 0.5});
-    weigh(a, d, all, weights);
+    weigh_by_cosines<2>(a, d, all, {twiceMean.hi * 0.5, twiceMean.lo * 0.5}, {0.5, alpha * 0.5});
     if (n % 2) d[n / 2] = weighted(a[n / 2], 1.0 + (alpha - alpha)); // 1, if there is a sum at all
 }
 template <class T> void standard_blackman(const T* a, T* d, int n) { blackman(a, d, n, -0.16); }

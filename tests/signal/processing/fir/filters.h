@@ -2,8 +2,9 @@
 #pragma once
 #include "oracle/fir.h"
 #include "support/library.h"
+#include "support/noise.h"
+#include "support/same_bits.h"
 #include <cstring>
-#include <random>
 #include <vector>
 
 namespace fir {
@@ -66,29 +67,8 @@ private:
     }
 };
 
-inline void draw(std::mt19937& g, Ipp64f& x) { x = std::uniform_real_distribution<>(-1, 1)(g); }
-inline void draw(std::mt19937& g, Ipp64fc& x)
-{
-    draw(g, x.re);
-    draw(g, x.im);
-}
-template <class T> std::vector<T> noise(std::mt19937& g, size_t n)
-{
-    std::vector<T> v(n);
-    for (T& x : v) draw(g, x);
-    return v;
-}
-
-inline bool same(Ipp64f a, Ipp64f b) { return !std::memcmp(&a, &b, sizeof a) || (a != a && b != b); }
-inline bool same(Ipp64fc a, Ipp64fc b) { return same(a.re, b.re) && same(a.im, b.im); }
-// The first place where two arrays differ, not counting what a NaN carries; -1: none.
-template <class T> int difference(const std::vector<T>& a, const std::vector<T>& b)
-{
-    if (a.size() != b.size()) return 0;
-    for (size_t i = 0; i < a.size(); ++i)
-        if (!same(a[i], b[i])) return static_cast<int>(i);
-    return -1;
-}
+using support::difference;
+using support::noise;
 
 template <class T> std::vector<T> tail(std::vector<T> history, const std::vector<T>& x)
 {

@@ -2,8 +2,8 @@
 #pragma once
 #include "oracle/iir.h"
 #include "support/library.h"
+#include "support/noise.h"
 #include "support/same_bits.h"
-#include <random>
 #include <vector>
 
 namespace iir {
@@ -59,18 +59,8 @@ template <class T> struct Filter {
     int operator()(const T* src, T* dst, int n) { return F::filter(src, dst, n, state); }
 };
 
-inline void draw(std::mt19937& g, Ipp64f& x) { x = std::uniform_real_distribution<>(-1, 1)(g); }
-inline void draw(std::mt19937& g, Ipp64fc& x)
-{
-    draw(g, x.re);
-    draw(g, x.im);
-}
-template <class T> std::vector<T> noise(std::mt19937& g, size_t n)
-{
-    std::vector<T> v(n);
-    for (T& x : v) draw(g, x);
-    return v;
-}
+using support::difference;
+using support::noise;
 inline void set(Ipp64f& x, double re, double) { x = re; }
 inline void set(Ipp64fc& x, double re, double im) { x = {re, im}; }
 
@@ -85,15 +75,6 @@ template <class T> Design<T> draw(std::mt19937& g, Kind kind, int count)
         for (int s = 0; s < count; ++s) set(f.taps[6 * s + 3], 2.5 + s % 3, -0.25);
     }
     return f;
-}
-
-// The first place where two arrays differ, not counting what a NaN carries; -1: none.
-template <class T> int difference(const std::vector<T>& a, const std::vector<T>& b)
-{
-    if (a.size() != b.size()) return 0;
-    for (size_t i = 0; i < a.size(); ++i)
-        if (!support::sameBits(a[i], b[i])) return static_cast<int>(i);
-    return -1;
 }
 
 } // namespace iir

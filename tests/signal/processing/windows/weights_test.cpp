@@ -2,6 +2,7 @@
 #include "oracle/circle.h"
 #include "signal/processing/windows/cosines.h"
 
+using sig5d::px::CosineTable;
 using sig5d::px::CosineWeights;
 using sig5d::px::mostWeights;
 
@@ -16,8 +17,10 @@ TEST(LongWindows, CosineWeightsStayAsExact)
     double worst = 0;
     for (const size_t n : {size_t{1} << 20, size_t{1} << 27, (size_t{1} << 27) + 1, (size_t{1} << 31) - 1}) {
         const double alpha = -0.16;
-        CosineWeights<1> hann(n, {0.5, 0.0}, {0.5});
-        CosineWeights<2> blackman(n, {(alpha + 1) / 2, 0.0}, {0.5, alpha / 2});
+        CosineTable<1> sines, lessThanOnes;
+        CosineTable<2> sines2, lessThanOnes2;
+        CosineWeights<1> hann(n, {0.5, 0.0}, {0.5}, sines, lessThanOnes);
+        CosineWeights<2> blackman(n, {(alpha + 1) / 2, 0.0}, {0.5, alpha / 2}, sines2, lessThanOnes2);
         for (size_t part = 0; part < 64; ++part) {
             const size_t first = n / 2 / 64 * part / 2048 * 2048; // where starts are computed anew
             double v[mostWeights], w[mostWeights];
