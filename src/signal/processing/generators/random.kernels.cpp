@@ -1,7 +1,7 @@
 // Random numbers, uniform and normal.
 #include "frame/entry.h"
-#include "kernel/rounding.h"
 #include "signal/processing/generators/random_normal.h"
+#include "signal/processing/generators/round_to.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -14,17 +14,6 @@ template <class T> struct Uniform {
         return n;
     }
 };
-
-// Rounded to nearest, ties to even, within the limits of the type. No number is a NaN.
-template <class T> [[gnu::noinline]] void round_to(T* d, const f64* a, size_t n)
-{
-    if constexpr (vectorBytes > 0)
-        if (rounds_to_nearest()) {
-            using Integers = Rounded<f64, LimitsOfInteger<T>, NearestEven, false>;
-            return map<InFlight<1, false, 16>>(n, d, Same{}, converted(a, AsElements<T, Integers>{Integers(1.0)}));
-        }
-    for (size_t i = 0; i < n; ++i) d[i] = static_cast<T>(rounded<LimitsOfInteger<T>>(a[i], Scale(0), NearestEven));
-}
 
 // next(d, n) gives some of the next n numbers at a time. (As a copy it would be moved in vectors, for which GCC does
 // not align the stack.)

@@ -13,8 +13,6 @@ struct Line {
     template <class V> V operator()(V i) const { return all_lanes<V>(offset) + all_lanes<V>(slope) * i; }
 };
 
-template <class D> using LimitsOf = Limits<width<D>, isSigned<D>>;
-
 // A line as elements of type D: a source of map.
 template <class D> struct Points {
     Indexes<1> i;
@@ -42,7 +40,7 @@ template <int n, class D> inline auto integers_of(Points<D> a)
     if constexpr (n > lanes<f64>)
         return low_halves(integers_of<n / 2>(a), integers_of<n / 2>(a + n / 2));
     else
-        return Rounded<f64, LimitsOf<D>, NearestEven, false>(1.0).lanes_of(a.line(load_lanes<n>(a.i)));
+        return Rounded<f64, LimitsOfInteger<D>, NearestEven, false>(1.0).lanes_of(a.line(load_lanes<n>(a.i)));
 }
 template <int n, class D> inline auto load_lanes(Points<D> a)
 {
@@ -68,7 +66,7 @@ template <class D> [[gnu::noinline]] void draw_integers(D* d, int n, Line line)
     } else {
         const Scale one(0);
         for (int i = 0; i < n; ++i)
-            d[i] = static_cast<D>(rounded<LimitsOf<D>>(line(static_cast<f64>(i)), one, NearestEven));
+            d[i] = static_cast<D>(rounded<LimitsOfInteger<D>>(line(static_cast<f64>(i)), one, NearestEven));
     }
 }
 
