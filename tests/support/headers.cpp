@@ -1,0 +1,1 @@
+// What the precompiled header of the tests belongs to.
