@@ -7,9 +7,11 @@
 # line, without which the same store loop ran at 50 or at 62 bytes per cycle, as chance had it. px is to be small, since
 # beside it there are faster bodies; but with -Os GCC 12 loses the upper half of a magnitude in 32-bit code. Loops over
 # single elements are what kernels leave to the ends of arrays, and are not worth a vectorised copy each, which made the
-# library 3 % larger; in a few files such a loop does the work.
+# library 3 % larger; in a few files such a loop does the work. (Of find_indexes GCC 12 otherwise makes AVX2 code that
+# returns with the upper halves of registers in use.)
 set(optimise -O3 -fno-tree-loop-vectorize -falign-loops=64)
-set(vectorised matrix/find_mask.kernels.cpp signal/processing/iir/filter.kernels.cpp vector/product.kernels.cpp)
+set(vectorised matrix/find_indexes.kernels.cpp matrix/find_mask.kernels.cpp signal/processing/iir/filter.kernels.cpp
+    vector/product.kernels.cpp)
 if(SIG5D_SANITIZE) # whose checks in every loop took ten times as long to optimise as the loops
     set(optimise -O1 -fexpensive-optimizations -falign-loops=64) # the latter clears the upper halves of vector registers
 endif()
