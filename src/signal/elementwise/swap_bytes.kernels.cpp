@@ -1,6 +1,7 @@
 // Reversal of the bytes of each element.
 #include "frame/entry.h"
 #include "kernel/map.h"
+#include "kernel/simd/triples.h"
 #include <utility>
 
 namespace sig5d::SIG5D_VARIANT {
@@ -26,15 +27,13 @@ struct Swapped {
     template <class V> V operator()(V v) const
     {
         constexpr size_t bytes = sizeof(V), group = sizeof(v[0]);
-#if SIG5D_LEVEL == 1
-        // There is no shuffle of bytes: the two of each pair, then the pairs.
-        using Pairs = Vec<u16, bytes / 2>;
-        const Pairs pairs = reinterpret_cast<Pairs>(v), swapped = pairs << 8 | pairs >> 8;
-        return reinterpret_cast<V>(reversed<group / 2>(swapped, std::make_index_sequence<bytes / 2>{}));
-#else
-        using Bytes = Vec<u8, bytes>;
-        return reinterpret_cast<V>(reversed<group>(reinterpret_cast<Bytes>(v), std::make_index_sequence<bytes>{}));
-#endif
+        if constexpr (hasByteShuffle) {
+            return as<V>(reversed<group>(as<Vec<u8, bytes>>(v), std::make_index_sequence<bytes>{}));
+        } else { // the two of each pair, then the pairs
+            using Pairs = Vec<u16, bytes / 2>;
+            const Pairs pairs = as<Pairs>(v), swapped = pairs << 8 | pairs >> 8;
+            return as<V>(reversed<group / 2>(swapped, std::make_index_sequence<bytes / 2>{}));
+        }
     }
 };
 
@@ -51,9 +50,9 @@ inline void swap_plain(size_t n, const u24* a, u24* d)
     }
 }
 
-#if SIG5D_LEVEL < 2
+#if SIG5D_LEVEL == 0
 
-inline void swap_few(size_t n, const u24* a, u24* d) { swap_plain(n, a, d); }
+void swap_bytes(const u24* a, u24* d, int n) { swap_plain(static_cast<size_t>(n), a, d); }
 
 #else
 
@@ -64,17 +63,15 @@ inline Vec<u8, 16> swapped_window(Vec<u8, 16> v)
     return __builtin_shufflevector(v, v, 2, 1, 0, 5, 4, 3, 8, 7, 6, 11, 10, 9, 14, 13, 12, 15);
 }
 
-inline void swap_few(size_t n, const u24* a, u24* d)
+inline void swap_windows(size_t n, const u24* a, u24* d)
 {
-    if (n < 6) return swap_plain(n, a, d);
     constexpr size_t step = 15;
     const u8* p = reinterpret_cast<const u8*>(a);
     u8* q = reinterpret_cast<u8*>(d);
     size_t left = 3 * n;
     u8* const last = q + (left - step);
     // The last five elements, in the upper 15 bytes of what is read.
-    const auto tail = swapped_window(
-        reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(loadn<16>(p + (left - 16))), 1)));
+    const auto tail = swapped_window(bytes_from<1>(loadn<16>(p + (left - 16))));
     auto v0 = loadn<16>(p);
     for (; left >= step + 16; left -= step) { // every window is loaded before its first byte is stored
         const auto next = loadn<16>(p += step);
@@ -84,28 +81,21 @@ inline void swap_few(size_t n, const u24* a, u24* d)
     }
     store_at(q, swapped_window(v0));
     store_part<8>(last, tail);
-    store_part<8>(last + 7, reinterpret_cast<Vec<u8, 16>>(_mm_srli_si128(reinterpret_cast<__m128i>(tail), 7)));
+    store_part<8>(last + 7, bytes_from<7>(tail));
+}
+inline void swap_few(size_t n, const u24* a, u24* d)
+{
+    if constexpr (hasByteShuffle) {
+        if (n >= 6) return swap_windows(n, a, d);
+    }
+    swap_plain(n, a, d);
 }
 
-#endif
-
-#if SIG5D_LEVEL == 0
-
-void swap_bytes(const u24* a, u24* d, int n) { swap_plain(static_cast<size_t>(n), a, d); }
-
-#else
-
-// Three vectors hold whole elements: as many as a vector has bytes. The first byte of an element comes from two bytes
-// behind, the last from two before, the middle one stays.
+// The first byte of an element comes from two bytes behind, the last from two before, the middle one stays.
 using Bytes = Vec<u8>;
 constexpr size_t L = vectorBytes;
-struct Group {
-    Bytes v[3];
-};
 
-#if SIG5D_LEVEL < 2
-
-// From these places of an element, in the k-th vector.
+// Without a shuffle of bytes: from these places of an element, in the k-th vector of a group.
 template <int place, int k, size_t... j> inline Bytes every_third(std::index_sequence<j...>)
 {
     return Bytes{static_cast<u8>((j + k) % 3 == place ? 0xFF : 0)...};
@@ -115,44 +105,14 @@ template <int k> inline Bytes chosen(Bytes behind, Bytes here, Bytes before)
     constexpr auto all = std::make_index_sequence<L>{};
     return (behind & every_third<0, k>(all)) | (here & every_third<1, k>(all)) | (before & every_third<2, k>(all));
 }
-inline Group swapped_group(const u8* p)
+template <class V> inline Triples moved_group(const u8* p, V x0, V x1, V x2)
 {
-    const Bytes x0 = in_register(loadn<L>(p)), x1 = in_register(loadn<L>(p + L)), x2 = in_register(loadn<L>(p + 2 * L));
     // Nothing outside the group: in place that would wait for the store just before.
-    const Bytes before = reinterpret_cast<Bytes>(_mm_slli_si128(reinterpret_cast<__m128i>(x0), 2));
-    const Bytes behind = reinterpret_cast<Bytes>(_mm_srli_si128(reinterpret_cast<__m128i>(x2), 2));
-    return {chosen<0>(loadn<L>(p + 2), x0, before), chosen<1>(loadn<L>(p + L + 2), x1, loadn<L>(p + L - 2)),
-            chosen<2>(behind, x2, loadn<L>(p + 2 * L - 2))};
+    return {chosen<0>(loadn<L>(p + 2), x0, bytes_up<2>(x0)), chosen<1>(loadn<L>(p + L + 2), x1, loadn<L>(p + L - 2)),
+            chosen<2>(bytes_from<2>(x2), x2, loadn<L>(p + 2 * L - 2))};
 }
 
-#else
-
-#if SIG5D_LEVEL >= 5
-inline Bytes shuffled_bytes(Bytes v, Bytes from)
-{
-    return reinterpret_cast<Bytes>(_mm256_shuffle_epi8(reinterpret_cast<__m256i>(v), reinterpret_cast<__m256i>(from)));
-}
-// Beside each 16 bytes those behind them, at the upper end those before.
-inline Group neighbours(Bytes x0, Bytes x1, Bytes x2)
-{
-    const auto v0 = reinterpret_cast<__m256i>(x0), v1 = reinterpret_cast<__m256i>(x1),
-               v2 = reinterpret_cast<__m256i>(x2);
-    return {reinterpret_cast<Bytes>(_mm256_permute4x64_epi64(_mm256_blend_epi32(v0, v1, 0x01), 0x4E)),
-            reinterpret_cast<Bytes>(_mm256_permute2x128_si256(v0, v2, 0x21)),
-            reinterpret_cast<Bytes>(_mm256_permute4x64_epi64(_mm256_blend_epi32(v2, v1, 0x80), 0x4E))};
-}
-#else
-inline Bytes shuffled_bytes(Bytes v, Bytes from)
-{
-    return reinterpret_cast<Bytes>(_mm_shuffle_epi8(reinterpret_cast<__m128i>(v), reinterpret_cast<__m128i>(from)));
-}
-inline Group neighbours(Bytes x0, Bytes x1, Bytes x2)
-{
-    return {x1, reinterpret_cast<Bytes>(_mm_move_ss(reinterpret_cast<__m128>(x0), reinterpret_cast<__m128>(x2))), x1};
-}
-#endif
-
-// Of each 16 bytes, where the j-th comes from: one of them, or of their neighbours.
+// With it: of each 16 bytes, where the j-th comes from: one of them, or of their neighbours.
 constexpr u8 from_here(size_t j, size_t place)
 {
     const size_t from = place == 0 ? j + 2 : place == 2 ? j - 2 : j;
@@ -162,27 +122,32 @@ constexpr u8 from_neighbours(size_t j, size_t place)
 {
     return static_cast<u8>(from_here(j, place) < 16 ? 0x80 : place == 0 ? j - 14 : j + 14);
 }
-template <int k, size_t... j> inline Bytes swapped_vector(Bytes here, Bytes other, std::index_sequence<j...>)
+template <int k, class V, size_t... j> inline V swapped_vector(V here, V other, std::index_sequence<j...>)
 {
-    return shuffled_bytes(here, Bytes{from_here(j % 16, (j + k * L) % 3)...}) |
-           shuffled_bytes(other, Bytes{from_neighbours(j % 16, (j + k * L) % 3)...});
+    return as<V>(bytes_at(bits(here), bits(V{from_here(j % 16, (j + k * L) % 3)...})) |
+                 bytes_at(bits(other), bits(V{from_neighbours(j % 16, (j + k * L) % 3)...})));
 }
-inline Group swapped_group(const u8* p)
+template <class V> inline Triples shuffled_group(V x0, V x1, V x2)
 {
-    const Bytes x0 = in_register(loadn<L>(p)), x1 = in_register(loadn<L>(p + L)), x2 = in_register(loadn<L>(p + 2 * L));
-    const Group other = neighbours(x0, x1, x2);
+    const Triples other = neighbours_of(x0, x1, x2);
     constexpr auto all = std::make_index_sequence<L>{};
     return {swapped_vector<0>(x0, other.v[0], all), swapped_vector<1>(x1, other.v[1], all),
             swapped_vector<2>(x2, other.v[2], all)};
 }
-
-#endif
+inline Triples swapped_group(const u8* p)
+{
+    const Bytes x0 = in_register(loadn<L>(p)), x1 = in_register(loadn<L>(p + L)), x2 = in_register(loadn<L>(p + 2 * L));
+    if constexpr (hasByteShuffle)
+        return shuffled_group(x0, x1, x2);
+    else
+        return moved_group(p, x0, x1, x2);
+}
 
 // As many groups as there are. Returns the elements that are left.
 template <class Store> inline size_t swap_groups(size_t n, const u8*& p, u8*& q, Store write)
 {
     for (; n >= L; n -= L) {
-        const Group group = swapped_group(p);
+        const Triples group = swapped_group(p);
         for (int k = 0; k < 3; ++k) write(q + k * L, group.v[k]);
         p += 3 * L;
         q += 3 * L;
