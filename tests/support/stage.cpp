@@ -157,7 +157,7 @@ void Stage::putEach(registry::Arguments& a, const Places& places, const Shared& 
             }
         GuardedRegion& r = region(static_cast<size_t>(i), bytes + 2 * canaryBytes + 4096);
         spots_[i] = spot(r, bytes, places[i]);
-        a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + (spots_[i].own - r.own());
+        a.values[i].p = (writable ? r.readWrite() : r.readOnly()) + (spots_[i].own - r.own()) + a.lead(i);
         write(a, i);
     }
     for (const registry::InPlace& pair : shared) {

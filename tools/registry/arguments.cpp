@@ -185,7 +185,8 @@ void tryExtents(Arguments& a)
     auto memory = a.content;
     auto values = a.values;
     for (int i = 0; i < a.f.argCount; ++i)
-        if (isPointer(a.f.args[i]) && !a.null[i]) values[i].p = memory[i].empty() ? somewhere() : memory[i].data();
+        if (isPointer(a.f.args[i]) && !a.null[i])
+            values[i].p = memory[i].empty() ? somewhere() : memory[i].data() + a.lead(i);
     call(a.f, values.data());
     for (int i = 0; i < a.f.argCount; ++i)
         if (a.f.args[i].room) {
@@ -213,6 +214,12 @@ size_t Arguments::bytes(int i) const
     const bool plain = arg.kind == Kind::opaque || arg.kind == Kind::work;
     const size_t unit = plain ? 1 : arg.kind == Kind::handle ? sizeof(void*) : static_cast<size_t>(arg.elementBytes);
     return static_cast<size_t>(extent[i]) * unit;
+}
+
+size_t Arguments::lead(int i) const
+{
+    const bool any = f.args[i].rows && extent[i] > 0;
+    return any ? static_cast<size_t>(f.args[i].rows->lead(values.data())) : 0;
 }
 
 bool Arguments::valid() const

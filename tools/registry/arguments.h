@@ -19,7 +19,8 @@ struct Arguments {
     std::vector<std::shared_ptr<const Arguments>> made; // of each state: the arguments of the call that makes it
 
     size_t bytes(int argument) const;
-    bool valid() const; // no check fails
+    size_t lead(int argument) const; // of these bytes, those in front of the pointer
+    bool valid() const;              // no check fails
 
     // Whether the byte lies between two rows of the argument: no call may change it, nor do its results depend on it.
     bool inGap(int argument, size_t byte) const;

@@ -1,0 +1,110 @@
+// The sums of image filters: dst(x, y) = sum of taps(t, s) * row(y + t)(x + s) over the rows t, and the columns s in
+// each of them. Each pixel is one running sum from 0.0 in that order, so the work goes in parallel across pixels only,
+// and every width of vectors and shape of block gives the same bits.
+//
+// What bounds such a kernel is loads: a product needs a pixel and a tap, and most loads of pixels lie across cache
+// lines. A block therefore has `groups` rows of results and `columns` vectors of each under way, for which
+// groups + columns loads serve groups * columns products.
+#pragma once
+#include "image/layout.h"
+#include "kernel/simd.h"
+
+namespace sig5d::SIG5D_VARIANT {
+namespace {
+
+// The kernel as the sums take it: tap (t, s) at s * height + t, so that those which meet in a pixel lie side by side.
+template <class T> struct Taps {
+    const T* first;
+    int width, height;
+};
+
+template <int w> inline Vec<f64, w> everywhere(const f64* p) { return broadcast<w>(p); }
+template <int w> inline Vec<f32, w> everywhere(const f32* p) { return splatn<w>(*p); }
+
+// What one row of the image adds to the groups lo..hi-1; `tap` is that of group 0 in the first column.
+template <int w, int lo, int hi, int groups, int columns, class T>
+[[gnu::always_inline]] inline void add_row(Vec<T, w> (&sum)[groups][columns], const T* x, const T* tap, int kernelWidth,
+                                           ptrdiff_t kernelHeight)
+{
+    for (const T* const end = x + kernelWidth; x < end; ++x, tap += kernelHeight) {
+        Vec<T, w> taps[groups];
+#pragma GCC unroll 4
+        for (int i = lo; i < hi; ++i) taps[i] = everywhere<w>(tap - i);
+#pragma GCC unroll 16
+        for (int j = 0; j < columns; ++j) {
+            const Vec<T, w> pixels = loadn<w>(x + j * w);
+#pragma GCC unroll 4
+            for (int i = lo; i < hi; ++i) sum[i][j] += taps[i] * pixels;
+        }
+        // Pixels and taps are loaded where they are used: to carry them over to a later step takes registers that are
+        // not there.
+        asm volatile("" ::: "memory");
+    }
+}
+
+// groups * columns vectors of results, from a kernel of at least groups - 1 rows. The rows' addresses are those of the
+// first result's first pixel, x pixels further on.
+template <int w, int groups, int columns, class T>
+[[gnu::always_inline]] inline void block(const T* const* rows, int x, const Taps<T>& taps, T* dst, ptrdiff_t dstStep)
+{
+    static_assert(groups <= mostGroups);
+    const int kw = taps.width, kh = taps.height;
+    Vec<T, w> sum[groups][columns];
+#pragma GCC unroll 4
+    for (int i = 0; i < groups; ++i)
+#pragma GCC unroll 16
+        for (int j = 0; j < columns; ++j) sum[i][j] = splatn<w>(T(0));
+    if constexpr (groups > 1) add_row<w, 0, 1>(sum, rows[0] + x, taps.first, kw, kh);
+    if constexpr (groups > 2) add_row<w, 0, 2>(sum, rows[1] + x, taps.first + 1, kw, kh);
+    if constexpr (groups > 3) add_row<w, 0, 3>(sum, rows[2] + x, taps.first + 2, kw, kh);
+    for (int r = groups - 1; r < kh; ++r) add_row<w, 0, groups>(sum, rows[r] + x, taps.first + r, kw, kh);
+    if constexpr (groups > 3)
+        add_row<w, groups - 3, groups>(sum, rows[kh + groups - 4] + x, taps.first + kh + groups - 4, kw, kh);
+    if constexpr (groups > 2)
+        add_row<w, groups - 2, groups>(sum, rows[kh + groups - 3] + x, taps.first + kh + groups - 3, kw, kh);
+    if constexpr (groups > 1)
+        add_row<w, groups - 1, groups>(sum, rows[kh + groups - 2] + x, taps.first + kh + groups - 2, kw, kh);
+#pragma GCC unroll 4
+    for (int i = 0; i < groups; ++i)
+#pragma GCC unroll 16
+        for (int j = 0; j < columns; ++j) storen<w>(at<T>(dst, i * dstStep) + x + j * w, sum[i][j]);
+}
+
+// The shape of a block: sums, taps and pixels of a step fill the registers.
+constexpr bool manyRegisters = sizeof(void*) == 8;
+constexpr int groupsAtOnce = SIG5D_LEVEL == 0 ? 1 : manyRegisters ? (vectorBytes == 64 ? 4 : 3) : 2;
+constexpr int columnsAtOnce = SIG5D_LEVEL == 0 ? 1 : manyRegisters ? (vectorBytes == 64 ? 4 : 3) : 2;
+
+// So many rows of results, in vectors of w pixels; rows shorter than one, in shorter ones.
+template <int w, int groups, int columns, class T>
+[[gnu::noinline]] void fill_rows(const T* const* rows, const Taps<T>& taps, T* dst, ptrdiff_t dstStep, int width)
+{
+    if constexpr (w > 1)
+        if (width < w) {
+            constexpr int shorter = w * sizeof(T) > 16 || sizeof(T) == 8 ? w / 2 : 1; // no shorter vector of floats
+#pragma GCC unroll 1
+            for (int i = 0; i < groups; ++i)
+                fill_rows<shorter, 1, 1>(rows + i, taps, at<T>(dst, i * dstStep), 0, width);
+            return;
+        }
+    int x = 0;
+    for (; x <= width - columns * w; x += columns * w) block<w, groups, columns>(rows, x, taps, dst, dstStep);
+    // What is left, in vectors; the last overlaps the one before.
+    if constexpr (columns > 1 || w > 1)
+        for (; x < width; x += w) block<w, groups, 1>(rows, x < width - w ? x : width - w, taps, dst, dstStep);
+}
+
+// As many rows of results as `rows` has a window for.
+template <class T>
+void filter_rows(const T* const* rows, const Taps<T>& taps, T* dst, ptrdiff_t dstStep, int width, int height)
+{
+    if (height == groupsAtOnce && taps.height >= groupsAtOnce - 1) {
+        fill_rows<lanes<T>, groupsAtOnce, columnsAtOnce>(rows, taps, dst, dstStep, width);
+    } else {
+        for (int y = 0; y < height; ++y)
+            fill_rows<lanes<T>, 1, groupsAtOnce * columnsAtOnce>(rows + y, taps, at<T>(dst, y * dstStep), 0, width);
+    }
+}
+
+} // namespace
+} // namespace sig5d::SIG5D_VARIANT
