@@ -70,40 +70,44 @@ template <int w, int groups, int columns, class T>
         for (int j = 0; j < columns; ++j) storen<w>(at<T>(dst, i * dstStep) + x + j * w, sum[i][j]);
 }
 
-// The shape of a block: sums, taps and pixels of a step fill the registers.
+// The shape of a block, measured: sums, taps and pixels of a step fill the registers, and there are enough sums for the
+// additions of a step not to wait for those of the one before.
 constexpr bool manyRegisters = sizeof(void*) == 8;
-constexpr int groupsAtOnce = SIG5D_LEVEL == 0 ? 1 : manyRegisters ? (vectorBytes == 64 ? 4 : 3) : 2;
-constexpr int columnsAtOnce = SIG5D_LEVEL == 0 ? 1 : manyRegisters ? (vectorBytes == 64 ? 4 : 3) : 2;
+constexpr int groupsAtOnce = SIG5D_LEVEL == 0 || !manyRegisters ? 1 : vectorBytes == 64 ? 4 : vectorBytes == 32 ? 3 : 2;
+constexpr int columnsAtOnce = SIG5D_LEVEL == 0 ? 1 : !manyRegisters ? 6 : vectorBytes == 32 ? 3 : 5;
+constexpr int columnsAlone = groupsAtOnce == 1 ? columnsAtOnce : 9; // where a block has one row
 
-// So many rows of results, in vectors of w pixels; rows shorter than one, in shorter ones.
+// So many rows of results, in vectors of w pixels; rows shorter than one, in shorter ones. The last block overlaps the
+// one before.
 template <int w, int groups, int columns, class T>
 [[gnu::noinline]] void fill_rows(const T* const* rows, const Taps<T>& taps, T* dst, ptrdiff_t dstStep, int width)
 {
     if constexpr (w > 1)
         if (width < w) {
-            constexpr int shorter = w * sizeof(T) > 16 || sizeof(T) == 8 ? w / 2 : 1; // no shorter vector of floats
+            constexpr int shorter = w * sizeof(T) > 16 || sizeof(T) == 8 ? w / 2 : 1; // no vector of two floats
 #pragma GCC unroll 1
             for (int i = 0; i < groups; ++i)
                 fill_rows<shorter, 1, 1>(rows + i, taps, at<T>(dst, i * dstStep), 0, width);
             return;
         }
-    int x = 0;
-    for (; x <= width - columns * w; x += columns * w) block<w, groups, columns>(rows, x, taps, dst, dstStep);
-    // What is left, in vectors; the last overlaps the one before.
-    if constexpr (columns > 1 || w > 1)
-        for (; x < width; x += w) block<w, groups, 1>(rows, x < width - w ? x : width - w, taps, dst, dstStep);
+    constexpr int wide = columns * w;
+    if (columns == 1 || width < wide) {
+        for (int x = 0; x < width; x += w) block<w, groups, 1>(rows, x < width - w ? x : width - w, taps, dst, dstStep);
+    } else {
+        for (int x = 0; x < width; x += wide)
+            block<w, groups, columns>(rows, x < width - wide ? x : width - wide, taps, dst, dstStep);
+    }
 }
 
-// As many rows of results as `rows` has a window for.
+// As many rows of results as `rows` has a window for: one, or groupsAtOnce.
 template <class T>
 void filter_rows(const T* const* rows, const Taps<T>& taps, T* dst, ptrdiff_t dstStep, int width, int height)
 {
-    if (height == groupsAtOnce && taps.height >= groupsAtOnce - 1) {
-        fill_rows<lanes<T>, groupsAtOnce, columnsAtOnce>(rows, taps, dst, dstStep, width);
-    } else {
-        for (int y = 0; y < height; ++y)
-            fill_rows<lanes<T>, 1, groupsAtOnce * columnsAtOnce>(rows + y, taps, at<T>(dst, y * dstStep), 0, width);
-    }
+    if constexpr (groupsAtOnce > 1)
+        if (height > 1 && taps.height >= groupsAtOnce - 1)
+            return fill_rows<lanes<T>, groupsAtOnce, columnsAtOnce>(rows, taps, dst, dstStep, width);
+    for (int y = 0; y < height; ++y)
+        fill_rows<lanes<T>, 1, columnsAlone>(rows + y, taps, at<T>(dst, y * dstStep), 0, width);
 }
 
 } // namespace
