@@ -47,16 +47,17 @@ def fitting_values(form):
     def passed(values):
         return next((i for i, fails in enumerate(conditions) if fails(values)), len(conditions))
 
-    found = []
+    found, values = [], None
     for attempt in range(2000):
-        if attempt % 400 == 0 or (found and found[-1] is values):
+        if attempt % 400 == 0 or not values:
             values = [draw.choice(choice) for choice in choices]
         else:
             k = draw.randrange(len(choices))
             other = values[:k] + [draw.choice(choices[k])] + values[k + 1 :]
-            values = max(values, other, key=passed) if passed(other) != passed(values) else other
+            values = other if passed(other) >= passed(values) else values
         if passed(values) == len(conditions):
             found.append(values)
+            values = None
             if len(found) == 50:
                 break
     return found

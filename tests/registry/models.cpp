@@ -129,7 +129,8 @@ IppStatus modelImage(const int16_t* pSrc, int srcStep, int16_t* pDst, int dstSte
             std::memcpy(to + r * dstStep + 2 * x, &sum, sizeof sum);
         }
     const int bytes = 2 * roi.width;
-    if (fault == Fault::writesGap && roi.height > 1 && std::abs(dstStep) > bytes) (dstStep < 0 ? to + dstStep : to)[bytes] = 0;
+    if (fault == Fault::writesGap && roi.height > 1 && std::abs(dstStep) > bytes)
+        (dstStep < 0 ? to + dstStep : to)[bytes] = 0;
     if (fault == Fault::readsGap && std::abs(srcStep) > bytes + 2) to[0] = (srcStep < 0 ? from + srcStep : from)[bytes];
     return ippStsNoErr;
 }
