@@ -2,43 +2,28 @@
 // borders.
 #include "frame/entry.h"
 #include "image/border.h"
+#include "image/kernel_order.h"
 #include "image/sums.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-// The kernel in the order of the sums: last row and last column first.
-template <class T, class U> void arrange(const T* kernel, int width, int height, U* taps)
-{
-    for (int s = 0; s < width; ++s)
-        for (int t = 0; t < height; ++t)
-            *taps++ = static_cast<U>(kernel[static_cast<ptrdiff_t>(height - 1 - t) * width + (width - 1 - s)]);
-}
-
 // The rows of results of one step: several, or one where there are fewer left.
 inline int step_rows(int left) { return left >= groupsAtOnce ? groupsAtOnce : 1; }
-
-Status bufferSize(int kernelWidth, int kernelHeight, int roiWidth, int* pSize)
-{
-    const BufferLayout at{kernelWidth, kernelHeight, roiWidth};
-    if (!at.bearable() || at.forKernel() > maxInt) return StsSizeErr;
-    *pSize = static_cast<int>(at.forKernel());
-    return StsNoErr;
-}
 
 Status filter(const f64* pSrc, int srcStep, f64* pDst, int dstStep, int width, int height, const f64* pKernel,
               int kernelWidth, int kernelHeight, int anchorX, int anchorY, u8* pBuffer)
 {
-    const BufferLayout layout{kernelWidth, kernelHeight, width};
-    if (!layout.bearable() || layout.forKernel() > maxInt) return StsSizeErr;
+    const BufferLayout layout(kernelWidth, kernelHeight, width, false);
+    if (!layout.fits()) return StsSizeErr;
     const f64** const rows = reinterpret_cast<const f64**>(aligned(pBuffer));
-    f64* const taps = at<f64>(rows, static_cast<ptrdiff_t>(layout.addresses()));
+    f64* const taps = at<f64>(rows, layout.behindAddresses);
     arrange(pKernel, kernelWidth, kernelHeight, taps);
     const f64* first =
         at<const f64>(pSrc, (anchorY - kernelHeight + 1) * static_cast<ptrdiff_t>(srcStep)) + anchorX - kernelWidth + 1;
     for (int y = 0, n; y < height; y += n) {
         n = step_rows(height - y);
-        for (int i = 0; i < kernelHeight + n - 1; ++i)
+        for (int i = 0; i < kernelHeight + n - 1; ++i, one_at_a_time())
             rows[i] = at<const f64>(first, i * static_cast<ptrdiff_t>(srcStep));
         filter_rows(rows, Taps<f64>{taps, kernelWidth, kernelHeight}, pDst, dstStep, width, n);
         first = at<const f64>(first, n * static_cast<ptrdiff_t>(srcStep));
@@ -47,85 +32,59 @@ Status filter(const f64* pSrc, int srcStep, f64* pDst, int dstStep, int width, i
     return StsNoErr;
 }
 
-Status borderSize(int kernelWidth, int kernelHeight, int width, int, int, int, int, int* pSpecSize, int* pBufferSize)
-{
-    const BufferLayout at{kernelWidth, kernelHeight, width};
-    const SpecLayout spec{at.kernelWidth * at.kernelHeight};
-    if (!at.bearable() || at.forBorders() > maxInt || spec.bytes() > maxInt) return StsSizeErr;
-    *pSpecSize = static_cast<int>(spec.bytes());
-    *pBufferSize = static_cast<int>(at.forBorders());
-    return StsNoErr;
-}
-
-Status borderInit(const f32* pKernel, int kernelWidth, int kernelHeight, int, int, int, void* pSpec)
-{
-    int specSize, bufferSize;
-    if (borderSize(kernelWidth, kernelHeight, 1, 1, 0, 0, 0, &specSize, &bufferSize)) return StsSizeErr;
-    const SpecLayout layout{static_cast<i64>(kernelWidth) * kernelHeight};
-    auto* spec = aligned(static_cast<BorderSpec*>(pSpec));
-    *spec = {borderMark, kernelWidth, kernelHeight, 0};
-    arrange(pKernel, kernelWidth, kernelHeight, at<f32>(spec, static_cast<ptrdiff_t>(layout.singles())));
-    arrange(pKernel, kernelWidth, kernelHeight, at<f64>(spec, static_cast<ptrdiff_t>(layout.doubles())));
-    return StsNoErr;
-}
-
-Status borderMode(int hint, int, void* pSpec)
-{
-    auto* spec = aligned(static_cast<BorderSpec*>(pSpec));
-    if (spec->mark != borderMark) return StsContextMatchErr;
-    spec->inDoubles = hint == 2;
-    return StsNoErr;
-}
-
-// The rows of an image that a step needs, as T: where they are, or copies with their borders that go round in a ring.
-template <class T> class Window
+// The rows of an image that a step needs: where they are, or copies with their borders that go round in a ring.
+class Window
 {
 public:
-    Window(const BorderedImage& image, const BufferLayout& layout, u8* buffer)
-        : image_(image), rows_(reinterpret_cast<const T**>(buffer)),
-          ring_(buffer + static_cast<ptrdiff_t>(layout.addresses())),
-          rowBytes_(static_cast<ptrdiff_t>(layout.rowBytes())), slots_(static_cast<int>(layout.window()))
+    Window(const BorderedImage& image, const BufferLayout& layout, u8* buffer, bool inDoubles)
+        : image_(image), rows_(reinterpret_cast<const void**>(buffer)), ring_(buffer + layout.behindAddresses),
+          rowBytes_(layout.rowBytes), slots_(layout.window), inDoubles_(inDoubles),
+          copied_(inDoubles || !image.x.beforeInMemory || !image.x.behindInMemory)
     {
     }
 
     // The addresses of rows y - image.y.before and so many that follow; y never goes back.
-    const T* const* at(int y, int count)
+    template <class T> const T* const* rows(int y, int count)
     {
-        y -= image_.y.before;
-        for (; next_ < y + count; ++next_) {
-            image_.copy_row(next_, slot(free_));
-            free_ = free_ + 1 < slots_ ? free_ + 1 : 0;
-        }
-        int k = free_ - count;
-        if (k < 0) k += slots_;
-        for (int i = 0; i < count; ++i) {
-            rows_[i] = slot(k);
-            k = k + 1 < slots_ ? k + 1 : 0;
-        }
-        return rows_;
+        gather(y - image_.y.before, count);
+        return reinterpret_cast<const T* const*>(rows_);
     }
 
 private:
-    T* slot(int k) const { return sig5d::SIG5D_VARIANT::at<T>(ring_, k * rowBytes_); }
+    [[gnu::noinline]] void gather(int first, int count)
+    {
+        for (; next_ < first + count; ++next_) {
+            if (!inPlace(next_)) copy(next_, slot(free_));
+            free_ = after(free_);
+        }
+        int k = free_ < count ? free_ - count + slots_ : free_ - count;
+        for (int i = 0; i < count; ++i, k = after(k), one_at_a_time())
+            rows_[i] = inPlace(first + i) ? placeOf(first + i) : slot(k);
+    }
+    void copy(int i, void* d) const
+    {
+        if (inDoubles_) {
+            image_.copy_row(i, static_cast<f64*>(d));
+        } else {
+            image_.copy_row(i, static_cast<f32*>(d));
+        }
+    }
+    bool inPlace(int i) const { return !copied_ && image_.y.source(i, image_.type) != nowhere; }
+    const f32* placeOf(int i) const { return image_.row(image_.y.source(i, image_.type)) - image_.x.before; }
+    void* slot(int k) const { return ring_ + k * rowBytes_; }
+    int after(int k) const { return k + 1 < slots_ ? k + 1 : 0; }
 
     const BorderedImage& image_;
-    const T** rows_;
+    const void** rows_;
     u8* ring_;
     ptrdiff_t rowBytes_;
     int slots_, free_ = 0, next_ = -image_.y.before;
+    bool inDoubles_, copied_;
 };
 
-// Sums in single precision.
-inline void store_rows(const f32* const* rows, const Taps<f32>& taps, f32* dst, ptrdiff_t dstStep, int width,
-                       int height, f32*, ptrdiff_t)
+// Sums in double precision, rounded once.
+void store_rounded(const f64* results, ptrdiff_t rowBytes, f32* dst, ptrdiff_t dstStep, int width, int height)
 {
-    filter_rows(rows, taps, dst, dstStep, width, height);
-}
-// In double precision, rounded once.
-inline void store_rows(const f64* const* rows, const Taps<f64>& taps, f32* dst, ptrdiff_t dstStep, int width,
-                       int height, f64* results, ptrdiff_t rowBytes)
-{
-    filter_rows(rows, taps, results, rowBytes, width, height);
     for (int i = 0; i < height; ++i) {
         const f64* const from = at<const f64>(results, i * rowBytes);
         f32* const to = at<f32>(dst, i * dstStep);
@@ -134,17 +93,24 @@ inline void store_rows(const f64* const* rows, const Taps<f64>& taps, f32* dst, 
     }
 }
 
-template <class T>
-void filter_with_borders(const BorderedImage& image, const BorderSpec* spec, ptrdiff_t taps, f32* dst,
-                         ptrdiff_t dstStep, const BufferLayout& layout, u8* buffer)
+void filter_with_borders(const BorderedImage& image, const BorderSpec* spec, f32* dst, ptrdiff_t dstStep,
+                         const BufferLayout& layout, u8* buffer)
 {
-    Window<T> window(image, layout, buffer);
-    T* const results = at<T>(buffer, static_cast<ptrdiff_t>(layout.results()));
-    const Taps<T> kernel{at<const T>(spec, taps), spec->width, spec->height};
+    Window window(image, layout, buffer, spec->inDoubles);
+    const int width = image.x.n;
     for (int y = 0, n; y < image.y.n; y += n) {
         n = step_rows(image.y.n - y);
-        store_rows(window.at(y, spec->height + n - 1), kernel, dst, dstStep, image.x.n, n, results,
-                   static_cast<ptrdiff_t>(layout.rowBytes()));
+        const int count = spec->height + n - 1;
+        if (spec->inDoubles) {
+            const auto* taps = at<const f64>(spec, spec->doubles);
+            f64* const results = at<f64>(buffer, layout.results);
+            filter_rows(window.rows<f64>(y, count), {taps, spec->width, spec->height}, results, layout.rowBytes, width,
+                        n);
+            store_rounded(results, layout.rowBytes, dst, dstStep, width, n);
+        } else {
+            const auto* taps = at<const f32>(spec, headBytes);
+            filter_rows(window.rows<f32>(y, count), {taps, spec->width, spec->height}, dst, dstStep, width, n);
+        }
         dst = at<f32>(dst, n * dstStep);
     }
 }
@@ -154,8 +120,8 @@ Status borderFilter(const f32* pSrc, int srcStep, f32* pDst, int dstStep, int wi
 {
     const auto* spec = aligned(static_cast<const BorderSpec*>(pSpec));
     if (spec->mark != borderMark) return StsContextMatchErr;
-    const BufferLayout layout{spec->width, spec->height, width};
-    if (!layout.bearable() || layout.forBorders() > maxInt) return StsSizeErr;
+    const BufferLayout layout(spec->width, spec->height, width, true);
+    if (!layout.fits()) return StsSizeErr;
     const auto has = [=](int side) { return (borderType & side) != 0; };
     const auto type = static_cast<Border>(borderType & ~everySide);
     const int kw = spec->width, kh = spec->height;
@@ -165,13 +131,7 @@ Status borderFilter(const f32* pSrc, int srcStep, f32* pDst, int dstStep, int wi
                               {height, kh / 2, (kh - 1) / 2, has(inMemoryAbove), has(inMemoryBelow)},
                               type,
                               type == Border::constant ? *pBorderValue : 0};
-    const SpecLayout parts{static_cast<i64>(kw) * kh};
-    pBuffer = aligned(pBuffer);
-    if (spec->inDoubles) {
-        filter_with_borders<f64>(image, spec, static_cast<ptrdiff_t>(parts.doubles()), pDst, dstStep, layout, pBuffer);
-    } else {
-        filter_with_borders<f32>(image, spec, static_cast<ptrdiff_t>(parts.singles()), pDst, dstStep, layout, pBuffer);
-    }
+    filter_with_borders(image, spec, pDst, dstStep, layout, aligned(pBuffer));
     return StsNoErr;
 }
 

@@ -8,7 +8,6 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 constexpr i64 maxInt = 0x7fffffff;
-constexpr i64 align64(i64 bytes) { return (bytes + 63) / 64 * 64; }
 template <class P> P aligned(P p)
 {
     return reinterpret_cast<P>((reinterpret_cast<uintptr_t>(p) + 63) & ~uintptr_t(63));
@@ -19,48 +18,46 @@ template <class T, class P> T* at(P p, ptrdiff_t bytes)
     return reinterpret_cast<T*>(reinterpret_cast<uintptr_t>(p) + static_cast<uintptr_t>(bytes));
 }
 
+// In a loop: no vectors. They would be much code for what is done once for a row or a kernel.
+[[gnu::always_inline]] inline void one_at_a_time() { asm volatile("" ::: "memory"); }
+
 // Rows of pixels that are computed at once, at most, whatever the body: buffers may change hands.
 constexpr int mostGroups = 4;
 
-// A work buffer, from its first multiple of 64: addresses of rows; then what the filter wants.
+// A work buffer, from its first multiple of 64: addresses of the rows that a step needs. Behind them, without borders,
+// the kernel in the order of the sums; with borders as many rows with their borders, in either precision, and rows of
+// results in double precision.
 struct BufferLayout {
-    i64 kernelWidth, kernelHeight, width;
+    int window; // rows that a step needs, at most
+    int behindAddresses, rowBytes, results = 0;
+    i64 bytes = i64(maxInt) + 1; // none, unless all sizes are ints
 
-    // Rows of the image that a step needs, where each but the first few computes several rows of results.
-    i64 window() const { return kernelHeight + mostGroups - 1; }
-    i64 addresses() const { return align64(8 * window()); }
-
-    // Without borders: the kernel in the order of the sums.
-    i64 forKernel() const { return 64 + addresses() + 8 * kernelWidth * kernelHeight; }
-
-    // With borders: rows of the image with their borders, in either precision, and rows of results in double precision.
-    // An odd number of cache lines from one row to the next lets them lie beside each other in every cache.
-    i64 rowBytes() const { return align64(8 * (width + kernelWidth - 1)) / 128 * 128 + 192; }
-    i64 results() const { return addresses() + window() * rowBytes(); }
-    i64 forBorders() const { return 64 + results() + mostGroups * rowBytes(); }
-
-    // No product above is beyond 64 bits.
-    bool bearable() const
+    BufferLayout(int kernelWidth, int kernelHeight, int width, bool borders)
     {
-        return kernelWidth * kernelHeight <= maxInt && width + kernelWidth <= maxInt && window() <= maxInt;
+        const i64 rows = i64(kernelHeight) + mostGroups - 1, taps = i64(kernelWidth) * kernelHeight;
+        // An odd number of cache lines from one row to the next lets them lie beside each other in every cache.
+        const i64 row = (8 * (i64(width) + kernelWidth) & ~i64(127)) + 192, addresses = (8 * rows + 63) & ~i64(63);
+        window = static_cast<int>(rows);
+        behindAddresses = static_cast<int>(addresses);
+        rowBytes = static_cast<int>(row);
+        if (taps > maxInt || row > maxInt) return; // beyond that the sums below might have no room in 64 bits
+        results = static_cast<int>(addresses + rows * row);
+        bytes = 64 + addresses + (borders ? (rows + mostGroups) * row : 8 * taps);
     }
+    bool fits() const { return bytes <= maxInt; }
 };
 
-// The head of a specification, at the first multiple of 64 in the caller's block; the taps follow. It holds no address,
-// so that a block may lie in read-only memory and be moved by multiples of 64 bytes.
+// The head of a specification, at the first multiple of 64 in the caller's block. Behind its first 64 bytes are the
+// taps in single precision, further on in double precision. It holds no address, so that a block may lie in read-only
+// memory and be moved by multiples of 64 bytes.
 struct BorderSpec {
     u32 mark;
     i32 width, height;
+    i32 doubles; // where they are
     i32 inDoubles;
 };
 constexpr u32 borderMark = 0x49463246;
-
-struct SpecLayout {
-    i64 taps; // so many
-    i64 singles() const { return 64; }
-    i64 doubles() const { return singles() + align64(4 * taps); }
-    i64 bytes() const { return 63 + doubles() + 8 * taps; }
-};
+constexpr int headBytes = 64;
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT
