@@ -298,6 +298,7 @@ typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
 typedef struct IppsDCTFwdSpec_64f IppsDCTFwdSpec_64f;
 typedef struct IppsDCTInvSpec_64f IppsDCTInvSpec_64f;
 typedef struct IppsDCTHandle_64f IppsDCTHandle_64f;
+typedef struct IppiFilterBorderSpec IppiFilterBorderSpec;
 typedef struct IppsIIRState_64f IppsIIRState_64f;
 typedef struct IppsIIRState_64fc IppsIIRState_64fc;
 typedef struct IppsRandUniState_64f IppsRandUniState_64f;
@@ -1474,6 +1475,48 @@ IppStatus SIG5D_STDCALL ippSetNumThreads(int numThr);
 /* Makes the calling thread's SSE and AVX arithmetic read denormal numbers as zeros (value not 0) or as they are
    (value 0): bit 6 of MXCSR. All other bits of MXCSR stay. */
 IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
+
+/* ---- Image filters ---- */
+
+/* The bytes of a work buffer for filtering regions up to that width, of any height. */
+IppStatus SIG5D_STDCALL ippiFilterGetBufSize_64f_C1R(IppiSize kernelSize, int roiWidth, int* pSize);
+IppStatus SIG5D_CDECL ippiFilterGetBufSize_64f_C1R_Idx(IppiSize kernelSize, int roiWidth, int* pSize);
+
+/* pDst(x, y) = sum over i, j of pKernel(i, j) * pSrc(x + anchor.x - i, y + anchor.y - j). Two-dimensional
+   convolution of an image with a kernel. (x, y) is column x of row y, kernel rows lie one behind the other. The
+   pixels around the region that the kernel reaches are read from memory. */
+IppStatus SIG5D_STDCALL ippiFilter_64f_C1R(const Ipp64f* pSrc, int srcStep, Ipp64f* pDst, int dstStep, IppiSize
+        dstRoiSize, const Ipp64f* pKernel, IppiSize kernelSize, IppiPoint anchor, Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippiFilter_64f_C1R_Idx(const Ipp64f* pSrc, int srcIdx, int srcStep, Ipp64f* pDst, int dstIdx,
+        int dstStep, IppiSize dstRoiSize, const Ipp64f* pKernel, int kernelIdx, IppiSize kernelSize, IppiPoint anchor,
+        Ipp8u* pBuffer, int bufferIdx);
+
+/* The bytes of a specification for a kernel of that size, and of a work buffer for regions up to that width and
+   height. Both types are 13 (32f). */
+IppStatus SIG5D_STDCALL ippiFilterBorderGetSize(IppiSize kernelSize, IppiSize dstRoiSize, int dataType, int
+        kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
+IppStatus SIG5D_CDECL ippiFilterBorderGetSize_Idx(IppiSize kernelSize, IppiSize dstRoiSize, int dataType, int
+        kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
+
+/* Fills a block of the size that ippiFilterBorderGetSize gave, at any address, with a copy of the kernel. The
+   rounding mode is that of integer images; it changes nothing here. */
+IppStatus SIG5D_STDCALL ippiFilterBorderInit_32f(const Ipp32f* pKernel, IppiSize kernelSize, int dataType, int
+        numChannels, int roundMode, IppiFilterBorderSpec* pSpec);
+IppStatus SIG5D_CDECL ippiFilterBorderInit_32f_Idx(const Ipp32f* pKernel, int kernelIdx, IppiSize kernelSize, int
+        dataType, int numChannels, int roundMode, IppiFilterBorderSpec* pSpec);
+
+/* How a specification filters from now on: hint 0 (as after Init) and 1 sum in single precision, 2 sums in double
+   precision and rounds once. The offset is one of integer images: 0. */
+IppStatus SIG5D_STDCALL ippiFilterBorderSetMode(int hint, int offset, IppiFilterBorderSpec* pSpec);
+
+/* pDst(x, y) = sum over i, j of kernel(i, j) * pSrc(x + (width-1)/2 - i, y + (height-1)/2 - j). The convolution of
+   ippiFilter_64f_C1R with the kernel of a specification, width by height, its anchor in the middle, and with a
+   rule for pixels outside the region. */
+IppStatus SIG5D_STDCALL ippiFilterBorder_32f_C1R(const Ipp32f* pSrc, int srcStep, Ipp32f* pDst, int dstStep, IppiSize
+        dstRoiSize, int borderType, const Ipp32f* pBorderValue, const IppiFilterBorderSpec* pSpec, Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippiFilterBorder_32f_C1R_Idx(const Ipp32f* pSrc, int srcIdx, int srcStep, Ipp32f* pDst, int
+        dstIdx, int dstStep, IppiSize dstRoiSize, int borderType, const Ipp32f* pBorderValue, const
+        IppiFilterBorderSpec* pSpec, Ipp8u* pBuffer, int bufferIdx);
 
 /* ---- Matrices: transpose, sub-matrices, exchanges, triangles ---- */
 

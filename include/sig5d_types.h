@@ -42,6 +42,15 @@ typedef struct {
     Ipp64f re, im;
 } Ipp64fc;
 
+/* Of an image or a region of it, and of a filter's kernel: pixels in a row, rows. A place in one: pixels from the left,
+   rows from the top. */
+typedef struct {
+    int width, height;
+} IppiSize;
+typedef struct {
+    int x, y;
+} IppiPoint;
+
 /* 0 is success, a negative value an error (nothing was done), a positive value a warning (everything was done). */
 typedef int32_t IppStatus;
 

@@ -15,7 +15,7 @@ class CExpression:
     """Translates a C expression into a Python one. A name that is no argument is a property of a filter."""
 
     LEVELS = [["||"], ["&&"], ["|"], ["&"], ["==", "!="], ["<", "<=", ">", ">="], ["+", "-"], ["*", "/", "%"]]
-    PYTHON = {"||": "or", "&&": "and", "/": "//"}
+    PYTHON = {"||": "or", "&&": "and"}
 
     def __init__(self, text, arguments):
         self.tokens = re.findall(r"[A-Za-z_]\w*(?:\.\w+)*|\d+(?:\.\d+)?|\|\||&&|[<>=!]=|\S", text)
@@ -40,12 +40,16 @@ class CExpression:
             return self.unary()
         left = self.binary(level + 1)
         while operator := self.take(*self.LEVELS[level]):
-            left = f"({left} {self.PYTHON.get(operator, operator)} {self.binary(level + 1)})"
+            right = self.binary(level + 1)
+            if operator == "/":
+                left = f"quotient({left}, {right})"
+            else:
+                left = f"({left} {self.PYTHON.get(operator, operator)} {right})"
         return left
 
     def unary(self):
-        if operator := self.take("!", "-"):
-            return f"({'not' if operator == '!' else '-'} {self.unary()})"
+        if operator := self.take("!", "-", "~"):
+            return f"({'not' if operator == '!' else operator} {self.unary()})"
         if self.take("*"):
             return f"at({self.unary()})"
         if self.take("("):
@@ -62,6 +66,8 @@ class CExpression:
         head, _, part = name.partition(".")
         if name[0].isdigit():
             return name
+        if name in self.arguments:
+            return python_name(name)
         if head not in self.arguments or part not in ("", "re", "im"):
             return "spec." + (part or head)
         return name.replace(".re", ".real").replace(".im", ".imag")
@@ -76,14 +82,22 @@ def described_arg(a):
     return Arg(kind, "" if kind == "index" else a.type.suffix if a.type else plain, role, a.stars, a.optional)
 
 
+def python_name(name):
+    """Members of records are arguments of their own: roi.width."""
+    return name.replace(".", "_")
+
+
 NAME = r"[A-Za-z_]\w*(?:\.\w+)*"
 
 
 def elements(a, f, exports):
     """The extent of an array over arguments and properties of a filter; its largest one where the data decide."""
+    text = a.room or a.extent
     if a.rows:
-        count, width, step, _ = a.rows
-        return f"({count}) && ({width}) ? (({count})-1)*({step})+({width}) : 0"
+        count, width, step = f"({a.rows.count})", f"({a.rows.width})", f"({a.rows.step})"
+        text = f"{count} && {width} ? ({count}-1)*{step}+{width} : 0"
+        if a.rows.in_bytes:
+            text = f"in_bytes({count}, {width}, {step}, {a.type.size})"
     stands_for = {}
     for n in f.named:
         if n.source == "computed":
@@ -93,9 +107,9 @@ def elements(a, f, exports):
         elif n.source == "ofState":
             maker = exports[next(m.function for m in f.makers if m.argument == n.argument)]
             there = {m.name: m.text for m in maker.named if m.source == "computed"}
-            text = n.name.partition(".")[2]
-            stands_for[n.name] = re.sub(NAME, lambda m: "spec." + m[0], there.get(text, text))
-    return re.sub(NAME, lambda m: f"({stands_for[m[0]]})" if m[0] in stands_for else m[0], a.room or a.extent)
+            value = n.name.partition(".")[2]
+            stands_for[n.name] = re.sub(NAME, lambda m: "spec." + m[0], there.get(value, value))
+    return re.sub(NAME, lambda m: f"({stands_for[m[0]]})" if m[0] in stands_for else m[0], text)
 
 
 def described():
@@ -106,9 +120,10 @@ def described():
     for export, f, which in api.exports():
         args = index_args(f) if which == "index" else f.args
         names = [a.name for a in args]
+        python_names = [python_name(name) for name in names]
 
         def condition(expression):
-            return evaluated(CExpression(expression, names).python, names)
+            return evaluated(CExpression(expression, names).python, python_names)
 
         form = forms[export] = Form([described_arg(a) for a in args])
         form.checks = [(statuses[c.status], condition(c.cpp())) for c in f.failures() if not c.when]

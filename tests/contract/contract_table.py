@@ -54,6 +54,10 @@ def block(rows, cols, stride):
     return (rows - 1) * stride + cols if rows and cols else 0
 
 
+def image(rows, cols, step, size):
+    return (block(rows, cols * size, abs(step)) + size - 1) // size
+
+
 def lower(rows, cols, stride, diagonal):
     """The last row has the most columns."""
     return block(rows, min(max(rows - 1, 0) + (diagonal != 0), cols), stride)
@@ -83,10 +87,22 @@ def delay(spec):
     return (spec.tapsLen + spec.upFactor - 1) // spec.upFactor
 
 
-CALLS = {f.__name__: f for f in (at, block, lower, upper, reach, bytes_of, words_of, delay, max, min)}
+def quotient(a, b):
+    """As C divides."""
+    return int(a / b)
+
+
+def in_bytes(rows, cols, step, size):
+    """An extent in whole elements that the description has in bytes."""
+    spanned = (rows - 1) * (-step if step < 0 else step) + cols * size
+    return -(-spanned // size) if rows > 0 and cols > 0 else 0
+
+
+CALLS = {f.__name__: f for f in (at, block, image, lower, upper, reach, bytes_of, words_of, delay, quotient, in_bytes, abs, max, min)}
 # Properties of filters and transforms. The lengths are apart by one, so that a rounding that is off by one shows.
 SPECS = [
-    SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down, len=taps, specBufSize=64, bufSize=64)
+    SimpleNamespace(tapsLen=taps, upFactor=up, downFactor=down, len=taps, specBufSize=64, bufSize=64,
+                    kernelSize=SimpleNamespace(width=taps, height=max(taps - up, 1)))
     for taps, up, down in ((36, 3, 5), (37, 3, 5), (38, 3, 5), (1, 7, 2), (9, 1, 1))
 ]
 

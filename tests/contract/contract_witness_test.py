@@ -38,14 +38,26 @@ def samples(arg):
 
 
 def fitting_values(form):
-    """Lists of values that the function takes."""
+    """Lists of values that the function takes: any at first, then one of them is drawn anew at a time, and kept unless
+    a check fails that did not."""
     draw = random.Random(7)
     choices = [samples(a)[:1] if a.pointer() else samples(a) for a in form.args]
-    found = []
-    for _ in range(2000):
-        values = [draw.choice(choice) for choice in choices]
-        if form.status(values) == 0 and all(needed(values) for needed in form.needs):
+    conditions = [fails for _, fails in form.checks] + [lambda v, needed=n: not needed(v) for n in form.needs]
+
+    def passed(values):
+        return next((i for i, fails in enumerate(conditions) if fails(values)), len(conditions))
+
+    found, values = [], None
+    for attempt in range(2000):
+        if attempt % 400 == 0 or not values:
+            values = [draw.choice(choice) for choice in choices]
+        else:
+            k = draw.randrange(len(choices))
+            other = values[:k] + [draw.choice(choices[k])] + values[k + 1 :]
+            values = other if passed(other) >= passed(values) else values
+        if passed(values) == len(conditions):
             found.append(values)
+            values = None
             if len(found) == 50:
                 break
     return found

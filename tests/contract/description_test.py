@@ -16,7 +16,8 @@ from statements import Mistake
 FILES = {
     "status.api": "-6 ippStsSizeErr Wrong size.\n-8 ippStsNullPtrErr Null pointer.\n-5 ippStsBadArgErr Bad.\n6 ippStsDivByZero Zero.\n",
     "types.api": "type 8u Ipp8u u8 1 1\ntype 16s Ipp16s i16 2 2\ntype 32s Ipp32s i32 4 4\ntype 32u Ipp32u u32 4 4\n"
-    "type 64f Ipp64f f64 8 8\ntype 64fc Ipp64fc c64f 16 16\nopaque Spec_64f\n",
+    "type 64f Ipp64f f64 8 8\ntype 64fc Ipp64fc c64f 16 16\nopaque Spec_64f\n"
+    "record Size (int width, int height)\nrecord Stamp\n",
     "shapes.api": "shape unary (const T pSrc[len], T pDst[len], int len)\n    checks null; size\n    in_place pDst=pSrc\n"
     "    form _I (inout T pSrcDst[len], int len) runs (pSrcDst, pSrcDst, len)\n",
     "ordinals.txt": "F_64f\nF_64f_Idx\nF_64f_I\nF_64f_I_Idx\nF_16s\nF_16s_Idx\nF\nF_Idx\n",
@@ -82,6 +83,16 @@ MISTAKES = [
     ("index of nothing", family("family F (int len, index i)", idx="written"), "a.api:4: index i does not follow"),
     ("extent", family("family F (const T pSrc[lne], int len)"), "a.api:4: lne is no argument: lne"),
     ("extent of a pointer", family("family F (const T pSrc[pSrc], int len)"), "a.api:4: a number is asked for: pSrc"),
+    # records by value
+    ("member of a record", family("family F (Size s, const T pSrc[s.depth])"), "a.api:4: s.depth is no argument: s.depth"),
+    ("record as a number", family("family F (Size s, const T pSrc[s])"), "a.api:4: s is no argument: s"),
+    ("record without members", family("family F (Stamp v)"), "a.api:4: unknown type Stamp: v"),
+    ("record twice", family("family F (Size s, Size s)"), "a.api:4: two arguments s.width"),
+    ("members of a record", {"types.api": "record Size (long width)\n"}, "types.api:1: no int MEMBER: long width"),
+    ("domain of a member", family("family F (Size s, const T pSrc[s.width])", domain="s.depth = 1", checks="null"),
+     "a.api:5: domain s.depth: no such argument"),
+    ("row of the pointer", family("family F (const T p[n of n every n bytes from row r column 0], int n)"),
+     "a.api:4: r is no argument: r"),
     # members, forms
     ("element type", family(types="64d"), "a.api:5: no element types: 64d"),
     ("unknown element type", family(types="8s"), "a.api:5: unknown element type 8s: 8s"),

@@ -114,14 +114,24 @@ IppStatus modelCount(int* pNow, Handle* pHandle)
     return ippStsNoErr;
 }
 
-IppStatus modelImage(const int16_t* pSrc, int srcStep, int16_t* pDst, int dstStep, int width, int height)
+IppStatus modelImage(const int16_t* pSrc, int srcStep, int16_t* pDst, int dstStep, IppiSize roi)
 {
     if (!pSrc || !pDst) return ippStsNullPtrErr;
+    if (roi.width < 1 || roi.height < 1) return ippStsSizeErr;
     const auto* from = reinterpret_cast<const uint8_t*>(pSrc);
     auto* to = reinterpret_cast<uint8_t*>(pDst);
-    for (int r = 0; r < height; ++r) std::memcpy(to + r * dstStep, from + r * srcStep, static_cast<size_t>(2 * width));
-    if (fault == Fault::writesGap && height > 1 && dstStep > 2 * width) to[2 * width] = 0;
-    if (fault == Fault::readsGap && height > 1 && srcStep > 2 * width) to[0] = from[2 * width];
+    for (int r = 0; r < roi.height; ++r)
+        for (int x = 0; x < roi.width; ++x) {
+            int16_t left, below;
+            std::memcpy(&left, from + (r - 2) * srcStep + 2 * (x - 1), sizeof left);
+            std::memcpy(&below, from + (r + 1) * srcStep + 2 * x, sizeof below);
+            const auto sum = static_cast<int16_t>(left + below);
+            std::memcpy(to + r * dstStep + 2 * x, &sum, sizeof sum);
+        }
+    const int bytes = 2 * roi.width;
+    if (fault == Fault::writesGap && roi.height > 1 && std::abs(dstStep) > bytes)
+        (dstStep < 0 ? to + dstStep : to)[bytes] = 0;
+    if (fault == Fault::readsGap && std::abs(srcStep) > bytes + 2) to[0] = (srcStep < 0 ? from + srcStep : from)[bytes];
     return ippStsNoErr;
 }
 

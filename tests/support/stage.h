@@ -54,6 +54,7 @@ private:
         uint8_t* own = nullptr;
         uint8_t *low = nullptr, *high = nullptr; // the whole memory around it
         size_t bytes = 0;
+        registry::Gaps gaps;                          // where the scalars are spoilt later, too
         std::vector<uint8_t> made;                    // of a state in this memory: its bytes before the call
         const std::vector<uint8_t>* longer = nullptr; // of a shared destination: the source that goes on behind it
     };

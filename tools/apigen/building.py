@@ -60,7 +60,7 @@ class Building:
         return text.split()
 
     def domain(self, text):
-        name, values = match(r"(\w+)\s*=\s*(\S.*)", text, "no domain NAME = values").groups()
+        name, values = match(r"([\w.]+)\s*=\s*(\S.*)", text, "no domain NAME = values").groups()
         if name not in self.args:
             return False
         kinds = ("scalar", "result") if self.args[name].inout else ("scalar",)

@@ -1,5 +1,5 @@
 """Writes the boundary: entry shells, variant tables and stubs, _Idx adapters."""
-from model import index_args
+from model import c_arguments, index_args
 
 BANNER = "// Generated from api/*.api; not edited.\n"
 
@@ -13,7 +13,7 @@ def convention(function):
 
 
 def parameters(args):
-    return ", ".join(a.c_type() + " " + a.name for a in args)
+    return ", ".join(f"{kind} {name}" for kind, name in c_arguments(args))
 
 
 def kernel_argument(expression, function):
@@ -83,14 +83,16 @@ def dispatch(api):
 def adapter(f):
     args = index_args(f)
     moved = {a.applies_to: a.name for a in args if a.kind == "index"}
+    pointers = {a.name: a for a in f.args if a.name in moved}
     call = []
-    for a in f.args:
-        if a.name in moved:
+    for _, name in c_arguments(f.args):
+        if name in moved:
+            a = pointers[name]
             helper = "element_or_null" if a.kind == "work" else "element"
             unit = f"<{a.type.unit}>"
-            call.append(f"{helper}{unit}({a.name}, {moved[a.name]})")
+            call.append(f"{helper}{unit}({name}, {moved[name]})")
         else:
-            call.append(a.name)
+            call.append(name)
     head = f'extern "C" SIG5D_EXPORT {result_type(f)} SIG5D_CDECL {f.name}_Idx({parameters(args)})'
     run = f"{f.name}({', '.join(call)});"
     return f"{head}\n{{\n    {'' if f.returns == 'void' else 'return '}{run}\n}}\n"

@@ -36,8 +36,10 @@ def arguments_text(f):
 
 def extent_text(a):
     if a.rows:
-        count, width, step, in_bytes = a.rows
-        return f"`{count}` rows of `{width}`, one every `{step}` {'bytes, of' if in_bytes else ''}".rstrip()
+        r = a.rows
+        place = "" if (r.row, r.column) == ("0", "0") else f", the pointer at row `{r.row}` and column `{r.column}`"
+        unit = f" bytes{place}, of" if r.in_bytes else ""
+        return f"`{r.count}` rows of `{r.width}`, one every `{r.step}`{unit}"
     return f"`{a.extent}`" + (f", at most `{a.room}`," if a.room else "")
 
 

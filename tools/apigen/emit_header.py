@@ -2,7 +2,7 @@
 import textwrap
 
 from grouping import formulas, groups
-from model import index_args
+from model import c_arguments, index_args
 
 
 def comment(text):
@@ -24,7 +24,7 @@ def prototype(name, f, form):
     convention = "SIG5D_STDCALL" if f.convention == "stdcall" and form != "index" else "SIG5D_CDECL"
     result = {"status": "IppStatus"}.get(f.returns, f.returns)
     args = index_args(f) if form == "index" else f.args
-    listed = ", ".join(a.c_type() + " " + a.name for a in args) or "void"
+    listed = ", ".join(f"{kind} {name}" for kind, name in c_arguments(args)) or "void"
     line = f"{result} {convention} {name}({listed});"
     return "\n".join(textwrap.wrap(line, 118, subsequent_indent="        ", break_long_words=False))
 

@@ -16,6 +16,7 @@ INDEX = {"auto": "automatic", "none": "none", "only": "only", "same": "same", "w
 FUNCTIONS = """
 [[maybe_unused]] long long min(long long a, long long b) { return a < b ? a : b; }
 [[maybe_unused]] long long max(long long a, long long b) { return a > b ? a : b; }
+[[maybe_unused]] long long magnitude(long long a) { return a < 0 ? -a : a; }
 """
 
 
@@ -44,10 +45,12 @@ def over_values(expression, f):
     named = {n.name: len(f.args) + i for i, n in enumerate(f.named)}
 
     def value(match):
-        star, name, part = match.group(1) or "", match.group(2), match.group(3) or ""
+        star, name, part = match.group(1) or "", match.group(2), match.group(3)
         if name + part in named:
             return f"a[{named[name + part]}].i"
         for i, a in enumerate(f.args):
+            if a.record and a.name == name + part:
+                return f"a[{i}].i"
             if a.name != name:
                 continue
             if a.pointer:
@@ -58,7 +61,7 @@ def over_values(expression, f):
             return star + (f"a[{i}].re" if floating else f"a[{i}].i")
         return match.group(0)
 
-    return re.sub(r"((?<![\w\])])\*)?(?<!->)(?<![.\w])\b([A-Za-z_]\w*)\b(\.[A-Za-z_]\w*\b)?", value, expression)
+    return re.sub(r"((?<![\w\])])\*)?(?<!->)(?<![.\w])\b([A-Za-z_]\w*)\b((?:\.[A-Za-z_]\w*\b)*)", value, expression)
 
 
 def quoted(text):
@@ -75,10 +78,19 @@ def extent_of(a):
     """The elements from the first to the last, also of an array with rows."""
     if not a.rows:
         return "1" if a.kind == "handle" else a.extent
-    count, width, step, in_bytes = a.rows
-    size = a.type.size if in_bytes else 1
-    whole = f"((long long)({count})-1)*({step})+({width})*{size}"
-    return f"({count}) > 0 && ({width}) > 0 ? ({whole}+{size - 1})/{size} : 0"
+    r, size = a.rows, a.type.size if a.rows.in_bytes else 1
+    step = f"magnitude({r.step})" if r.in_bytes else f"({r.step})"
+    whole = f"((long long)({r.count})-1)*{step}+({r.width})*{size}"
+    return f"({r.count}) > 0 && ({r.width}) > 0 ? ({whole}+{size - 1})/{size} : 0"
+
+
+def rows_of(a):
+    """Count, bytes of a row, bytes from row to row in memory, bytes of memory in front of the pointer: the first row is
+    the last one in memory where the step is negative."""
+    r, size = a.rows, a.type.size
+    step = f"magnitude({r.step})" if r.in_bytes else f"({r.step})*{size}"
+    lead = f"(({r.step}) < 0 ? ({r.count})-1-({r.row}) : ({r.row}))*{step}+({r.column})*{size}" if r.in_bytes else "0"
+    return r.count, f"({r.width})*{size}", step, lead
 
 
 class Writer:
@@ -125,12 +137,8 @@ class Writer:
         late = any(occurs(n, extent) for n in counted)
         rows = "nullptr"
         if a.rows:
-            count, width, step, in_bytes = a.rows
-            size = 1 if in_bytes else a.type.size
-            self.out.append(
-                f"const Rows rows_{self.name}_{number} = {{{self.integer(count)}, {self.integer(f'({width})*{a.type.size}')}, "
-                f"{self.integer(f'({step})*{size}')}}};\n"
-            )
+            numbers = ", ".join(self.integer(x) for x in rows_of(a))
+            self.out.append(f"const Rows rows_{self.name}_{number} = {{{numbers}}};\n")
             rows = f"&rows_{self.name}_{number}"
         makers = []
         for k, m in enumerate(x for x in f.makers if x.argument == a.name):
@@ -140,12 +148,13 @@ class Writer:
         flags = [a.const, a.inout, a.optional, a.base == "unsigned int", not a.pointer and self.scales(a.name), late]
         size, unit = (a.type.size, a.type.unit) if a.type else (0, 0)
         domain = f.domains.get(a.name, SCALE_FACTORS if a.name == "scaleFactor" else [])
+        joins = bool(a.record) and number > 0 and f.args[number - 1].name.partition(".")[0] == a.name.partition(".")[0]
         later = any(occurs(b.name, value) for b in f.args[number + 1 :] for value in domain)
         return (
             f"{{{quoted(a.name)}, Kind::{a.kind}, Element::{element}, {size}, {unit}, "
             f"{', '.join(str(x).lower() for x in flags)}, {self.integer(extent) if extent else 'nullptr'}, "
             f"{self.integer(a.room) if a.room else 'nullptr'}, {rows}, {a.bytes32()}, "
-            f"{self.domain(str(number), domain)}, {str(later).lower()}, {self.listed('Maker', f'makers_{number}', makers)}}}"
+            f"{self.domain(str(number), domain)}, {str(later).lower()}, {str(joins).lower()}, {self.listed('Maker', f'makers_{number}', makers)}}}"
         )
 
     def named(self, n, number):

@@ -102,6 +102,13 @@ def check(text, known):
             raise Mistake(f"{name} is no argument: {text}")
         return kind
 
+    def dotted(tree):
+        if tree[0] == "name":
+            return tree[1]
+        if tree[0] != "part":
+            raise Mistake(f"no part of it has a name: {text}")
+        return f"{dotted(tree[1])}.{tree[2]}"
+
     def number(tree, why):
         if kind(tree) != "number":
             raise Mistake(f"{why}: {text}")
@@ -116,9 +123,7 @@ def check(text, known):
         if what == "part":
             if tree[2] in ("re", "im") and kind(tree[1]) == "complex":
                 return "number"
-            if tree[1][0] != "name":
-                raise Mistake(f"no part .{tree[2]}: {text}")
-            return name_of(f"{tree[1][1]}.{tree[2]}")
+            return name_of(dotted(tree))
         if what == "call":
             for given in tree[2:]:
                 number(given, f"{tree[1]} takes numbers")

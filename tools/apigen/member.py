@@ -54,7 +54,8 @@ class Member:
         self.building = Building(self.said.building.values(), self.args, self.binding)
         with at(self.place):
             for a in self.args:
-                for text in list(a.rows[:3]) or [a.extent]:
+                r = a.rows
+                for text in [r.count, r.width, r.step, r.row, r.column] if r else [a.extent]:
                     if text:
                         expression.check(text, self.building.known)
                 if a.room:

@@ -16,6 +16,18 @@ class Type:
 
 
 @dataclass
+class Rows:
+    """An array that consists of rows."""
+
+    count: str
+    width: str  # elements of a row
+    step: str  # from one row to the next
+    in_bytes: bool  # what the step counts; it may be negative then
+    row: str = "0"  # where the pointer points
+    column: str = "0"
+
+
+@dataclass
 class Arg:
     """One argument. kind: array, work, result (pointer to single values), opaque (a record), handle (where the address
     of a record is stored), pointer, scalar, index."""
@@ -29,9 +41,10 @@ class Arg:
     stars: int = 0
     extent: str = ""  # elements of an array, bytes of a work buffer or record, values of a result
     room: str = ""  # elements that suffice, where the extent is known after the call only
-    rows: tuple = ()  # (rows, elements of a row, from row to row, whether that counts bytes) of an array with rows
+    rows: object = None  # Rows
     optional: bool = False  # a null pointer is a valid argument
     applies_to: str = ""  # index: the pointer that it moves
+    record: str = ""  # of a member of a record by value, which is an argument of its own: the record's C type
 
     @property
     def pointer(self):
@@ -183,7 +196,7 @@ class Function:
 class Api:
     types: dict
     opaque: list
-    records: list  # structures of include/sig5d_types.h
+    records: dict  # structures of include/sig5d_types.h -> their members, of those that are arguments by value
     statuses: list  # (code, name or "", text)
     functions: list
     topics: dict  # name -> title
@@ -198,6 +211,16 @@ class Api:
         """Every export in order of its name: (name, function, form), form one of plain, index, alias."""
         found = [(name, f, form) for f in self.functions for name, form in f.exports()]
         return sorted(found, key=lambda e: e[0])
+
+
+def c_arguments(args):
+    """(C type, name) of the arguments as C has them: members of a record are one."""
+    found = []
+    for a in args:
+        one = (a.record, a.name.partition(".")[0]) if a.record else (a.c_type(), a.name)
+        if not a.record or one not in found:
+            found.append(one)
+    return found
 
 
 def index_args(function):

@@ -20,7 +20,7 @@ class Parser:
 
     def __init__(self, folder, variants_file):
         self.folder = Path(folder)
-        self.api = Api({}, [], [], [], [], {}, {}, {}, variants.read(variants_file))
+        self.api = Api({}, [], {}, [], [], {}, {}, {}, variants.read(variants_file))
         self.common = {}  # the shapes of shapes.api; other shapes serve in their own file
 
     def read(self):
@@ -91,12 +91,14 @@ class Parser:
 
     def opaque(self, statement):
         for name in statement.rest.split():
-            if name in self.api.opaque + self.api.records:
+            if name in self.api.opaque + list(self.api.records):
                 raise Mistake(f"{name} a second time")
             self.api.opaque.append(name)
 
     def record(self, statement):
-        self.api.records.append(match(IDENTIFIER, statement.rest, "no name of a record")[0])
+        m = match(rf"({IDENTIFIER})(?:\s*\((.+)\))?", statement.rest, "no record NAME [(int MEMBER, ...)]")
+        members = [match(rf"int ({IDENTIFIER})", t, "no int MEMBER")[1] for t in split_list(m[2] or "")]
+        self.api.records[m[1]] = members
 
     def set_half(self, statement):
         self.half = match("ipp|own", statement.rest, "neither ipp nor own")[0]

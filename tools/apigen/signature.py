@@ -2,7 +2,7 @@
 import re
 
 import expression
-from model import Arg, Check
+from model import Arg, Check, Rows
 from statements import Mistake, split_list
 
 PLAIN_BASES = {"int": "int", "uint": "unsigned int", "void": "void", "char": "char"}
@@ -50,17 +50,27 @@ def parse_arg(text, binding, api):
 
 
 def read_extent(arg, text):
-    """`len`; `*count, at most n`, where the call tells how much it writes; `rows of cols every stride [bytes]`."""
+    """`len`; `*count, at most n`, where the call tells how much it writes; `rows of cols every stride [bytes]`, and
+    where in them the pointer points: `from row r column c`."""
     arg.extent, _, room = text.partition(", at most ")
     arg.room = room.strip()
-    rows = re.fullmatch(r"(.+) of (.+) every (.+?)( bytes)?", arg.extent)
+    rows = re.fullmatch(r"(.+) of (.+) every (.+?)( bytes(?: from row (.+) column (.+))?)?", arg.extent)
     if rows:
-        arg.rows = (rows[1], rows[2], rows[3], bool(rows[4]))
+        arg.rows = Rows(rows[1], rows[2], rows[3], bool(rows[4]), rows[5] or "0", rows[6] or "0")
+
+
+def parse_record(text, api):
+    """`IppiSize roi`: the members of a record by value, an argument each: roi.width, roi.height. Else: none."""
+    m = re.fullmatch(r"(\w+)\s+(\w+)", text)
+    members = api.records.get(m[1], []) if m else []
+    return [Arg(f"{m[2]}.{member}", "scalar", base="int", record=m[1]) for member in members]
 
 
 def parse_args(text, binding, api, indices):
     """`indices`: the argument list is that of an _Idx form itself."""
-    args = [parse_arg(t, binding, api) for t in split_list(text)]
+    args = []
+    for t in split_list(text):
+        args += parse_record(t, api) or [parse_arg(t, binding, api)]
     for i, a in enumerate(args):
         if any(a.name == b.name for b in args[:i]):
             raise Mistake(f"two arguments {a.name}")

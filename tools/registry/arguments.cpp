@@ -160,8 +160,9 @@ void fillArgument(Arguments& a, int i, Random& random, Pattern pattern, uint64_t
     a.content[i].resize(a.bytes(i));
     if (isRead(arg)) fillElements(a, i, random, pattern);
     a.prefill(i, prefill);
+    const Gaps gaps = a.gaps(i);
     for (size_t k = 0; arg.rows && k < a.content[i].size(); ++k)
-        if (a.inGap(i, k)) a.content[i][k] = 0xA5;
+        if (gaps.have(k)) a.content[i][k] = 0xA5;
 }
 
 // Elements are counted without the gaps between rows.
@@ -185,7 +186,8 @@ void tryExtents(Arguments& a)
     auto memory = a.content;
     auto values = a.values;
     for (int i = 0; i < a.f.argCount; ++i)
-        if (isPointer(a.f.args[i]) && !a.null[i]) values[i].p = memory[i].empty() ? somewhere() : memory[i].data();
+        if (isPointer(a.f.args[i]) && !a.null[i])
+            values[i].p = memory[i].empty() ? somewhere() : memory[i].data() + a.lead(i);
     call(a.f, values.data());
     for (int i = 0; i < a.f.argCount; ++i)
         if (a.f.args[i].room) {
@@ -215,6 +217,12 @@ size_t Arguments::bytes(int i) const
     return static_cast<size_t>(extent[i]) * unit;
 }
 
+size_t Arguments::lead(int i) const
+{
+    const bool any = f.args[i].rows && extent[i] > 0;
+    return any ? static_cast<size_t>(f.args[i].rows->lead(values.data())) : 0;
+}
+
 bool Arguments::valid() const
 {
     for (int i = 0; i < f.checkCount; ++i)
@@ -231,21 +239,20 @@ void setNumber(Arguments& a, int i, double number)
     std::memcpy(a.content[i].data(), from, a.content[i].size());
 }
 
-bool Arguments::inGap(int i, size_t byte) const
+Gaps Arguments::gaps(int i) const
 {
     const Rows* rows = f.args[i].rows;
-    if (!rows) return false;
-    const auto step = static_cast<size_t>(rows->step(values.data())),
-               width = static_cast<size_t>(rows->width(values.data()));
-    return step > width && byte % step >= width;
+    if (!rows) return {};
+    return {static_cast<size_t>(rows->step(values.data())), static_cast<size_t>(rows->width(values.data()))};
 }
 
 void Arguments::prefill(int i, uint64_t pattern)
 {
     const Arg& arg = f.args[i];
     if (arg.isConst || arg.inout || arg.makers || arg.domainSize || arg.kind == Kind::handle) return;
+    const Gaps between = gaps(i);
     for (size_t k = 0; k < content[i].size(); ++k)
-        if (!inGap(i, k)) content[i][k] = static_cast<uint8_t>(pattern >> k % 8 * 8);
+        if (!between.have(k)) content[i][k] = static_cast<uint8_t>(pattern >> k % 8 * 8);
 }
 
 Arguments build(const Function& f, Random& random, long long length, Pattern pattern, uint64_t prefill,

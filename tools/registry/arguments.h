@@ -8,6 +8,12 @@
 
 namespace registry {
 
+// What lies between the rows of an array.
+struct Gaps {
+    size_t step = 0, width = 0; // of a row
+    bool have(size_t byte) const { return step > width && byte % step >= width; }
+};
+
 struct Arguments {
     explicit Arguments(const Function& function);
 
@@ -19,10 +25,11 @@ struct Arguments {
     std::vector<std::shared_ptr<const Arguments>> made; // of each state: the arguments of the call that makes it
 
     size_t bytes(int argument) const;
-    bool valid() const; // no check fails
+    size_t lead(int argument) const; // of these bytes, those in front of the pointer
+    bool valid() const;              // no check fails
 
-    // Whether the byte lies between two rows of the argument: no call may change it, nor do its results depend on it.
-    bool inGap(int argument, size_t byte) const;
+    // The bytes between two rows of the argument: no call may change them, nor do its results depend on them.
+    Gaps gaps(int argument) const;
     // Fills what is only written with "pattern" again and again: results do not depend on it either.
     void prefill(int argument, uint64_t pattern);
 };

@@ -54,6 +54,16 @@ public:
         raw(&value, sizeof value);
 #endif
     }
+    // A record of two ints: one register, or the words of both.
+    void joined(long long first, long long second)
+    {
+#ifdef __x86_64__
+        integer(static_cast<uintptr_t>((first & 0xFFFFFFFFLL) | second << 32));
+#else
+        integer(static_cast<uintptr_t>(first));
+        integer(static_cast<uintptr_t>(second));
+#endif
+    }
     void wide(long long value)
     {
         if constexpr (sizeof(uintptr_t) == 8)
@@ -97,6 +107,13 @@ void add(Words& w, const Arg& a, const Value& v)
     default:
         return w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(static_cast<int32_t>(v.i))));
     }
+}
+
+// The arguments from i on that C has as one; how many they are.
+int addAt(Words& w, const Function& f, const Value* values, int i)
+{
+    if (i + 1 < f.argCount && f.args[i + 1].joins) return w.joined(values[i].i, values[i + 1].i), 2;
+    return add(w, f.args[i], values[i]), 1;
 }
 
 bool hasAvx()
@@ -187,16 +204,17 @@ bool takesIndex(const Arg& a) { return a.kind == Kind::array || a.kind == Kind::
 CallWords wordsOf(const Function& f, const Value* values)
 {
     Words w;
-    for (int i = 0; i < f.argCount; ++i) add(w, f.args[i], values[i]);
+    for (int i = 0; i < f.argCount;) i += addAt(w, f, values, i);
     return w;
 }
 
 CallWords wordsOfIndexed(const Function& f, const Value* values, const int* indexes)
 {
     Words w;
-    for (int i = 0, k = 0; i < f.argCount; ++i) {
-        add(w, f.args[i], values[i]);
-        if (takesIndex(f.args[i])) w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(indexes[k++])));
+    for (int i = 0, k = 0; i < f.argCount;) {
+        const bool indexed = takesIndex(f.args[i]);
+        i += addAt(w, f, values, i);
+        if (indexed) w.integer(static_cast<uintptr_t>(static_cast<intptr_t>(indexes[k++])));
     }
     return w;
 }

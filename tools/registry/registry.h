@@ -50,9 +50,10 @@ struct Choice {
     Number low, high; // over other arguments; high may be null
 };
 
-// An array whose rows have gaps between them, all in bytes.
+// An array whose rows have gaps between them, as they lie in memory, all in bytes; "lead" of them are in front of the
+// pointer.
 struct Rows {
-    Integer count, width, step;
+    Integer count, width, step, lead;
 };
 
 // A function that makes the state that an argument takes.
@@ -85,6 +86,7 @@ struct Arg {
     const Choice* domain; // may be null
     int domainSize;
     bool followsLater;   // the domain is over arguments behind this one
+    bool joins;          // a member of a record by value, with the member before it
     const Maker* makers; // of a state: any of these; null: no state
     int makerCount;
 };

@@ -77,7 +77,8 @@ Made::Made(const Arguments& maker, const Room& room) : maker_(maker.f)
             parts_.push_back(std::make_unique<Made>(*maker.made[i], room));
             values[i].p = parts_.back()->pointer();
         } else if (!maker.null[i]) {
-            values[i].p = memory[i] = room(maker.bytes(i), i == maker_.makes.home);
+            memory[i] = room(maker.bytes(i), i == maker_.makes.home);
+            values[i].p = memory[i] + maker.lead(i);
             if (!maker.content[i].empty()) std::memcpy(memory[i], maker.content[i].data(), maker.content[i].size());
         }
     }
