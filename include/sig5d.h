@@ -2196,6 +2196,21 @@ IppStatus SIG5D_CDECL ippsTriangle_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int 
 IppStatus SIG5D_CDECL ippsTriangle_Direct_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq,
         Ipp64f asym, Ipp64f* pPhase);
 
+/* ---- Spectrum values by Goertzel's method ---- */
+
+/* *pVal = sum over n of pSrc[n] * e^(-2 pi i rFreq n). The spectrum of a block at one frequency, relative to the
+   sampling rate. A NaN frequency passes the checks and gives NaN. */
+IppStatus SIG5D_STDCALL ippsGoertz_64f(const Ipp64f* pSrc, int len, Ipp64fc* pVal, Ipp64f rFreq);
+IppStatus SIG5D_CDECL ippsGoertz_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64fc* pVal, Ipp64f rFreq);
+IppStatus SIG5D_STDCALL ippsGoertz_64fc(const Ipp64fc* pSrc, int len, Ipp64fc* pVal, Ipp64f rFreq);
+IppStatus SIG5D_CDECL ippsGoertz_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64fc* pVal, Ipp64f rFreq);
+
+/* pVal[k] is what ippsGoertz gives for the frequency rFreq[k], to the bit, in one pass over the samples. */
+IppStatus SIG5D_CDECL ippsGoertzTwo_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64fc* pVal, const Ipp64f*
+        rFreq);
+IppStatus SIG5D_CDECL ippsGoertzTwo_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64fc* pVal, const Ipp64f*
+        rFreq);
+
 /* ---- IIR filters ---- */
 
 /* The bytes of a buffer for the state of a filter of that order N. */
@@ -2313,6 +2328,43 @@ IppStatus SIG5D_CDECL ippsRandUniform_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, i
    pSeed, which is not changed: a second call gives them again. */
 IppStatus SIG5D_CDECL ippsRandGauss_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f mean, Ipp64f stdDev,
         const unsigned int* pSeed);
+
+/* ---- Sampling rates and the Haar wavelet ---- */
+
+/* pDst[i*factor + *pPhase] = pSrc[i]; all others of srcLen*factor elements are 0; *pDstLen = srcLen*factor. Puts
+   factor-1 zeros between the samples. The phase is that of the next block, too, and stays as it is. */
+IppStatus SIG5D_STDCALL ippsSampleUp_64f(const Ipp64f* pSrc, int srcLen, Ipp64f* pDst, int* pDstLen, int factor, int*
+        pPhase);
+IppStatus SIG5D_CDECL ippsSampleUp_64f_Idx(const Ipp64f* pSrc, int srcIdx, int srcLen, Ipp64f* pDst, int dstIdx, int*
+        pDstLen, int factor, int* pPhase);
+IppStatus SIG5D_STDCALL ippsSampleUp_64fc(const Ipp64fc* pSrc, int srcLen, Ipp64fc* pDst, int* pDstLen, int factor,
+        int* pPhase);
+IppStatus SIG5D_CDECL ippsSampleUp_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int srcLen, Ipp64fc* pDst, int dstIdx,
+        int* pDstLen, int factor, int* pPhase);
+
+/* pDst[k] = pSrc[k*factor + *pPhase], while that index is below srcLen; *pDstLen = the number of them. Keeps one
+   sample of each factor. *pPhase becomes the first index past the end, less srcLen: the phase for the next block
+   of the stream. A block that ends before its phase gives no sample. */
+IppStatus SIG5D_STDCALL ippsSampleDown_64f(const Ipp64f* pSrc, int srcLen, Ipp64f* pDst, int* pDstLen, int factor,
+        int* pPhase);
+IppStatus SIG5D_CDECL ippsSampleDown_64f_Idx(const Ipp64f* pSrc, int srcIdx, int srcLen, Ipp64f* pDst, int dstIdx,
+        int* pDstLen, int factor, int* pPhase);
+IppStatus SIG5D_STDCALL ippsSampleDown_64fc(const Ipp64fc* pSrc, int srcLen, Ipp64fc* pDst, int* pDstLen, int factor,
+        int* pPhase);
+IppStatus SIG5D_CDECL ippsSampleDown_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int srcLen, Ipp64fc* pDst, int dstIdx,
+        int* pDstLen, int factor, int* pPhase);
+
+/* pDstHigh[k] = (pSrc[2k+1] - pSrc[2k]) * 0.5; pDstLow[k] = pSrc[2k] + pDstHigh[k]. The means of neighbours and
+   half of their differences. The last sample of an odd len becomes the last of pDstLow. */
+IppStatus SIG5D_STDCALL ippsWTHaarFwd_64f(const Ipp64f* pSrc, int len, Ipp64f* pDstLow, Ipp64f* pDstHigh);
+IppStatus SIG5D_CDECL ippsWTHaarFwd_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pDstLow, int dstLowIdx,
+        Ipp64f* pDstHigh, int dstHighIdx);
+
+/* pDst[2k] = pSrcLow[k] - pSrcHigh[k]; pDst[2k+1] = pSrcLow[k] + pSrcHigh[k]. The inverse of ippsWTHaarFwd, up to
+   the roundings of both. The last sample of an odd len is the last of pSrcLow. */
+IppStatus SIG5D_STDCALL ippsWTHaarInv_64f(const Ipp64f* pSrcLow, const Ipp64f* pSrcHigh, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsWTHaarInv_64f_Idx(const Ipp64f* pSrcLow, int srcLowIdx, const Ipp64f* pSrcHigh, int
+        srcHighIdx, Ipp64f* pDst, int dstIdx, int len);
 
 /* ---- Statistics and norms ---- */
 
