@@ -295,6 +295,10 @@ typedef struct IppsFIRSpec_64f IppsFIRSpec_64f;
 typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
+typedef struct IppsFilterMedianHandle_64f IppsFilterMedianHandle_64f;
+typedef struct IppsFilterMedianHandle_32s IppsFilterMedianHandle_32s;
+typedef struct IppsFilterMedianHandle_16s IppsFilterMedianHandle_16s;
+typedef struct IppsFilterMedianHandle_8u IppsFilterMedianHandle_8u;
 typedef struct IppsDCTFwdSpec_64f IppsDCTFwdSpec_64f;
 typedef struct IppsDCTInvSpec_64f IppsDCTInvSpec_64f;
 typedef struct IppsDCTHandle_64f IppsDCTHandle_64f;
@@ -2260,6 +2264,63 @@ IppStatus SIG5D_CDECL ippsIIR_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int le
 /* Filters one sample: ippsIIR with len 1. */
 IppStatus SIG5D_CDECL ippsIIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, IppsIIRState_64f* pState);
 IppStatus SIG5D_CDECL ippsIIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, IppsIIRState_64fc* pState);
+
+/* ---- Median filters ---- */
+
+/* *pBufferSize = 16*m, where m is the mask size made odd. The bytes of a work buffer. dataType is 1 for 8u, 7 for
+   16s, 11 for 32s, 19 for 64f; 13 (32f) is answered too, though no filter of this type exists. */
+IppStatus SIG5D_STDCALL ippsFilterMedianGetBufferSize(int maskSize, int dataType, int* pBufferSize);
+
+/* pDst[n] = the middle one of x[n-m+1] ... x[n] in order, m = the mask size made odd. Filters the next len samples
+   of a stream. x[n] is pSrc[n]; before it come the m-1 samples of pDlySrc, oldest first, or copies of pSrc[0] when
+   it is null. pDlyDst, when not null, receives the last m-1 samples for the next call. An even mask size counts as
+   the next lower odd one, and gives the warning. */
+IppStatus SIG5D_STDCALL ippsFilterMedian_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, int maskSize, const Ipp64f*
+        pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, int maskSize, const Ipp32s*
+        pDlySrc, Ipp32s* pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, int maskSize, const Ipp16s*
+        pDlySrc, Ipp16s* pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len, int maskSize, const Ipp8u*
+        pDlySrc, Ipp8u* pDlyDst, Ipp8u* pBuffer);
+
+/* ippsFilterMedian in place. */
+IppStatus SIG5D_STDCALL ippsFilterMedian_64f_I(Ipp64f* pSrcDst, int len, int maskSize, const Ipp64f* pDlySrc, Ipp64f*
+        pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_32s_I(Ipp32s* pSrcDst, int len, int maskSize, const Ipp32s* pDlySrc, Ipp32s*
+        pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_16s_I(Ipp16s* pSrcDst, int len, int maskSize, const Ipp16s* pDlySrc, Ipp16s*
+        pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_8u_I(Ipp8u* pSrcDst, int len, int maskSize, const Ipp8u* pDlySrc, Ipp8u*
+        pDlyDst, Ipp8u* pBuffer);
+
+/* Filters the next len samples of the stream that a handle of ippsFilterMedianAlloc carries from call to call:
+   several calls give what one over all the samples gives. Before the first sample come zeros. The warning comes
+   with each call. */
+IppStatus SIG5D_CDECL ippsFilterMedian_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_64f* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_64f_I_Idx(Ipp64f* pSrcDst, int idx, int len, IppsFilterMedianHandle_64f*
+        pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_32s* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_32s_I_Idx(Ipp32s* pSrcDst, int idx, int len, IppsFilterMedianHandle_32s*
+        pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_16s* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_16s_I_Idx(Ipp16s* pSrcDst, int idx, int len, IppsFilterMedianHandle_16s*
+        pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_8u* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_8u_I_Idx(Ipp8u* pSrcDst, int idx, int len, IppsFilterMedianHandle_8u* pHandle);
+
+/* Allocates a median filter with its delay line (zeros) and buffer; to be released by ippsFilterMedianFree_Idx. */
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_64f_Idx(int maskSize, IppsFilterMedianHandle_64f** ppHandle);
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_32s_Idx(int maskSize, IppsFilterMedianHandle_32s** ppHandle);
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_16s_Idx(int maskSize, IppsFilterMedianHandle_16s** ppHandle);
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_8u_Idx(int maskSize, IppsFilterMedianHandle_8u** ppHandle);
+
+/* Releases what ippsFilterMedianAlloc allocated; null is ignored. */
+void SIG5D_CDECL ippsFilterMedianFree_Idx(void* pHandle);
 
 /* ---- Random numbers ---- */
 
