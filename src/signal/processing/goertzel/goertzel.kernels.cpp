@@ -17,7 +17,7 @@ constexpr size_t blockRows = 64;           // that stay in the first cache for a
 // What the samples are multiplied by: W to W^4, then w^8, w^4, w^2 and w in units of numbers.
 struct Rotations {
     alignas(64) f64 cos[8], sin[8];
-    template <int members> void fill(f64 frequency)
+    void fill(f64 frequency, int members)
     {
         static constexpr f64 multiples[] = {16, 32, 48, 64, 8, 4, 2, 1};
         const Multiples of(frequency);
@@ -84,10 +84,11 @@ template <int vectors>
 }
 
 // The chains as one: k and k + 8, then k and k + 4, and so on down to one, or to the two of a sample's parts.
-template <int members> inline void join(Chains& z, const Rotations& w)
+inline void join(Chains& z, const Rotations& w, int members)
 {
     for (int step = 4, half = columns / 2; half >= members; half /= 2, ++step) {
         const f64 c = w.cos[step], s = w.sin[step];
+#pragma GCC unroll 1
         for (int k = 0; k < half; ++k) {
             const Complex<f64> t = turned_back<f64>({z.re[k + half], z.im[k + half]}, c, s);
             z.re[k] += t.re;
@@ -96,15 +97,17 @@ template <int members> inline void join(Chains& z, const Rotations& w)
     }
 }
 
-// n numbers, of which a sample has so many members; at so many frequencies at a time.
-template <int members, int frequencies> void spectrum(const f64* a, size_t n, const f64* frequency, c64f* value)
+// n numbers, of which a sample has so many members; at so many frequencies, one or two, in one pass.
+[[gnu::noinline, gnu::noclone]] void spectrum(const f64* a, size_t n, int members, const f64* frequency,
+                                              int frequencies, c64f* value)
 {
-    Rotations w[frequencies];
-    Chains z[frequencies];
+    Rotations w[2];
+    Chains z[2];
     // What is left at the end is a row of which some columns begin later: with nothing.
     const size_t whole = n / columns;
     for (int i = 0; i < frequencies; ++i) {
-        w[i].template fill<members>(frequency[i]);
+        w[i].fill(frequency[i], members);
+#pragma GCC unroll 1
         for (size_t k = 0; k < columns; ++k) {
             z[i].re[k] = whole * columns + k < n ? a[whole * columns + k] : 0.0;
             z[i].im[k] = 0.0;
@@ -116,33 +119,31 @@ template <int members, int frequencies> void spectrum(const f64* a, size_t n, co
         for (int i = 0; i < frequencies; ++i) add_rows(a + end * columns, rows, w[i], z[i]);
     }
     for (int i = 0; i < frequencies; ++i) {
-        join<members>(z[i], w[i]);
-        if constexpr (members == 1)
-            value[i] = {z[i].re[0], z[i].im[0]};
-        else
-            value[i] = {z[i].re[0] - z[i].im[1], z[i].im[0] + z[i].re[1]};
+        join(z[i], w[i], members);
+        value[i] = {z[i].re[0], z[i].im[0]};
+        if (members == 2) value[i] = {z[i].re[0] - z[i].im[1], z[i].im[0] + z[i].re[1]};
     }
 }
 
-template <int frequencies> inline void spectrum_of(const f64* a, int n, const f64* frequency, c64f* value)
+inline void spectrum_of(const f64* a, int n, const f64* frequency, int frequencies, c64f* value)
 {
-    spectrum<1, frequencies>(a, static_cast<size_t>(n), frequency, value);
+    spectrum(a, static_cast<size_t>(n), 1, frequency, frequencies, value);
 }
-template <int frequencies> inline void spectrum_of(const c64f* a, int n, const f64* frequency, c64f* value)
+inline void spectrum_of(const c64f* a, int n, const f64* frequency, int frequencies, c64f* value)
 {
-    spectrum<2, frequencies>(&a->re, 2 * static_cast<size_t>(n), frequency, value);
+    spectrum(&a->re, 2 * static_cast<size_t>(n), 2, frequency, frequencies, value);
 }
 
 template <class T> void goertzel(const T* a, int n, c64f* value, f64 frequency)
 {
-    spectrum_of<1>(a, n, &frequency, value);
+    spectrum_of(a, n, &frequency, 1, value);
 }
 
 template <class T> Status goertzel_two(const T* pSrc, int srcIdx, int n, c64f* value, const f64* frequency)
 {
     for (int i = 0; i < 2; ++i)
         if (frequency[i] < 0 || frequency[i] >= 1) return StsRelFreqErr;
-    spectrum_of<2>(element<static_cast<int>(sizeof(T))>(pSrc, srcIdx), n, frequency, value);
+    spectrum_of(element<static_cast<int>(sizeof(T))>(pSrc, srcIdx), n, frequency, 2, value);
     return StsNoErr;
 }
 

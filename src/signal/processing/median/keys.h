@@ -6,14 +6,6 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T> struct KeyOf {
-    using type = T;
-};
-template <> struct KeyOf<f64> {
-    using type = i64;
-};
-template <class T> using Key = typename KeyOf<T>::type;
-
 // The bits of negative numbers are inverted but for the sign; then -infinity is made the lowest integer, so that NaN
 // with a sign, which were below it, are above all others.
 constexpr i64 belowInfinity = 0x000FFFFFFFFFFFFF;
@@ -28,7 +20,7 @@ inline void set_element(f64& x, i64 key)
     const i64 bits = static_cast<i64>(static_cast<u64>(key) + belowInfinity);
     x = __builtin_bit_cast(f64, bits ^ (bits >> 63 & INT64_MAX));
 }
-template <class T> inline void set_element(T& x, T key) { x = key; }
+template <class T> inline void set_element(T& x, i64 key) { x = static_cast<T>(key); }
 
 #if SIG5D_LEVEL > 0
 template <int n> inline Vec<i64, n> keys_of(Vec<i64, n> bits)

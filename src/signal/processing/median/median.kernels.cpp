@@ -10,36 +10,34 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T> void move(const T* a, T* d, ptrdiff_t n)
+template <class T> [[gnu::noinline]] void move(const T* a, T* d, ptrdiff_t n)
 {
-    for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
+    ptrdiff_t i = 0;
+#if SIG5D_LEVEL > 0
+    for (; i + lanes<T> <= n; i += lanes<T>) store(d + i, load(a + i));
+#endif
+    for (; i < n; ++i) {
+        d[i] = a[i];
+        asm volatile("" : : : "memory"); // no vectors again
+    }
 }
 
 // The first address from p on that a double may have.
 inline u8* aligned_to_doubles(u8* p) { return p + (-reinterpret_cast<uintptr_t>(p) & 7); }
 
 // With a work buffer of 16 bytes for each element of the mask: the next history, and then the window's keys.
-template <class T> void long_median(const Stream<T>& x, T* d, T* next, u8* buffer)
+template <class T> [[gnu::noinline]] void long_median(const Stream<T>& x, T* d, T* next, u8* buffer)
 {
     u8* const from = aligned_to_doubles(buffer);
     T* const tail = reinterpret_cast<T*>(from);
-    if (next) x.tail(tail);
-    if constexpr (std::is_same_v<T, u8>)
+    if (next) copy_tail(x, tail);
+    if (fitsLanes<T>(x.delay + 1))
+        windows(x, d);
+    else if constexpr (std::is_same_v<T, u8>)
         counted(x, d);
     else
-        tiered(x, d, reinterpret_cast<Key<T>*>(from + 8 * x.delay));
-    if (next) move(tail, next, x.delay);
-}
-template <class T> void windows_median(const Stream<T>& x, T* d, T* next, u8* buffer)
-{
-#if SIG5D_LEVEL > 0
-    T* const tail = reinterpret_cast<T*>(aligned_to_doubles(buffer));
-    if (next) x.tail(tail);
-    windows(x, d, static_cast<int>(x.delay + 1));
-    if (next) move(tail, next, x.delay);
-#else
-    long_median(x, d, next, buffer);
-#endif
+        tiered(x, d, reinterpret_cast<i64*>(from + 8 * x.delay));
+    if (next) copy_few(tail, next, x.delay);
 }
 
 template <class T> Status median(const T* src, T* d, int n, int maskSize, const T* history, T* next, u8* buffer)
@@ -53,8 +51,6 @@ template <class T> Status median(const T* src, T* d, int n, int maskSize, const 
         small_median<3>(x, d, next);
     } else if (mask == 5) {
         small_median<5>(x, d, next);
-    } else if (mask <= 63) {
-        windows_median(x, d, next, buffer);
     } else {
         long_median(x, d, next, buffer);
     }

@@ -37,8 +37,10 @@ template <int mask, int vectors, int L, class T> [[gnu::always_inline]] inline v
 template <int mask, int vectors, int L> [[gnu::noinline]] void network_of_keys(const f64* a, f64* d)
 {
     Vec<i64, L> v[vectors];
+#pragma GCC unroll 1
     for (int i = 0; i < vectors; ++i)
         v[i] = middle_at<mask>(a + i * L, [](const f64* p) { return keys_of<L>(as<Vec<i64, L>>(loadn<L>(p))); });
+#pragma GCC unroll 1
     for (int i = 0; i < vectors; ++i) storen<L>(d + i * L, as<Vec<f64, L>>(elements_of_keys<L>(v[i])));
 }
 
@@ -53,7 +55,7 @@ template <int mask, int vectors, class T> [[gnu::always_inline]] inline void net
 #endif
 
 // d[i] = the median of a[i - mask + 1] ... a[i], i < n.
-template <int mask, class T> void networks(const T* a, T* d, ptrdiff_t n)
+template <int mask, class T> [[gnu::noinline]] void networks(const T* a, T* d, ptrdiff_t n)
 {
 #if SIG5D_LEVEL > 0
     constexpr int L = lanes<T>, group = 4;
@@ -66,22 +68,24 @@ template <int mask, class T> void networks(const T* a, T* d, ptrdiff_t n)
         network_of<mask, 1>(a + n, d + n);
     }
 #endif
-    while (n-- > 0) set_element(d[n], middle_at<mask>(a + n, [](const T* p) { return key_of(*p); }));
+    while (n-- > 0) {
+        set_element(d[n], middle_at<mask>(a + n, [](const T* p) { return key_of(*p); }));
+        asm volatile("" : : : "memory"); // no vectors again for what is left
+    }
 }
 
 // The first results, which have history in their window, and the others.
 template <int mask, class T> [[gnu::noinline]] void small_median(const Stream<T>& x, T* d, T* next)
 {
     constexpr ptrdiff_t delay = mask - 1;
-    T history[2 * delay] = {}, results[delay], tail[delay];
+    T begin[2 * delay], tail[delay];
     const ptrdiff_t some = x.length < delay ? x.length : delay;
-    for (ptrdiff_t i = 0; i < delay + some; ++i) history[i] = x[i - delay];
-    if (next) x.tail(tail);
-    networks<mask>(history + delay, results, some);
+    copy_stream(x, -delay, begin, delay + some);
+    copy_tail(x, tail);
     networks<mask>(x.src + some, d + some, x.length - some);
-    for (ptrdiff_t i = 0; i < some; ++i) d[i] = results[i];
-    if (next)
-        for (ptrdiff_t i = 0; i < delay; ++i) next[i] = tail[i];
+    networks<mask>(begin + delay, begin + delay, some);
+    copy_few(begin + delay, d, some);
+    if (next) copy_few(tail, next, delay);
 }
 
 } // namespace

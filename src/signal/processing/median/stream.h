@@ -14,14 +14,20 @@ template <class T> struct Stream {
     T first;
 
     T operator[](ptrdiff_t t) const { return t >= 0 ? src[t] : history ? history[delay + t] : first; }
-    // The same at distances where there are no samples any more.
-    T nearest(ptrdiff_t t) const { return (*this)[t < -delay ? -delay : t]; }
-    // The history for the next block.
-    void tail(T* d) const
-    {
-        for (ptrdiff_t i = 0; i < delay; ++i) d[i] = (*this)[length - delay + i];
-    }
 };
+
+// Copies for the ends of streams, one by one: made for size.
+template <class T> [[gnu::noinline, gnu::cold]] void copy_few(const T* a, T* d, ptrdiff_t n)
+{
+    for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
+}
+// n samples from the t-th on; before the history anything.
+template <class T> [[gnu::noinline, gnu::cold]] void copy_stream(const Stream<T>& x, ptrdiff_t t, T* d, ptrdiff_t n)
+{
+    for (; n > 0; ++t, --n) *d++ = x[t < -x.delay ? -x.delay : t];
+}
+// The history for the next block.
+template <class T> inline void copy_tail(const Stream<T>& x, T* d) { copy_stream(x, x.length - x.delay, d, x.delay); }
 
 } // namespace
 } // namespace sig5d::SIG5D_VARIANT

@@ -1,7 +1,9 @@
-// The median of a long window: its keys in order, in blocks of equal length (Goodrich and Kloss, Tiered vectors, 1999).
+// The median of a long window: its keys in order (as integers of 64 bits,
+// one code for all types), in blocks of equal length (Goodrich and Kloss, Tiered vectors, 1999).
 // Each block is a ring: when one sample goes and another comes, those between them move by one place, in the blocks of
 // both one after the other, in those between by one element that goes round. So a step costs the root of the mask.
 #pragma once
+#include "kernel/simd/compress.h"
 #include "signal/processing/median/keys.h"
 #include "signal/processing/median/stream.h"
 
@@ -9,9 +11,9 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // In place, without recursion.
-template <class K> [[gnu::noinline]] void sort(K* a, size_t n)
+[[gnu::noinline, gnu::cold]] inline void sort(i64* a, size_t n)
 {
-    const auto sift = [a](K x, size_t i, size_t end) { // x goes down from i to its place
+    const auto sift = [a](i64 x, size_t i, size_t end) { // x goes down from i to its place
         for (size_t child; (child = 2 * i + 1) < end; i = child) {
             if (child + 1 < end && a[child] < a[child + 1]) ++child;
             if (!(x < a[child])) break;
@@ -21,22 +23,31 @@ template <class K> [[gnu::noinline]] void sort(K* a, size_t n)
     };
     for (size_t i = n / 2; i-- > 0;) sift(a[i], i, n);
     for (size_t end = n; end-- > 1;) {
-        const K last = a[end];
+        const i64 last = a[end];
         a[end] = a[0];
         sift(last, 0, end);
     }
 }
 
 // How many of n keys are not above x, in any order.
-template <class K> inline size_t count_up_to(const K* a, size_t n, K x)
+[[gnu::noinline]] inline size_t count_up_to(const i64* a, size_t n, i64 x)
 {
     size_t count = 0;
-    for (size_t i = 0; i < n; ++i) count += a[i] <= x;
+#if SIG5D_LEVEL > 0
+    for (; n >= 16; n -= 16, a += 16)
+        count += bit_count(bits_of<16, i64>([a, x]<int m>(int i) { return loadn<m>(a + i) <= splatn<m>(x); }));
+#endif
+    for (; n > 0; --n) {
+        count += *a++ <= x;
+        asm volatile("" : "+r"(count)); // no vectors again
+    }
     return count;
 }
 
-template <class K> class Tiers
+class Tiers
 {
+    using K = i64;
+
 public:
     // The keys of the window, in any order, where they may stay.
     Tiers(K* keys, size_t n) : keys_(keys), size_(n)
@@ -44,9 +55,9 @@ public:
         sort(keys, n);
         while (size_t{1} << 2 * shift_ < n || n >> shift_ >= mostBlocks) ++shift_;
         blocks_ = (n + mask()) >> shift_;
-        for (size_t b = 0; b < blocks_; ++b) {
+        for (size_t b = 0; b < mostBlocks; ++b) { // they are counted by sixteens
             heads_[b] = 0;
-            firsts_[b] = keys[b << shift_];
+            firsts_[b] = b < blocks_ ? keys[b << shift_] : INT64_MAX;
         }
     }
 
@@ -57,7 +68,7 @@ public:
     }
 
     // One of the keys, and what comes in its place.
-    void replace(K old, K fresh)
+    [[gnu::noinline]] void replace(K old, K fresh)
     {
         const size_t from = block_of(old), to = block_of(fresh);
         const size_t oldPlace = count_up_to(block(from), length(from), old) - 1;
@@ -111,17 +122,21 @@ private:
     // The last block whose first key is not above x: the last one that has x, or where it belongs.
     size_t block_of(K x) const
     {
-        const size_t count = count_up_to(firsts_, blocks_, x);
-        return count ? count - 1 : 0;
+        const size_t count = count_up_to(firsts_, (blocks_ + 15) & ~size_t{15}, x);
+        return count == 0 ? 0 : count < blocks_ ? count - 1 : blocks_ - 1;
     }
     // Elements between two places of a block by one place: the one at the lower place, or at the upper one, is lost.
-    void move_down(size_t b, size_t low, size_t high)
+    [[gnu::noinline]] void move_down(size_t b, size_t low, size_t high)
     {
-        for (size_t i = low; i < high; ++i) at(b, i) = at(b, i + 1);
+        K* const ring = block(b);
+        const size_t all = mask(), end = heads_[b] + high;
+        for (size_t i = heads_[b] + low; i < end; ++i) ring[i & all] = ring[(i + 1) & all];
     }
-    void move_up(size_t b, size_t low, size_t high)
+    [[gnu::noinline]] void move_up(size_t b, size_t low, size_t high)
     {
-        for (size_t i = high; i > low; --i) at(b, i) = at(b, i - 1);
+        K* const ring = block(b);
+        const size_t all = mask(), end = heads_[b] + low;
+        for (size_t i = heads_[b] + high; i > end; --i) ring[i & all] = ring[(i - 1) & all];
     }
 
     K* keys_;
@@ -131,16 +146,19 @@ private:
     K firsts_[mostBlocks];
 };
 
-template <class T> [[gnu::noinline]] void tiered(const Stream<T>& x, T* d, Key<T>* keys)
+template <class T> [[gnu::noinline]] void tiered(const Stream<T>& x, T* d, i64* keys)
 {
     const ptrdiff_t mask = x.delay + 1;
-    for (ptrdiff_t i = 0; i < mask; ++i) keys[i] = key_of(x[x.length - mask + i]);
-    Tiers<Key<T>> window(keys, static_cast<size_t>(mask));
+    for (ptrdiff_t i = 0; i < mask; ++i) {
+        keys[i] = key_of(x[x.length - mask + i]);
+        asm volatile("" : : : "memory"); // one by one
+    }
+    Tiers window(keys, static_cast<size_t>(mask));
     for (ptrdiff_t t = x.length - 1;; --t) {
-        const Key<T> old = key_of(x.src[t]);
+        const i64 old = key_of(x.src[t]);
         set_element(d[t], window.middle());
         if (t == 0) return;
-        const Key<T> fresh = key_of(x[t - mask]);
+        const i64 fresh = key_of(x[t - mask]);
         if (fresh != old) window.replace(old, fresh);
     }
 }

@@ -8,7 +8,7 @@ namespace {
 // One element, and two beside each other: in a register each.
 template <class T> constexpr int parts = sizeof(T) / sizeof(f64);
 
-template <class T> inline void zeros(T* d, size_t n)
+template <class T> [[gnu::noinline, gnu::cold]] void zeros(T* d, size_t n)
 {
     for (size_t i = 0; i < n; ++i) d[i] = T{};
 }
@@ -68,10 +68,8 @@ inline void spread_by_two(const f64* a, size_t n, f64* d)
 }
 inline void spread_by_two(const c64f* a, size_t n, c64f* d) { spread(a, n, d, 2); }
 
-template <class T> void copy(const T* a, size_t n, T* d)
-{
-    map(n * static_cast<size_t>(parts<T>), reinterpret_cast<f64*>(d), Same{}, reinterpret_cast<const f64*>(a));
-}
+[[gnu::noinline]] void copy(const f64* a, size_t n, f64* d) { map(n, d, Same{}, a); }
+inline void copy(const c64f* a, size_t n, c64f* d) { copy(&a->re, 2 * n, &d->re); }
 
 // Zeros up to the first sample, each but the last with those behind it, and the last with what is left.
 template <class T> Status up(const T* a, int n, T* d, int* length, int factor, const int* pPhase)
