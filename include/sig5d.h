@@ -295,6 +295,10 @@ typedef struct IppsFIRSpec_64f IppsFIRSpec_64f;
 typedef struct IppsFIRSpec_64fc IppsFIRSpec_64fc;
 typedef struct IppsFIRHandle_64f IppsFIRHandle_64f;
 typedef struct IppsFIRHandle_64fc IppsFIRHandle_64fc;
+typedef struct IppsFilterMedianHandle_64f IppsFilterMedianHandle_64f;
+typedef struct IppsFilterMedianHandle_32s IppsFilterMedianHandle_32s;
+typedef struct IppsFilterMedianHandle_16s IppsFilterMedianHandle_16s;
+typedef struct IppsFilterMedianHandle_8u IppsFilterMedianHandle_8u;
 typedef struct IppsDCTFwdSpec_64f IppsDCTFwdSpec_64f;
 typedef struct IppsDCTInvSpec_64f IppsDCTInvSpec_64f;
 typedef struct IppsDCTHandle_64f IppsDCTHandle_64f;
@@ -2239,6 +2243,21 @@ IppStatus SIG5D_CDECL ippsTriangle_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int 
 IppStatus SIG5D_CDECL ippsTriangle_Direct_64fc_Idx(Ipp64fc* pDst, int dstIdx, int len, Ipp64f magn, Ipp64f rFreq,
         Ipp64f asym, Ipp64f* pPhase);
 
+/* ---- Spectrum values by Goertzel's method ---- */
+
+/* *pVal = sum over n of pSrc[n] * e^(-2 pi i rFreq n). The spectrum of a block at one frequency, relative to the
+   sampling rate. A NaN frequency passes the checks and gives NaN. */
+IppStatus SIG5D_STDCALL ippsGoertz_64f(const Ipp64f* pSrc, int len, Ipp64fc* pVal, Ipp64f rFreq);
+IppStatus SIG5D_CDECL ippsGoertz_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64fc* pVal, Ipp64f rFreq);
+IppStatus SIG5D_STDCALL ippsGoertz_64fc(const Ipp64fc* pSrc, int len, Ipp64fc* pVal, Ipp64f rFreq);
+IppStatus SIG5D_CDECL ippsGoertz_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64fc* pVal, Ipp64f rFreq);
+
+/* pVal[k] is what ippsGoertz gives for the frequency rFreq[k], to the bit, in one pass over the samples. */
+IppStatus SIG5D_CDECL ippsGoertzTwo_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64fc* pVal, const Ipp64f*
+        rFreq);
+IppStatus SIG5D_CDECL ippsGoertzTwo_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int len, Ipp64fc* pVal, const Ipp64f*
+        rFreq);
+
 /* ---- IIR filters ---- */
 
 /* The bytes of a buffer for the state of a filter of that order N. */
@@ -2288,6 +2307,63 @@ IppStatus SIG5D_CDECL ippsIIR_64fc_I_Idx(Ipp64fc* pSrcDst, int srcDstIdx, int le
 /* Filters one sample: ippsIIR with len 1. */
 IppStatus SIG5D_CDECL ippsIIROne_64f_Idx(Ipp64f src, Ipp64f* pDstVal, IppsIIRState_64f* pState);
 IppStatus SIG5D_CDECL ippsIIROne_64fc_Idx(Ipp64fc src, Ipp64fc* pDstVal, IppsIIRState_64fc* pState);
+
+/* ---- Median filters ---- */
+
+/* *pBufferSize = 16*m, where m is the mask size made odd. The bytes of a work buffer. dataType is 1 for 8u, 7 for
+   16s, 11 for 32s, 19 for 64f; 13 (32f) is answered too, though no filter of this type exists. */
+IppStatus SIG5D_STDCALL ippsFilterMedianGetBufferSize(int maskSize, int dataType, int* pBufferSize);
+
+/* pDst[n] = the middle one of x[n-m+1] ... x[n] in order, m = the mask size made odd. Filters the next len samples
+   of a stream. x[n] is pSrc[n]; before it come the m-1 samples of pDlySrc, oldest first, or copies of pSrc[0] when
+   it is null. pDlyDst, when not null, receives the last m-1 samples for the next call. An even mask size counts as
+   the next lower odd one, and gives the warning. */
+IppStatus SIG5D_STDCALL ippsFilterMedian_64f(const Ipp64f* pSrc, Ipp64f* pDst, int len, int maskSize, const Ipp64f*
+        pDlySrc, Ipp64f* pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_32s(const Ipp32s* pSrc, Ipp32s* pDst, int len, int maskSize, const Ipp32s*
+        pDlySrc, Ipp32s* pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_16s(const Ipp16s* pSrc, Ipp16s* pDst, int len, int maskSize, const Ipp16s*
+        pDlySrc, Ipp16s* pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_8u(const Ipp8u* pSrc, Ipp8u* pDst, int len, int maskSize, const Ipp8u*
+        pDlySrc, Ipp8u* pDlyDst, Ipp8u* pBuffer);
+
+/* ippsFilterMedian in place. */
+IppStatus SIG5D_STDCALL ippsFilterMedian_64f_I(Ipp64f* pSrcDst, int len, int maskSize, const Ipp64f* pDlySrc, Ipp64f*
+        pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_32s_I(Ipp32s* pSrcDst, int len, int maskSize, const Ipp32s* pDlySrc, Ipp32s*
+        pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_16s_I(Ipp16s* pSrcDst, int len, int maskSize, const Ipp16s* pDlySrc, Ipp16s*
+        pDlyDst, Ipp8u* pBuffer);
+IppStatus SIG5D_STDCALL ippsFilterMedian_8u_I(Ipp8u* pSrcDst, int len, int maskSize, const Ipp8u* pDlySrc, Ipp8u*
+        pDlyDst, Ipp8u* pBuffer);
+
+/* Filters the next len samples of the stream that a handle of ippsFilterMedianAlloc carries from call to call:
+   several calls give what one over all the samples gives. Before the first sample come zeros. The warning comes
+   with each call. */
+IppStatus SIG5D_CDECL ippsFilterMedian_64f_Idx(const Ipp64f* pSrc, int srcIdx, Ipp64f* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_64f* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_64f_I_Idx(Ipp64f* pSrcDst, int idx, int len, IppsFilterMedianHandle_64f*
+        pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_32s_Idx(const Ipp32s* pSrc, int srcIdx, Ipp32s* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_32s* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_32s_I_Idx(Ipp32s* pSrcDst, int idx, int len, IppsFilterMedianHandle_32s*
+        pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_16s_Idx(const Ipp16s* pSrc, int srcIdx, Ipp16s* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_16s* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_16s_I_Idx(Ipp16s* pSrcDst, int idx, int len, IppsFilterMedianHandle_16s*
+        pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_8u_Idx(const Ipp8u* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len,
+        IppsFilterMedianHandle_8u* pHandle);
+IppStatus SIG5D_CDECL ippsFilterMedian_8u_I_Idx(Ipp8u* pSrcDst, int idx, int len, IppsFilterMedianHandle_8u* pHandle);
+
+/* Allocates a median filter with its delay line (zeros) and buffer; to be released by ippsFilterMedianFree_Idx. */
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_64f_Idx(int maskSize, IppsFilterMedianHandle_64f** ppHandle);
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_32s_Idx(int maskSize, IppsFilterMedianHandle_32s** ppHandle);
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_16s_Idx(int maskSize, IppsFilterMedianHandle_16s** ppHandle);
+IppStatus SIG5D_CDECL ippsFilterMedianAlloc_8u_Idx(int maskSize, IppsFilterMedianHandle_8u** ppHandle);
+
+/* Releases what ippsFilterMedianAlloc allocated; null is ignored. */
+void SIG5D_CDECL ippsFilterMedianFree_Idx(void* pHandle);
 
 /* ---- Random numbers ---- */
 
@@ -2356,6 +2432,43 @@ IppStatus SIG5D_CDECL ippsRandUniform_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, i
    pSeed, which is not changed: a second call gives them again. */
 IppStatus SIG5D_CDECL ippsRandGauss_Direct_64f_Idx(Ipp64f* pDst, int dstIdx, int len, Ipp64f mean, Ipp64f stdDev,
         const unsigned int* pSeed);
+
+/* ---- Sampling rates and the Haar wavelet ---- */
+
+/* pDst[i*factor + *pPhase] = pSrc[i]; all others of srcLen*factor elements are 0; *pDstLen = srcLen*factor. Puts
+   factor-1 zeros between the samples. The phase is that of the next block, too, and stays as it is. */
+IppStatus SIG5D_STDCALL ippsSampleUp_64f(const Ipp64f* pSrc, int srcLen, Ipp64f* pDst, int* pDstLen, int factor, int*
+        pPhase);
+IppStatus SIG5D_CDECL ippsSampleUp_64f_Idx(const Ipp64f* pSrc, int srcIdx, int srcLen, Ipp64f* pDst, int dstIdx, int*
+        pDstLen, int factor, int* pPhase);
+IppStatus SIG5D_STDCALL ippsSampleUp_64fc(const Ipp64fc* pSrc, int srcLen, Ipp64fc* pDst, int* pDstLen, int factor,
+        int* pPhase);
+IppStatus SIG5D_CDECL ippsSampleUp_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int srcLen, Ipp64fc* pDst, int dstIdx,
+        int* pDstLen, int factor, int* pPhase);
+
+/* pDst[k] = pSrc[k*factor + *pPhase], while that index is below srcLen; *pDstLen = the number of them. Keeps one
+   sample of each factor. *pPhase becomes the first index past the end, less srcLen: the phase for the next block
+   of the stream. A block that ends before its phase gives no sample. */
+IppStatus SIG5D_STDCALL ippsSampleDown_64f(const Ipp64f* pSrc, int srcLen, Ipp64f* pDst, int* pDstLen, int factor,
+        int* pPhase);
+IppStatus SIG5D_CDECL ippsSampleDown_64f_Idx(const Ipp64f* pSrc, int srcIdx, int srcLen, Ipp64f* pDst, int dstIdx,
+        int* pDstLen, int factor, int* pPhase);
+IppStatus SIG5D_STDCALL ippsSampleDown_64fc(const Ipp64fc* pSrc, int srcLen, Ipp64fc* pDst, int* pDstLen, int factor,
+        int* pPhase);
+IppStatus SIG5D_CDECL ippsSampleDown_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int srcLen, Ipp64fc* pDst, int dstIdx,
+        int* pDstLen, int factor, int* pPhase);
+
+/* pDstHigh[k] = (pSrc[2k+1] - pSrc[2k]) * 0.5; pDstLow[k] = pSrc[2k] + pDstHigh[k]. The means of neighbours and
+   half of their differences. The last sample of an odd len becomes the last of pDstLow. */
+IppStatus SIG5D_STDCALL ippsWTHaarFwd_64f(const Ipp64f* pSrc, int len, Ipp64f* pDstLow, Ipp64f* pDstHigh);
+IppStatus SIG5D_CDECL ippsWTHaarFwd_64f_Idx(const Ipp64f* pSrc, int srcIdx, int len, Ipp64f* pDstLow, int dstLowIdx,
+        Ipp64f* pDstHigh, int dstHighIdx);
+
+/* pDst[2k] = pSrcLow[k] - pSrcHigh[k]; pDst[2k+1] = pSrcLow[k] + pSrcHigh[k]. The inverse of ippsWTHaarFwd, up to
+   the roundings of both. The last sample of an odd len is the last of pSrcLow. */
+IppStatus SIG5D_STDCALL ippsWTHaarInv_64f(const Ipp64f* pSrcLow, const Ipp64f* pSrcHigh, Ipp64f* pDst, int len);
+IppStatus SIG5D_CDECL ippsWTHaarInv_64f_Idx(const Ipp64f* pSrcLow, int srcLowIdx, const Ipp64f* pSrcHigh, int
+        srcHighIdx, Ipp64f* pDst, int dstIdx, int len);
 
 /* ---- Statistics and norms ---- */
 

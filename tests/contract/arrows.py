@@ -17,7 +17,7 @@ ENTRY = ELEMENT_TYPES + ["frame/entry.h", "frame/index.h"]
 TABLES_OF_FRAME = ["statuses.inc", "status_table.inc", "variant_table.inc", "opaque_types.inc"]  # generated
 
 # The rooms of src/signal/processing. The transforms serve all the others, which do not include each other.
-ROOMS = "fft fir iir dct windows generators median statistics sorting correlation sampling companding".split()
+ROOMS = "fft fir iir dct windows generators median goertzel statistics sorting correlation sampling companding".split()
 
 # The folder of a file (the longest that fits) -> files and folders of this project that it may include. Besides them,
 # each file may include the generated entries/ of its own name and bodies/ of its own folder.

@@ -140,7 +140,7 @@ def table_arg(text, T):
         return name, Arg("work", base, stars=1, optional=bool(optional)), None
     if base in ("spec", "handle", "memory"):
         return name, Arg("record", "", "in" if role == "in" else "out", len(stars), bool(optional)), None
-    kind = "scalar" if not role else "value" if stars else "array"
+    kind = "scalar" if not role else "value" if stars and not extent else "array"
     return name, Arg(kind, T if base == "T" else base, role or "", int(kind != "scalar"), bool(optional)), extent
 
 
@@ -160,14 +160,15 @@ def row_forms(row, statuses):
             if first != "idx":
                 yield name, row_form(given, clauses, statuses)
             if first != "plain":
-                yield name + "_Idx", row_form(with_indexes(given), clauses, statuses)
+                fixed = re.findall(r"\*(\w+)\[", listed)
+                yield name + "_Idx", row_form(with_indexes(given, fixed), clauses, statuses)
 
 
-def with_indexes(given):
+def with_indexes(given, fixed):
     result = []
     for name, arg, extent in given:
         result.append((name, arg, extent))
-        if arg.kind in ("array", "work"):
+        if arg.kind in ("array", "work") and name not in fixed:
             result.append((name + "Index", Arg("index"), None))
     return result
 

@@ -278,6 +278,16 @@ inline Vec<u8, 16> packed(Vec<i16, 8> low, Vec<i16, 8> high)
     return as<Vec<u8, 16>>(_mm_packus_epi16(bits(low), bits(high)));
 }
 
+// Whether any bit is set.
+inline bool any_bit(__m128i x)
+{
+#if SIG5D_LEVEL >= 3
+    return !_mm_testz_si128(x, x);
+#else
+    return _mm_movemask_epi8(_mm_cmpeq_epi32(x, __m128i{})) != 0xFFFF;
+#endif
+}
+
 // A bit for each byte whose highest bit is set.
 inline u32 byte_signs(__m128i x) { return static_cast<u32>(_mm_movemask_epi8(x)); }
 

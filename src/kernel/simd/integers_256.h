@@ -144,6 +144,7 @@ inline Vec<u8, 32> packed(Vec<i16, 16> low, Vec<i16, 16> high)
 }
 // Within each 16 bytes.
 inline __m256i bytes_at(__m256i x, __m256i places) { return _mm256_shuffle_epi8(x, places); }
+inline bool any_bit(__m256i x) { return !_mm256_testz_si256(x, x); }
 inline u32 byte_signs(__m256i x) { return static_cast<u32>(_mm256_movemask_epi8(x)); }
 template <class Mask>
 requires(sizeof(Mask) == 32) inline auto narrowed_masks(Mask low, Mask high)

@@ -144,6 +144,7 @@ inline Vec<u8, 64> packed(Vec<i16, 32> low, Vec<i16, 32> high)
 {
     return as<Vec<u8, 64>>(_mm512_packus_epi16(bits(low), bits(high)));
 }
+inline bool any_bit(__m512i x) { return _mm512_test_epi64_mask(x, x) != 0; }
 inline u64 byte_signs(__m512i x) { return _mm512_movepi8_mask(x); }
 template <class Mask>
 requires(sizeof(Mask) == 64 && sizeof(Lane<Mask>) == 1) inline u64 lanes_set(Mask mask)
