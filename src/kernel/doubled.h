@@ -44,11 +44,11 @@ inline f64 fromBits(u64 bits)
 
 // x rounded to 26 significant bits; what is left has 26 bits and a sign. Products of two such halves are exact.
 // In a vector register: the way through integer registers, on i386 through memory, takes several times as long.
-inline NumberPair upperHalf(NumberPair x)
+template <class V> inline V upperHalf(V x)
 {
-    typedef u64 Words __attribute__((vector_size(16)));
+    typedef u64 Words __attribute__((vector_size(sizeof(V))));
     const Words bits = reinterpret_cast<Words>(x) + (u64(1) << 26);
-    return reinterpret_cast<NumberPair>(bits & ~((u64(1) << 27) - 1));
+    return reinterpret_cast<V>(bits & ~((u64(1) << 27) - 1));
 }
 inline f64 upperHalf(f64 x) { return upperHalf(NumberPair{x, 0.0})[0]; }
 

@@ -19,8 +19,8 @@ CosSin cosSin(f64 x);
 // 1, the points that k/n = 1/8 gives) is exact or correctly rounded.
 CosSin cosSinTurn(i64 k, i64 n);
 
-// The same of two fractions k / n of a turn, n a power of two up to 2^27, 0 < k/n < 1/4 and not 1/8: for tables, in less
-// than a fifth of the time.
+// The same of two fractions k / n of a turn, n a power of two up to 2^27, 0 < k/n < 1/4 and not 1/8: for tables, in
+// less than a fifth of the time.
 struct CosSinPair {
     NumberPair cos, sin;
 };

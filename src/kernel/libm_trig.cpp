@@ -41,7 +41,8 @@ template <class V> inline Sides<V> onFirstOctants(V x, V xLow)
     // z/6 as sixth + sixthTail, the first of 26 bits, so that the cube's leading part head * sixth is exact.
     const V sixth = upperHalf(z * (1.0 / 6.0)), sixthTail = ((zHead - 6.0 * sixth) + zTail) * (1.0 / 6.0);
     const V cube = head * sixth, s = x - cube;
-    const V sinLow = ((x - s) - cube) - (tail * sixth + x * sixthTail) + x * (z * z) * sinTail(z) + xLow * (1.0 - 0.5 * z);
+    const V sinLow =
+        ((x - s) - cube) - (tail * sixth + x * sixthTail) + x * (z * z) * sinTail(z) + xLow * (1.0 - 0.5 * z);
     return {c + cosLow, s + sinLow};
 }
 inline CosSin onFirstOctants(Doubled a)

@@ -327,7 +327,8 @@ bool generallyCallable(const registry::Function& f) { return !*f.untested; }
 
 bool mayRefuse(const registry::Function& f)
 {
-    return std::strstr(f.name, "GetSize") || std::strstr(f.name, "GetStateSize") || std::strstr(f.name, "GetBufferSize");
+    return std::strstr(f.name, "GetSize") || std::strstr(f.name, "GetStateSize") ||
+           std::strstr(f.name, "GetBufferSize");
 }
 
 } // namespace support

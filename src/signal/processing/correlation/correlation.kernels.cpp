@@ -56,7 +56,8 @@ void sumByBlocks(const Lags& lags, const void* plan, i64 points, const T* h, con
 {
     const i64 end = lags.first + lags.count;
     for (i64 lag = lags.first; lag < end;) {
-        const i64 from = lag > 0 ? lag : 0, before = lags.row - 1 + lag - from; // values of the block before the results
+        const i64 from = lag > 0 ? lag : 0,
+                  before = lags.row - 1 + lag - from; // values of the block before the results
         // Where all samples are in the block, only zeros are wrapped around.
         const i64 room = lags.samples - lag <= points ? points - before : points - lags.row + 1;
         const i64 n = end - lag < room ? end - lag : room;
@@ -123,7 +124,8 @@ Status crossCorrelate(const T* pSrc1, int src1Len, const T* pSrc2, int src2Len, 
     return status;
 }
 
-template <class T> void autoCorrelateByTransform(const T* x, i64 len, T* y, i64 count, const CorrelationWork& work, u8* buffer)
+template <class T>
+void autoCorrelateByTransform(const T* x, i64 len, T* y, i64 count, const CorrelationWork& work, u8* buffer)
 {
     const i64 points = i64(1) << work.order;
     T* const block = reinterpret_cast<T*>(buffer + work.block);
@@ -172,7 +174,8 @@ Status autoCorrelationSize(int srcLen, int dstLen, int dataType, int algType, in
     return tell(autoCorrelationWork(srcLen, dstLen, algType & 0xFF, elementBytes(dataType), isComplexType(dataType)),
                 pBufferSize);
 }
-Status crossCorrelationSize(int src1Len, int src2Len, int dstLen, int lowLag, int dataType, int algType, int* pBufferSize)
+Status crossCorrelationSize(int src1Len, int src2Len, int dstLen, int lowLag, int dataType, int algType,
+                            int* pBufferSize)
 {
     const bool complex = isComplexType(dataType);
     const Lags lags = correlationLags(src1Len, src2Len, lowLag, dstLen);

@@ -41,33 +41,35 @@ int orderFor(i64 points)
     return order;
 }
 
-// Costs in sixteenths of a cycle of the AVX2 body, measured; that of SSE2 takes twice as long either way.
+// Costs in sixths of a cycle as measured of the AVX2 body, whole numbers so that no mode of arithmetic sways the
+// choice. Of complex numbers a product takes four times as long as of real ones and a transform twice: its costs are
+// halved.
 
-double productsOf(const Lags& lags)
+u64 directCost(const Lags& lags, bool complex)
 {
     const Spans n = spansOf(lags);
-    const double rising = n.rising, falling = n.falling; // arithmetic series
-    return rising * (static_cast<double>(lags.row + lags.first) + (rising - 1) / 2) +
-           static_cast<double>(n.whole) * static_cast<double>(lags.row) + falling * (n.common + (falling - 1) / 2);
-}
-
-double directCost(const Lags& lags, bool complex)
-{
-    return productsOf(lags) * (complex ? 12 : 3) + 100.0 * static_cast<double>(lags.count) / 8;
+    auto series = [](i64 terms, i64 first) { // first, first + 1, ...
+        return static_cast<u64>(terms) * static_cast<u64>(2 * first + terms - 1) / 2;
+    };
+    const u64 products = series(n.rising, lags.row + lags.first) + static_cast<u64>(n.whole * lags.row) +
+                         series(n.falling, n.falling ? n.common : 0);
+    return (complex ? 2 : 1) * products + 4 * static_cast<u64>(lags.count);
 }
 
 // Blocks of 2^order points that hold all results. One block suffices, too, where it holds all samples.
-double blocksOf(const Lags& lags, int order)
+u64 blocksOf(const Lags& lags, int order)
 {
     const i64 points = i64(1) << order, advance = points - lags.row + 1;
     const bool one = lags.samples - lags.first <= points && lags.count + lags.row - 1 + least(lags.first, 0) <= points;
-    return one ? 1 : static_cast<double>((lags.count + advance - 1) / advance);
+    return one ? 1 : static_cast<u64>((lags.count + advance - 1) / advance);
 }
 
-double transformCost(const Lags& lags, int order, bool complex)
+// Tables, the transform of the row, and there and back for each block; beyond 2^12 points a block leaves the first
+// cache.
+u64 transformCost(const Lags& lags, int order)
 {
-    const double points = static_cast<double>(i64(1) << order) * (complex ? 2 : 1);
-    return points * (150 + (10.0 + 5 * order) * (0.5 + blocksOf(lags, order)));
+    const u64 tables = 32, eachBlock = static_cast<u64>(16 + order * 6 / 5 + (order > 12 ? 15 : 0));
+    return 4200 + ((tables + eachBlock / 2 + eachBlock * blocksOf(lags, order)) << order);
 }
 
 } // namespace
@@ -112,16 +114,19 @@ CorrelationWork correlationWork(const Lags& lags, int algorithm, int elementByte
     CorrelationWork direct = directWork(lags.row, elementBytes, copied);
     if (lags.count > maxInt) direct.bytes = tooMuch; // results that no index reaches
     if (!direct.fits() || algorithm == byDefinition || lags.count == 0) return direct;
-    const bool automatic = algorithm != byTransform;
-    CorrelationWork best = automatic ? direct : CorrelationWork{true, 0, 0, 0, 0, tooMuch};
-    double least = automatic ? directCost(lags, complex) : 0;
+    CorrelationWork best = direct;
+    u64 cost = directCost(lags, complex);
+    if (algorithm == byTransform) {
+        best.bytes = tooMuch;
+        cost = ~u64(0);
+    }
     for (int order = orderFor(most(lags.row, 2));; ++order) {
         const CorrelationWork work = transformWork(order, true, elementBytes, complex);
         if (!work.fits()) break;
-        const double cost = transformCost(lags, order, complex);
-        if (!best.fits() || cost < least) {
+        const u64 its = transformCost(lags, order);
+        if (its < cost) {
             best = work;
-            least = cost;
+            cost = its;
         }
         if (blocksOf(lags, order) == 1) break;
     }

@@ -6,16 +6,17 @@
 
 namespace sig5d {
 
-// y[i] = sum over n of r[n] * x[n + first + i] over all n that both signals have, i = 0..count-1: each has a product. The
-// row r is the shorter one.
+// y[i] = sum over n of r[n] * x[n + first + i] over all n that both signals have, i = 0..count-1: each has a product.
+// The row r is the shorter one.
 struct Lags {
-    i64 row, samples;          // lengths: of the signals what meets at any of the lags
-    i64 first, count;          // lags
-    i64 rowFrom, samplesFrom;  // where these parts of the signals start
-    i64 zeros;                 // results before the first that has a product
-    bool exchanged;            // the row is of the second signal: the lags run backwards
+    i64 row, samples;         // lengths: of the signals what meets at any of the lags
+    i64 first, count;         // lags
+    i64 rowFrom, samplesFrom; // where these parts of the signals start
+    i64 zeros;                // results before the first that has a product
+    bool exchanged;           // the row is of the second signal: the lags run backwards
 };
-// Of the lags one after the other: those at which the row begins before the samples, lies within them, ends behind them.
+// Of the lags one after the other: those at which the row begins before the samples, lies within them, ends behind
+// them.
 struct Spans {
     int rising, whole, falling;
     int common; // products that all of the falling ones have

@@ -23,8 +23,8 @@ void setEntry(f64* table, i64 b, i64 k, i64 n)
     }
 }
 
-// The bits of x < 2^width in reversed order. Numbers that have four neighbours for their reversed ones are one and as many
-// quarters of 2^(width + 2) more as quarterOf tells.
+// The bits of x < 2^width in reversed order. Numbers that have four neighbours for their reversed ones are one and as
+// many quarters of 2^(width + 2) more as quarterOf tells.
 u32 reversedBits(u32 x, int width)
 {
     x = (x >> 1 & 0x55555555) | (x & 0x55555555) << 1;
@@ -34,9 +34,10 @@ u32 reversedBits(u32 x, int width)
 }
 constexpr u32 quarterOf[4] = {0, 2, 1, 3}; // its own inverse
 
-// The 2^(width + 2) nodes of equal size, four at a time. Node r has t = exp(-2 pi i k / n), n = 2^(width + 2) * 4 step and
-// k = 1 + step q, q the reversed r. Of the three powers only t is computed: its square is the t of a node of twice the
-// size, turned by a quarter if r is odd, and its cube, since n - 3k is 1 + step q' again, the conjugate of a t turned.
+// The 2^(width + 2) nodes of equal size, four at a time. Node r has t = exp(-2 pi i k / n), n = 2^(width + 2) * 4 step
+// and k = 1 + step q, q the reversed r. Of the three powers only t is computed: its square is the t of a node of twice
+// the size, turned by a quarter if r is odd, and its cube, since n - 3k is 1 + step q' again, the conjugate of a t
+// turned.
 class NodesOfOneSize
 {
 public:
@@ -58,7 +59,8 @@ private:
     void setFirstPowers(u32 g) const
     {
         constexpr f64 quarter = 1.0 / 16; // of the numbers q, as part of a turn
-        const f64 turn = static_cast<f64>(1 + step_ * reversedBits(g, width_)) / static_cast<f64>(16u * step_ << width_);
+        const f64 turn =
+            static_cast<f64>(1 + step_ * reversedBits(g, width_)) / static_cast<f64>(16u * step_ << width_);
         f64* const place = group(g);
         for (int j = 0; j < 4; j += 2) {
             const f64 one = turn + quarter * quarterOf[j];

@@ -150,7 +150,8 @@ template <class S, int columns, class T> inline void few(const T* x, const T* r,
 
 template <class T> using Widest = Side<T, widest<T>>;
 
-// y[i] = sum of r[k] * x[i + k], i = 0..n-1, or that on top of y[i]. x holds n + taps - 1 samples and does not overlap y.
+// y[i] = sum of r[k] * x[i + k], i = 0..n-1, or that on top of y[i]. x holds n + taps - 1 samples and does not overlap
+// y.
 template <class T> void blocks(const T* x, const T* r, int taps, T* y, int n, bool more)
 {
     constexpr int w = widest<T>, rows = groups<T>, all = groups<T> * columns<T>;

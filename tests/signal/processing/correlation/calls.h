@@ -1,5 +1,5 @@
-// Correlations as the tests call them: one name for the real and the complex functions, and a buffer of exactly the size
-// that the library tells, at any offset, with old bytes in it and a fence behind.
+// Correlations as the tests call them: one name for the real and the complex functions, and a buffer of exactly the
+// size that the library tells, at any offset, with old bytes in it and a fence behind.
 #pragma once
 #include "oracle/correlation.h"
 #include "support/library.h"
@@ -28,7 +28,8 @@ template <> struct Functions<Ipp64fc> {
 class Buffer
 {
 public:
-    explicit Buffer(int bytes, int offset) : bytes_(bytes), offset_(offset), memory_(static_cast<size_t>(bytes) + 192, old)
+    explicit Buffer(int bytes, int offset)
+        : bytes_(bytes), offset_(offset), memory_(static_cast<size_t>(bytes) + 192, old)
     {
     }
     ~Buffer()
@@ -53,8 +54,7 @@ inline int sizeOf(int status, int bytes)
 }
 
 // dst keeps what it has where a call writes nothing.
-template <class T>
-IppStatus autoCorrelate(const std::vector<T>& x, std::vector<T>& dst, int algType, int offset = 0)
+template <class T> IppStatus autoCorrelate(const std::vector<T>& x, std::vector<T>& dst, int algType, int offset = 0)
 {
     using F = Functions<T>;
     const int n = static_cast<int>(x.size()), lags = static_cast<int>(dst.size());
