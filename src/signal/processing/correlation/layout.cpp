@@ -14,22 +14,24 @@ void exchange(i64& a, i64& b)
 }
 
 constexpr i64 tooMuch = maxInt + 1;
+constexpr int shortestToCut = 6; // order of the shortest blocks of a row in parts
 
 CorrelationWork directWork(i64 row, int elementBytes, bool copied)
 {
-    return {false, 0, 0, 0, 0, (copied ? row * elementBytes : 0) + 64};
+    return {false, 0, 1, 0, 0, 0, 0, (copied ? row * elementBytes : 0) + 64};
 }
 
-// Without a transform of that order the sizes are no int in any case.
-CorrelationWork transformWork(int order, bool rowHasSpectrum, int elementBytes, bool complex)
+// Without a transform of that order the sizes are no int in any case. No spectra: of an autocorrelation, in one block.
+CorrelationWork transformWork(int order, i64 parts, bool spectra, int elementBytes, bool complex)
 {
     const FftKind kind = complex ? FftKind::complex : FftKind::real;
-    CorrelationWork work = {true, order, 0, 0, 0, tooMuch};
+    CorrelationWork work = {true, order, parts, 0, 0, 0, 0, tooMuch};
     if (order > (complex ? fftMaxOrder - 1 : fftMaxOrder)) return work;
     const i64 values = align64((i64(1) << order) * elementBytes);
     work.transformWork = fftPlanBytes(kind, FftSpectrum::unordered, order);
     work.row = work.transformWork + fftWorkBytes(kind, order);
-    work.block = work.row + (rowHasSpectrum ? values : 0);
+    work.samples = work.row + (spectra ? parts * values : 0);
+    work.block = work.samples + (parts > 1 ? parts * values : 0);
     work.bytes = work.block + values + 64;
     return work;
 }
@@ -64,12 +66,25 @@ u64 blocksOf(const Lags& lags, int order)
     return one ? 1 : static_cast<u64>((lags.count + advance - 1) / advance);
 }
 
-// Tables, the transform of the row, and there and back for each block; beyond 2^12 points a block leaves the first
-// cache.
+// Beyond 2^12 points a block leaves the first cache.
+u64 costOfPoint(int order) { return static_cast<u64>(16 + order * 6 / 5 + (order > 12 ? 15 : 0)); }
+constexpr u64 tablesCost = 32, productCost = 6, fixedCost = 4200;
+
+// Tables, the transform of the row, and there and back for each block.
 u64 transformCost(const Lags& lags, int order)
 {
-    const u64 tables = 32, eachBlock = static_cast<u64>(16 + order * 6 / 5 + (order > 12 ? 15 : 0));
-    return 4200 + ((tables + eachBlock / 2 + eachBlock * blocksOf(lags, order)) << order);
+    const u64 each = costOfPoint(order);
+    return fixedCost + ((tablesCost + each / 2 + each * blocksOf(lags, order)) << order);
+}
+
+// The row in parts, half a block each: as many transforms as parts, blocks of samples and blocks of results, and a product
+// of each part with each block.
+u64 costInParts(const Lags& lags, int order, i64 parts)
+{
+    const i64 part = i64(1) << order >> 1, results = (lags.count + part - 1) / part, samples = lags.samples / part + 2;
+    const u64 transforms = static_cast<u64>(parts + results + least(samples, results + parts));
+    const u64 products = static_cast<u64>(parts) * static_cast<u64>(least(results, samples));
+    return fixedCost + ((tablesCost + costOfPoint(order) * transforms / 2 + productCost * products) << order);
 }
 
 } // namespace
@@ -120,15 +135,21 @@ CorrelationWork correlationWork(const Lags& lags, int algorithm, int elementByte
         best.bytes = tooMuch;
         cost = ~u64(0);
     }
-    for (int order = orderFor(most(lags.row, 2));; ++order) {
-        const CorrelationWork work = transformWork(order, true, elementBytes, complex);
-        if (!work.fits()) break;
-        const u64 its = transformCost(lags, order);
-        if (its < cost) {
+    auto consider = [&](int order, i64 parts, u64 its) {
+        const CorrelationWork work = transformWork(order, parts, true, elementBytes, complex);
+        if (work.fits() && its < cost) {
             best = work;
             cost = its;
         }
+    };
+    const int uncut = orderFor(most(lags.row, 2));
+    for (int order = uncut; order <= fftMaxOrder; ++order) {
+        consider(order, 1, transformCost(lags, order));
         if (blocksOf(lags, order) == 1) break;
+    }
+    for (int order = shortestToCut; order <= uncut; ++order) {
+        const i64 part = i64(1) << order >> 1, parts = (lags.row + part - 1) / part;
+        if (parts > 1) consider(order, parts, costInParts(lags, order, parts));
     }
     return best;
 }
@@ -138,7 +159,7 @@ CorrelationWork autoCorrelationWork(i64 len, i64 lags, int algorithm, int elemen
     constexpr i64 fewLags = 600; // a fixed constant of the design
     if (algorithm == byDefinition || (algorithm == 0 && least(len, lags) < fewLags))
         return directWork(len, elementBytes, complex);
-    return transformWork(orderFor(2 * len), false, elementBytes, complex);
+    return transformWork(orderFor(2 * len), 1, false, elementBytes, complex);
 }
 
 } // namespace sig5d

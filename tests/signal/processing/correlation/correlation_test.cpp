@@ -112,7 +112,8 @@ TYPED_TEST(Correlation, ByTransformIsWithinItsBound)
     };
     const Case cases[] = {{1, 1, 3, -1},        {2, 3, 8, -3},       {5, 900, 1000, -50},     {900, 5, 1000, -950},
                           {100, 100, 199, -99}, {64, 65, 128, -63},  {500, 2000, 2499, -499}, {2000, 500, 700, -300},
-                          {37, 1500, 300, 640}, {300, 310, 40, 280}, {300, 310, 40, -320},    {128, 129, 256, -127}};
+                          {37, 1500, 300, 640}, {300, 310, 40, 280}, {300, 310, 40, -320},    {128, 129, 256, -127},
+                          {1200, 1300, 2499, -1199}, {4000, 4100, 30, -11},   {3000, 2000, 45, -1500}}; // in parts
     for (const Case& c : cases) {
         const auto a = noise<T>(this->g, c.a), b = noise<T>(this->g, c.b);
         const auto exact = oracle::correlation(oracle::widened(a), oracle::widened(b), c.lags, c.lowLag);
