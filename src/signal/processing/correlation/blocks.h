@@ -10,24 +10,35 @@ namespace {
 inline f64 conjugate(f64 x) { return x; }
 inline c64f conjugate(c64f x) { return {x.re, 0.0 - x.im}; }
 
-template <class T> void copyConjugate(const T* a, T* d, i64 n)
+// Lags in the width of pointers, which all that has a place in memory fits into.
+struct Range {
+    ptrdiff_t row, samples, first, count;
+    explicit Range(const Lags& lags)
+        : row(static_cast<ptrdiff_t>(lags.row)), samples(static_cast<ptrdiff_t>(lags.samples)),
+          first(static_cast<ptrdiff_t>(lags.first)), count(static_cast<ptrdiff_t>(lags.count))
+    {
+    }
+};
+
+// Rows only: small code.
+template <class T> [[gnu::cold]] void copyConjugate(const T* a, T* d, ptrdiff_t n)
 {
-    for (i64 i = 0; i < n; ++i) d[i] = conjugate(a[i]);
+    for (ptrdiff_t i = 0; i < n; ++i) d[i] = conjugate(a[i]);
 }
-template <class T> void copyReversed(const T* a, T* d, i64 n)
+template <class T> [[gnu::cold]] void copyReversed(const T* a, T* d, ptrdiff_t n)
 {
-    for (i64 i = 0; i < n; ++i) d[i] = a[n - 1 - i];
+    for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[n - 1 - i];
 }
 
 // A work buffer for one kind of transform.
 template <class T> struct Transforms {
     const void* plan;
     void* work;
-    i64 points;
+    ptrdiff_t points;
     T *row, *samples, *block;
 
     Transforms(const CorrelationWork& at, u8* buffer)
-        : plan(buffer), work(buffer + at.transformWork), points(i64(1) << at.order),
+        : plan(buffer), work(buffer + at.transformWork), points(ptrdiff_t(1) << at.order),
           row(reinterpret_cast<T*>(buffer + at.row)), samples(reinterpret_cast<T*>(buffer + at.samples)),
           block(reinterpret_cast<T*>(buffer + at.block))
     {
@@ -36,11 +47,12 @@ template <class T> struct Transforms {
 };
 
 // Samples x[from] to x[from + points - 1], zeros where there are none: where they stand, or else copied to d.
-template <class T> const T* samplesOf(const Lags& lags, const T* x, i64 from, i64 points, T* d)
+template <class T>
+[[gnu::noinline]] const T* samplesOf(const Range& lags, const T* x, ptrdiff_t from, ptrdiff_t points, T* d)
 {
     if (from >= 0 && lags.samples - from >= points) return x + from;
-    const i64 before = from < 0 ? -from : 0, left = lags.samples - from;
-    const i64 end = left < points ? left : points;
+    const ptrdiff_t before = from < 0 ? -from : 0, left = lags.samples - from;
+    const ptrdiff_t end = left < points ? left : points;
     zero(d, before);
     copy(x + from + before, d + before, end - before);
     zero(d + end, points - end);
@@ -49,13 +61,14 @@ template <class T> const T* samplesOf(const Lags& lags, const T* x, i64 from, i6
 
 // Where all samples are in the block, only zeros are wrapped around, and they begin it: so that results that the first
 // samples have part in need no room for zeros before.
-template <class T> void sumByBlocks(const Lags& lags, const Transforms<T>& t, const T* x, T* y)
+template <class T> void sumByBlocks(const Range& lags, const Transforms<T>& t, const T* x, T* y)
 {
-    const i64 end = lags.first + lags.count;
-    for (i64 lag = lags.first; lag < end;) {
+    const ptrdiff_t end = lags.first + lags.count;
+    for (ptrdiff_t lag = lags.first; lag < end;) {
         const bool whole = lags.samples - lag <= t.points;
-        const i64 from = whole && lag < 0 ? 0 : lag, before = lags.row - 1 + lag - from; // values before the results
-        const i64 room = t.points - before, n = end - lag < room ? end - lag : room;
+        const ptrdiff_t from = whole && lag < 0 ? 0 : lag,
+                        before = lags.row - 1 + lag - from; // values before the results
+        const ptrdiff_t room = t.points - before, n = end - lag < room ? end - lag : room;
         fftConvolve(t.plan, samplesOf(lags, x, from, t.points, t.block), t.row, t.block, t.work);
         copy(t.block + before, y, n);
         y += n;
@@ -63,11 +76,11 @@ template <class T> void sumByBlocks(const Lags& lags, const Transforms<T>& t, co
     }
 }
 
-// The row in parts of half a block. Part i meets, for the results of block b, the samples of block b - i: all transforms
-// are made once, and of the products' sum one goes back.
-template <class T> void sumByParts(const Lags& lags, const Transforms<T>& t, ptrdiff_t parts, const T* x, T* y)
+// The row in parts of half a block. Part i meets, for the results of block b, the samples of block b - i: all
+// transforms are made once, and of the products' sum one goes back.
+template <class T> void sumByParts(const Range& lags, const Transforms<T>& t, ptrdiff_t parts, const T* x, T* y)
 {
-    const i64 part = t.points / 2;
+    const ptrdiff_t part = t.points / 2;
     auto start = [&](ptrdiff_t block) { return lags.first + lags.row - 1 + (block - 1) * part; };
     auto empty = [&](ptrdiff_t block) { return start(block) >= lags.samples || start(block) + t.points <= 0; };
     auto spectrum = [&](ptrdiff_t block) {
@@ -77,7 +90,7 @@ template <class T> void sumByParts(const Lags& lags, const Transforms<T>& t, ptr
         return t.samples + place * t.points;
     };
     ptrdiff_t next = 1 - parts; // block of samples
-    i64 done = 0;
+    ptrdiff_t done = 0;
     for (ptrdiff_t b = 0; done < lags.count; ++b) {
         for (; next <= b; ++next)
             if (!empty(next)) {
@@ -95,21 +108,21 @@ template <class T> void sumByParts(const Lags& lags, const Transforms<T>& t, ptr
             first = false;
         }
         fftInverse(t.plan, t.block, t.block, t.work);
-        const i64 n = lags.count - done < part ? lags.count - done : part;
+        const ptrdiff_t n = lags.count - done < part ? lags.count - done : part;
         copy(t.block + part, y + done, n);
         done += n;
     }
 }
 
 template <class T>
-void sumByTransform(const Lags& lags, const CorrelationWork& work, bool convolution, const T* row, const T* x, T* y,
+void sumByTransform(const Range& lags, const CorrelationWork& work, bool convolution, const T* row, const T* x, T* y,
                     u8* buffer)
 {
     const Transforms<T> t(work, buffer);
-    const i64 part = work.parts > 1 ? t.points / 2 : lags.row;
+    const ptrdiff_t part = work.parts > 1 ? t.points / 2 : lags.row;
     T* spectrum = t.row;
-    for (i64 i = 0; i < lags.row; i += part, spectrum += t.points) {
-        const i64 n = lags.row - i < part ? lags.row - i : part;
+    for (ptrdiff_t i = 0; i < lags.row; i += part, spectrum += t.points) {
+        const ptrdiff_t n = lags.row - i < part ? lags.row - i : part;
         if (convolution)
             copy(row + i, t.block, n);
         else
@@ -124,7 +137,8 @@ void sumByTransform(const Lags& lags, const CorrelationWork& work, bool convolut
         sumByBlocks(lags, t, x, y);
 }
 
-template <class T> void autoCorrelateByTransform(const T* x, i64 n, T* y, i64 count, const CorrelationWork& work, u8* buffer)
+template <class T>
+void autoCorrelateByTransform(const T* x, ptrdiff_t n, T* y, ptrdiff_t count, const CorrelationWork& work, u8* buffer)
 {
     const Transforms<T> t(work, buffer);
     copy(x, t.block, n);

@@ -8,9 +8,9 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T> void reverseConjugate(T* d, i64 n)
+template <class T> [[gnu::cold]] void reverseConjugate(T* d, ptrdiff_t n)
 {
-    for (i64 i = 0, k = n - 1; i <= k; ++i, --k) {
+    for (ptrdiff_t i = 0, k = n - 1; i <= k; ++i, --k) {
         const T first = conjugate(d[i]), last = conjugate(d[k]);
         d[i] = last;
         d[k] = first;
@@ -43,7 +43,7 @@ void sums(const Lags& lags, const CorrelationWork& work, bool convolution, const
 {
     row += lags.rowFrom;
     x += lags.samplesFrom;
-    if (work.byTransform) return sumByTransform(lags, work, convolution, row, x, y, buffer);
+    if (work.byTransform) return sumByTransform(Range(lags), work, convolution, row, x, y, buffer);
     T* const own = reinterpret_cast<T*>(buffer);
     if (convolution) {
         copyReversed(row, own, lags.row);

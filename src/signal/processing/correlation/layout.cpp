@@ -77,8 +77,8 @@ u64 transformCost(const Lags& lags, int order)
     return fixedCost + ((tablesCost + each / 2 + each * blocksOf(lags, order)) << order);
 }
 
-// The row in parts, half a block each: as many transforms as parts, blocks of samples and blocks of results, and a product
-// of each part with each block.
+// The row in parts, half a block each: as many transforms as parts, blocks of samples and blocks of results, and a
+// product of each part with each block.
 u64 costInParts(const Lags& lags, int order, i64 parts)
 {
     const i64 part = i64(1) << order >> 1, results = (lags.count + part - 1) / part, samples = lags.samples / part + 2;

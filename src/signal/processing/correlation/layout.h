@@ -30,8 +30,9 @@ Lags convolutionLags(i64 len1, i64 len2);
 constexpr int byDefinition = 1, byTransform = 2; // algorithms as callers name them; 0: whichever is faster
 
 // Offsets from the first multiple of 64 in the buffer, which holds a row of its own where that is needed, and for the
-// method by transforms a plan of 2^order values, its work area, the spectrum of the row, and a block. A row that is longer
-// than half a block may be cut into parts of that length: there are the spectra of all parts, as many of blocks of samples.
+// method by transforms a plan of 2^order values, its work area, the spectrum of the row, and a block. A row that is
+// longer than half a block may be cut into parts of that length: there are the spectra of all parts, as many of blocks
+// of samples.
 struct CorrelationWork {
     bool byTransform;
     int order;

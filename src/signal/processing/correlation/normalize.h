@@ -5,18 +5,18 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-inline void scale(f64* y, i64 n, f64 factor)
+[[gnu::noinline]] inline void scale(f64* y, ptrdiff_t n, f64 factor)
 {
-    for (i64 i = 0; i < n; ++i) y[i] *= factor;
+    for (ptrdiff_t i = 0; i < n; ++i) y[i] *= factor;
 }
-inline void scale(c64f* y, i64 n, f64 factor) { scale(&y->re, 2 * n, factor); }
+inline void scale(c64f* y, ptrdiff_t n, f64 factor) { scale(&y->re, 2 * n, factor); }
 
 // y[i] / (first + i * step)
-inline void divide(f64* y, int n, int first, int step)
+[[gnu::noinline]] inline void divide(f64* y, int n, int first, int step)
 {
     for (int i = 0; i < n; ++i) y[i] /= static_cast<f64>(first + i * step);
 }
-inline void divide(c64f* y, int n, int first, int step)
+[[gnu::noinline]] inline void divide(c64f* y, int n, int first, int step)
 {
     for (int i = 0; i < n; ++i) {
         const f64 products = static_cast<f64>(first + i * step);
@@ -40,7 +40,7 @@ template <class T> Status normalize(const Lags& lags, int len, int algType, T* y
     case 0:
         return StsNoErr;
     case 0x100:
-        scale(y, lags.count, 1.0 / static_cast<f64>(len));
+        scale(y, static_cast<ptrdiff_t>(lags.count), 1.0 / static_cast<f64>(len));
         return StsNoErr;
     case 0x200:
         divideByProducts(lags, y);

@@ -13,7 +13,8 @@ void fftInverse(const void* plan, const f64* spectrum, f64* x, void* work);
 void fftForward(const void* plan, const c64f* x, c64f* spectrum, void* work);
 void fftInverse(const void* plan, const c64f* spectrum, c64f* x, void* work);
 
-// d = a * b, a * conj(b) or d + a * b, value by value, of spectra of the plan's order; any of the arrays may be the same.
+// d = a * b, a * conj(b) or d + a * b, value by value, of spectra of the plan's order; any of the arrays may be the
+// same.
 void fftMultiply(const void* plan, const f64* a, const f64* b, f64* d);
 void fftMultiply(const void* plan, const c64f* a, const c64f* b, c64f* d);
 void fftMultiplyConj(const void* plan, const f64* a, const f64* b, f64* d);

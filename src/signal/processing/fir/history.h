@@ -16,7 +16,7 @@ template <class T> void firstHistory(const T* given, T* d, ptrdiff_t length)
 }
 
 // Forward into an array that overlaps what is copied.
-template <class T> void slide(const T* a, T* d, ptrdiff_t n)
+template <class T> [[gnu::noinline]] void slide(const T* a, T* d, ptrdiff_t n)
 {
     for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
 }

@@ -25,17 +25,19 @@ constexpr bool isComplexType(int dataType) { return dataType == 14 || dataType =
 
 constexpr i64 maxInt = 0x7fffffff;
 
-inline void copy(const f64* a, f64* d, ptrdiff_t n)
+// Not inlined, since each of them is called from many places and takes a few hundred bytes.
+[[gnu::noinline]] inline void copy(const f64* a, f64* d, ptrdiff_t n)
 {
 #pragma GCC ivdep
     for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
 }
 inline void copy(const c64f* a, c64f* d, ptrdiff_t n) { copy(&a->re, &d->re, 2 * n); }
 
-template <class T> void zero(T* d, ptrdiff_t n)
+[[gnu::noinline]] inline void zero(f64* d, ptrdiff_t n)
 {
-    for (ptrdiff_t i = 0; i < n; ++i) d[i] = T{};
+    for (ptrdiff_t i = 0; i < n; ++i) d[i] = 0.0;
 }
+inline void zero(c64f* d, ptrdiff_t n) { zero(&d->re, 2 * n); }
 
 } // namespace
 } // namespace sig5d

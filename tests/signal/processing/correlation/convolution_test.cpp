@@ -27,8 +27,16 @@ TEST(Convolution, ByTransformIsWithinItsBound)
 {
     std::mt19937 g(6);
     double worst = 0;
-    for (const auto& [n, m] :
-         {std::pair(1, 1), {1, 9}, {40, 3}, {64, 65}, {100, 100}, {1000, 150}, {77, 4000}, {1024, 1024}, {513, 512}, {3000, 2900}}) {
+    for (const auto& [n, m] : {std::pair(1, 1),
+                               {1, 9},
+                               {40, 3},
+                               {64, 65},
+                               {100, 100},
+                               {1000, 150},
+                               {77, 4000},
+                               {1024, 1024},
+                               {513, 512},
+                               {3000, 2900}}) {
         const auto a = noise<Ipp64f>(g, n), b = noise<Ipp64f>(g, m);
         const auto exact = oracle::convolution(oracle::widened(a), oracle::widened(b));
         double aSum = 0, bSum = 0;
