@@ -33,6 +33,7 @@ foreach(
     frame/detected.cpp
     kernel/libm_trig.cpp
     kernel/libm_exp.cpp
+    signal/processing/correlation/layout.cpp
     signal/processing/dct/spec.cpp
     signal/processing/dct/tables.cpp
     signal/processing/fft/mixed_plan.cpp

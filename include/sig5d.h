@@ -2037,6 +2037,55 @@ IppStatus SIG5D_CDECL ippsLinToMuLaw_16s8u_Idx(const Ipp16s* pSrc, int srcIdx, I
 IppStatus SIG5D_CDECL ippsLinToMuLaw_32f8u_Idx(const Ipp32f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 IppStatus SIG5D_CDECL ippsLinToMuLaw_64f8u_Idx(const Ipp64f* pSrc, int srcIdx, Ipp8u* pDst, int dstIdx, int len);
 
+/* ---- Correlation and convolution ---- */
+
+/* The bytes of a work buffer for ippsAutoCorrNorm with the same lengths and algType. dataType is 19 for 64f and 20
+   for 64fc; 13 and 14 (32f and 32fc) are answered too, though no correlation of these types exists. Of algType
+   only the algorithm is looked at. */
+IppStatus SIG5D_STDCALL ippsAutoCorrNormGetBufferSize(int srcLen, int dstLen, int dataType, int algType, int*
+        pBufferSize);
+
+/* pDst[k] = sum over n = 0..srcLen-1-k of conj(pSrc[n]) * pSrc[n+k]. L = min(srcLen, dstLen) lags; what is left of
+   pDst becomes 0. */
+IppStatus SIG5D_STDCALL ippsAutoCorrNorm_64f(const Ipp64f* pSrc, int srcLen, Ipp64f* pDst, int dstLen, int algType,
+        Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippsAutoCorrNorm_64f_Idx(const Ipp64f* pSrc, int srcIdx, int srcLen, Ipp64f* pDst, int dstIdx,
+        int dstLen, int algType, Ipp8u* pBuffer, int bufferIdx);
+IppStatus SIG5D_STDCALL ippsAutoCorrNorm_64fc(const Ipp64fc* pSrc, int srcLen, Ipp64fc* pDst, int dstLen, int algType,
+        Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippsAutoCorrNorm_64fc_Idx(const Ipp64fc* pSrc, int srcIdx, int srcLen, Ipp64fc* pDst, int
+        dstIdx, int dstLen, int algType, Ipp8u* pBuffer, int bufferIdx);
+
+/* The bytes of a work buffer for ippsCrossCorrNorm with the same lengths, lag and algType, of which only the
+   algorithm is looked at. dataType as for ippsAutoCorrNormGetBufferSize. */
+IppStatus SIG5D_STDCALL ippsCrossCorrNormGetBufferSize(int src1Len, int src2Len, int dstLen, int lowLag, int dataType,
+        int algType, int* pBufferSize);
+
+/* pDst[k] = sum over n of conj(pSrc1[n]) * pSrc2[n+lowLag+k]. The sums are over all n that both signals have; lags
+   without a product are 0. Any lowLag is allowed. */
+IppStatus SIG5D_STDCALL ippsCrossCorrNorm_64f(const Ipp64f* pSrc1, int src1Len, const Ipp64f* pSrc2, int src2Len,
+        Ipp64f* pDst, int dstLen, int lowLag, int algType, Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippsCrossCorrNorm_64f_Idx(const Ipp64f* pSrc1, int src1Idx, int src1Len, const Ipp64f* pSrc2,
+        int src2Idx, int src2Len, Ipp64f* pDst, int dstIdx, int dstLen, int lowLag, int algType, Ipp8u* pBuffer, int
+        bufferIdx);
+IppStatus SIG5D_STDCALL ippsCrossCorrNorm_64fc(const Ipp64fc* pSrc1, int src1Len, const Ipp64fc* pSrc2, int src2Len,
+        Ipp64fc* pDst, int dstLen, int lowLag, int algType, Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippsCrossCorrNorm_64fc_Idx(const Ipp64fc* pSrc1, int src1Idx, int src1Len, const Ipp64fc* pSrc2,
+        int src2Idx, int src2Len, Ipp64fc* pDst, int dstIdx, int dstLen, int lowLag, int algType, Ipp8u* pBuffer, int
+        bufferIdx);
+
+/* The bytes of a work buffer for ippsConvolve with the same lengths and algType. dataType as for
+   ippsAutoCorrNormGetBufferSize. */
+IppStatus SIG5D_STDCALL ippsConvolveGetBufferSize(int src1Len, int src2Len, int dataType, int algType, int*
+        pBufferSize);
+
+/* pDst[n] = sum over k of pSrc1[k] * pSrc2[n-k]. The sums are over all k that both signals have. algType is 0
+   automatic, 1 by definition, 2 by FFT. */
+IppStatus SIG5D_STDCALL ippsConvolve_64f(const Ipp64f* pSrc1, int src1Len, const Ipp64f* pSrc2, int src2Len, Ipp64f*
+        pDst, int algType, Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippsConvolve_64f_Idx(const Ipp64f* pSrc1, int src1Idx, int src1Len, const Ipp64f* pSrc2, int
+        src2Idx, int src2Len, Ipp64f* pDst, int dstIdx, int algType, Ipp8u* pBuffer, int bufferIdx);
+
 /* ---- Cosine transforms ---- */
 
 /* The bytes of a specification, of the buffer that sets it up (0: none) and of the work buffer that a transform of

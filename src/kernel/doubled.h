@@ -6,15 +6,19 @@
 namespace sig5d {
 namespace {
 
+// Two numbers side by side, in a register that all processors have.
+typedef f64 NumberPair __attribute__((vector_size(16)));
+
 // hi + lo, where hi is the sum rounded to a double.
-struct Doubled {
-    f64 hi, lo;
+template <class V> struct InTwo {
+    V hi, lo;
 };
+using Doubled = InTwo<f64>;
 
 // a + b exactly, for |a| >= |b| or a = 0.
-inline Doubled fastTwoSum(f64 a, f64 b)
+template <class V> inline InTwo<V> fastTwoSum(V a, V b)
 {
-    const f64 sum = a + b;
+    const V sum = a + b;
     return {sum, b - (sum - a)};
 }
 
@@ -40,19 +44,19 @@ inline f64 fromBits(u64 bits)
 
 // x rounded to 26 significant bits; what is left has 26 bits and a sign. Products of two such halves are exact.
 // In a vector register: the way through integer registers, on i386 through memory, takes several times as long.
-inline f64 upperHalf(f64 x)
+template <class V> inline V upperHalf(V x)
 {
-    typedef f64 Numbers __attribute__((vector_size(16)));
-    typedef u64 Words __attribute__((vector_size(16)));
-    const Words bits = reinterpret_cast<Words>(Numbers{x, 0.0}) + (u64(1) << 26);
-    return reinterpret_cast<Numbers>(bits & ~((u64(1) << 27) - 1))[0];
+    typedef u64 Words __attribute__((vector_size(sizeof(V))));
+    const Words bits = reinterpret_cast<Words>(x) + (u64(1) << 26);
+    return reinterpret_cast<V>(bits & ~((u64(1) << 27) - 1));
 }
+inline f64 upperHalf(f64 x) { return upperHalf(NumberPair{x, 0.0})[0]; }
 
 // a * b exactly, as long as nothing overflows or underflows.
-inline Doubled twoProduct(f64 a, f64 b)
+template <class V> inline InTwo<V> twoProduct(V a, V b)
 {
-    const f64 product = a * b;
-    const f64 ah = upperHalf(a), al = a - ah, bh = upperHalf(b), bl = b - bh;
+    const V product = a * b;
+    const V ah = upperHalf(a), al = a - ah, bh = upperHalf(b), bl = b - bh;
     return {product, ((ah * bh - product) + (ah * bl + al * bh)) + al * bl};
 }
 

@@ -11,14 +11,14 @@ constexpr f64 twoOverPi = 0x1.45f306dc9c883p-1;
 
 // (sin(x) - x + x^3/6) / x^5 and (cos(x) - 1 + x^2/2) / x^4 as polynomials in z = x^2: minimax on [0, (pi/4)^2],
 // relative errors 2^-56 and 2^-54.
-inline f64 sinTail(f64 z)
+template <class V> inline V sinTail(V z)
 {
     return 0x1.1111111111111p-7 +
            z * (-0x1.a01a01a019ed4p-13 +
                 z * (0x1.71de3a550c616p-19 +
                      z * (-0x1.ae6455335eed1p-26 + z * (0x1.61225a81ddb6fp-33 + z * -0x1.ab93816e6462ap-41))));
 }
-inline f64 cosTail(f64 z)
+template <class V> inline V cosTail(V z)
 {
     return 0x1.5555555555555p-5 +
            z * (-0x1.6c16c16c16962p-10 +
@@ -26,23 +26,30 @@ inline f64 cosTail(f64 z)
                      z * (-0x1.27e4fa16ba9e2p-22 + z * (0x1.1eeb67dbeadecp-29 + z * -0x1.907cf2cf0ef08p-37))));
 }
 
-// Cosine and sine of a.hi + a.lo in [-pi/4, pi/4].
-inline CosSin onFirstOctants(Doubled a)
+// Cosine and sine of a.hi + a.lo in [-pi/4, pi/4], not too small for squares.
+template <class V> struct Sides {
+    V cos, sin;
+};
+template <class V> inline Sides<V> onFirstOctants(V x, V xLow)
 {
-    const f64 x = a.hi;
-    if (__builtin_fabs(x) < 0x1p-27) return {1.0, x};
-    const f64 head = upperHalf(x), tail = x - head;
-    const f64 zHead = head * head, zTail = tail * (x + head), z = zHead + zTail;
+    const V head = upperHalf(x), tail = x - head;
+    const V zHead = head * head, zTail = tail * (x + head), z = zHead + zTail;
 
-    const f64 half = 0.5 * zHead, c = 1.0 - half;
-    const f64 cosLow = ((1.0 - c) - half) - 0.5 * zTail + z * z * cosTail(z) - x * a.lo;
+    const V half = 0.5 * zHead, c = 1.0 - half;
+    const V cosLow = ((1.0 - c) - half) - 0.5 * zTail + z * z * cosTail(z) - x * xLow;
 
     // z/6 as sixth + sixthTail, the first of 26 bits, so that the cube's leading part head * sixth is exact.
-    const f64 sixth = upperHalf(z * (1.0 / 6.0)), sixthTail = ((zHead - 6.0 * sixth) + zTail) * (1.0 / 6.0);
-    const f64 cube = head * sixth, s = x - cube;
-    const f64 sinLow =
-        ((x - s) - cube) - (tail * sixth + x * sixthTail) + x * (z * z) * sinTail(z) + a.lo * (1.0 - 0.5 * z);
+    const V sixth = upperHalf(z * (1.0 / 6.0)), sixthTail = ((zHead - 6.0 * sixth) + zTail) * (1.0 / 6.0);
+    const V cube = head * sixth, s = x - cube;
+    const V sinLow =
+        ((x - s) - cube) - (tail * sixth + x * sixthTail) + x * (z * z) * sinTail(z) + xLow * (1.0 - 0.5 * z);
     return {c + cosLow, s + sinLow};
+}
+inline CosSin onFirstOctants(Doubled a)
+{
+    if (__builtin_fabs(a.hi) < 0x1p-27) return {1.0, a.hi};
+    const Sides<f64> w = onFirstOctants(a.hi, a.lo);
+    return {w.cos, w.sin};
 }
 
 // Turned by quadrant * pi/2.
@@ -162,6 +169,17 @@ CosSin cosSinTurn(i64 k, i64 n)
     if (octant & 1) a.sin = -a.sin;
     a = turned(a, static_cast<u32>((octant + 1) >> 1));
     return {a.cos + 0.0, a.sin + 0.0}; // no negative zeros
+}
+
+CosSinPair cosSinTurns(NumberPair turns)
+{
+    const NumberPair eighths = turns * 8.0;
+    const auto beyond = eighths > 1.0; // measured from the far end
+    const NumberPair part = beyond ? 2.0 - eighths : eighths;
+    const InTwo<NumberPair> angle = twoProduct(part, NumberPair{quarterPi.hi, quarterPi.hi});
+    const InTwo<NumberPair> x = fastTwoSum(angle.hi, angle.lo + part * quarterPi.lo);
+    const Sides<NumberPair> w = onFirstOctants(x.hi, x.lo);
+    return {beyond ? w.sin : w.cos, beyond ? w.cos : w.sin};
 }
 
 } // namespace sig5d::libm

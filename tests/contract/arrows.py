@@ -16,8 +16,9 @@ ELEMENT_TYPES = ["frame/types.h"]
 ENTRY = ELEMENT_TYPES + ["frame/entry.h", "frame/index.h"]
 TABLES_OF_FRAME = ["statuses.inc", "status_table.inc", "variant_table.inc", "opaque_types.inc"]  # generated
 
-# The rooms of src/signal/processing. The transforms serve all the others, which do not include each other.
-ROOMS = "fft fir iir dct windows generators median goertzel statistics sorting correlation sampling companding".split()
+# The rooms of src/signal/processing. The transforms and the sliding sums serve all the others, which do not include each
+# other.
+ROOMS = "fft sliding fir iir dct windows generators median goertzel statistics sorting correlation sampling companding".split()
 
 # The folder of a file (the longest that fits) -> files and folders of this project that it may include. Besides them,
 # each file may include the generated entries/ of its own name and bodies/ of its own folder.
@@ -31,7 +32,7 @@ PROJECT = {
     "src/frame/compat": ["frame/memory.h", "frame/index.h", "frame/compat/", "sig5d.h"] + ELEMENT_TYPES,
 }
 for room in ROOMS:
-    PROJECT[f"src/signal/processing/{room}"] = [f"signal/processing/{r}/" for r in (room, "fft")] + ["kernel/"] + ENTRY
+    PROJECT[f"src/signal/processing/{room}"] = [f"signal/processing/{r}/" for r in (room, "fft", "sliding")] + ["kernel/"] + ENTRY
 SYSTEM = {folder: PLAIN | INTRINSICS for folder in PROJECT} | {
     "src/frame": PLAIN | {"atomic", "cpuid.h", "limits.h", "stdlib.h", "time.h", "windows.h", "x86intrin.h"},
     "src/frame/compat": PLAIN | {"stdlib.h"},

@@ -329,7 +329,9 @@ bool generallyCallable(const registry::Function& f) { return !*f.untested; }
 
 bool mayRefuse(const registry::Function& f)
 {
-    return std::strstr(f.name, "GetSize") || std::strstr(f.name, "GetBufSize") || std::strstr(f.name, "GetStateSize");
+    for (const char* query : {"GetSize", "GetBufSize", "GetStateSize", "GetBufferSize"})
+        if (std::strstr(f.name, query)) return true;
+    return false;
 }
 
 } // namespace support

@@ -2,6 +2,8 @@ sig5d_test(dct signal/processing/dct/transforms_test.cpp frame/dct_handles_test.
 sig5d_test(fir signal/processing/fir/single_test.cpp signal/processing/fir/multi_test.cpp frame/fir_handles_test.cpp
            support/heap.cpp)
 sig5d_test(companding signal/processing/companding/companding_test.cpp)
+sig5d_test(correlation signal/processing/correlation/correlation_test.cpp signal/processing/correlation/convolution_test.cpp
+           signal/processing/correlation/sizes_test.cpp)
 sig5d_test(random signal/processing/generators/random_test.cpp)
 sig5d_test(goertzel signal/processing/goertzel/goertzel_test.cpp)
 sig5d_test(median signal/processing/median/median_test.cpp frame/median_handles_test.cpp support/heap.cpp)

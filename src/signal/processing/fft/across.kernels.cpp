@@ -28,45 +28,58 @@ SIG5D_INLINE void putValues(f64* p, Complex<Vector> a)
     store(p + 4, a.im);
 }
 
+// What becomes of d: a * b, a * conj(b), d + a * b.
+enum class Product { plain, conjugated, added };
+template <Product kind, class T> SIG5D_INLINE Complex<T> product(Complex<T> a, Complex<T> b, Complex<T> d)
+{
+    if constexpr (kind == Product::conjugated) return timesConj(a, b);
+    return kind == Product::plain ? a * b : d + a * b;
+}
+
 // Spectra of interleaved complex values.
-template <bool conjugated> void multiplyValues(const f64* a, const f64* b, f64* d, Count n)
+template <Product kind> void multiplyValues(const f64* a, const f64* b, f64* d, Count n)
 {
     for (Count i = 0; i < 2 * n; i += 2) {
         const Complex<f64> x = {a[i], a[i + 1]}, y = {b[i], b[i + 1]};
-        const Complex<f64> product = conjugated ? timesConj(x, y) : x * y;
-        d[i] = product.re;
-        d[i + 1] = product.im;
+        const Complex<f64> result = product<kind>(x, y, kind == Product::added ? Complex<f64>{d[i], d[i + 1]} : x);
+        d[i] = result.re;
+        d[i + 1] = result.im;
     }
 }
-template <bool conjugated> void multiplyBlocks(const f64* a, const f64* b, f64* d, Count blocks)
+template <Product kind> void multiplyBlocks(const f64* a, const f64* b, f64* d, Count blocks)
 {
     for (Count i = 0; i < blocks * blockSize; i += blockSize)
         for (int h = 0; h < 4; h += width) {
             const Complex<Vector> x = getValues(a + i + h), y = getValues(b + i + h);
-            putValues(d + i + h, conjugated ? timesConj(x, y) : x * y);
+            putValues(d + i + h, product<kind>(x, y, kind == Product::added ? getValues(d + i + h) : x));
         }
 }
 bool interleaved(const FftPlan& plan) { return plan.small || isOrdered(plan); }
 
-template <bool conjugated> void multiply(const FftPlan& plan, const f64* a, const f64* b, f64* d)
+template <Product kind> void multiply(const FftPlan& plan, const f64* a, const f64* b, f64* d)
 {
+    constexpr bool added = kind == Product::added;
     if (interleaved(plan)) {
         const f64 ends[2] = {a[0] * b[0], plan.order > 0 ? a[1] * b[1] : 0};
-        multiplyValues<conjugated>(a + 2, b + 2, d + 2, pointsOf(plan) / 2 - 1);
-        for (int i = 0; i < 2 && i < pointsOf(plan); ++i) d[i] = ends[i];
+        multiplyValues<kind>(a + 2, b + 2, d + 2, pointsOf(plan) / 2 - 1);
+        for (int i = 0; i < 2 && i < pointsOf(plan); ++i) d[i] = added ? d[i] + ends[i] : ends[i];
         return;
     }
-    const Ends other = endsOfSpectrum(b);
-    const Ends product = multiplyEnds(endsOfSpectrum(a), conjugated ? conjugate(other) : other, 1.0);
-    multiplyBlocks<conjugated>(a, b, d, pointsOf(plan) / blockSize);
-    putEndsOfSpectrum(d, product);
+    const Ends other = endsOfSpectrum(b), before = added ? endsOfSpectrum(d) : other;
+    Ends ends = multiplyEnds(endsOfSpectrum(a), kind == Product::conjugated ? conjugate(other) : other, 1.0);
+    for (int j = 0; added && j < 4; ++j) {
+        ends.plus[j] += before.plus[j];
+        ends.minus[j] += before.minus[j];
+    }
+    multiplyBlocks<kind>(a, b, d, pointsOf(plan) / blockSize);
+    putEndsOfSpectrum(d, ends);
 }
-template <bool conjugated> void multiply(const FftPlan& plan, const c64f* a, const c64f* b, c64f* d)
+template <Product kind> void multiply(const FftPlan& plan, const c64f* a, const c64f* b, c64f* d)
 {
     if (interleaved(plan))
-        multiplyValues<conjugated>(&a->re, &b->re, &d->re, pointsOf(plan));
+        multiplyValues<kind>(&a->re, &b->re, &d->re, pointsOf(plan));
     else
-        multiplyBlocks<conjugated>(&a->re, &b->re, &d->re, pointsOf(plan) / 4);
+        multiplyBlocks<kind>(&a->re, &b->re, &d->re, pointsOf(plan) / 4);
 }
 
 } // namespace
@@ -101,9 +114,29 @@ void convolveBlocks(f64* work, const f64* table, const f64* h, Count blocks)
         }
 }
 
-void fftMultiply(const void* plan, const f64* a, const f64* b, f64* d) { multiply<false>(planAt(plan), a, b, d); }
-void fftMultiply(const void* plan, const c64f* a, const c64f* b, c64f* d) { multiply<false>(planAt(plan), a, b, d); }
-void fftMultiplyConj(const void* plan, const f64* a, const f64* b, f64* d) { multiply<true>(planAt(plan), a, b, d); }
-void fftMultiplyConj(const void* plan, const c64f* a, const c64f* b, c64f* d) { multiply<true>(planAt(plan), a, b, d); }
+void fftMultiply(const void* plan, const f64* a, const f64* b, f64* d)
+{
+    multiply<Product::plain>(planAt(plan), a, b, d);
+}
+void fftMultiply(const void* plan, const c64f* a, const c64f* b, c64f* d)
+{
+    multiply<Product::plain>(planAt(plan), a, b, d);
+}
+void fftMultiplyConj(const void* plan, const f64* a, const f64* b, f64* d)
+{
+    multiply<Product::conjugated>(planAt(plan), a, b, d);
+}
+void fftMultiplyConj(const void* plan, const c64f* a, const c64f* b, c64f* d)
+{
+    multiply<Product::conjugated>(planAt(plan), a, b, d);
+}
+void fftMultiplyAdd(const void* plan, const f64* a, const f64* b, f64* d)
+{
+    multiply<Product::added>(planAt(plan), a, b, d);
+}
+void fftMultiplyAdd(const void* plan, const c64f* a, const c64f* b, c64f* d)
+{
+    multiply<Product::added>(planAt(plan), a, b, d);
+}
 
 } // namespace sig5d::SIG5D_VARIANT

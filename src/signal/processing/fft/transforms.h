@@ -13,11 +13,14 @@ void fftInverse(const void* plan, const f64* spectrum, f64* x, void* work);
 void fftForward(const void* plan, const c64f* x, c64f* spectrum, void* work);
 void fftInverse(const void* plan, const c64f* spectrum, c64f* x, void* work);
 
-// d = a * b or a * conj(b), value by value, of spectra of the plan's order; any of the arrays may be the same.
+// d = a * b, a * conj(b) or d + a * b, value by value, of spectra of the plan's order; any of the arrays may be the
+// same.
 void fftMultiply(const void* plan, const f64* a, const f64* b, f64* d);
 void fftMultiply(const void* plan, const c64f* a, const c64f* b, c64f* d);
 void fftMultiplyConj(const void* plan, const f64* a, const f64* b, f64* d);
 void fftMultiplyConj(const void* plan, const c64f* a, const c64f* b, c64f* d);
+void fftMultiplyAdd(const void* plan, const f64* a, const f64* b, f64* d);
+void fftMultiplyAdd(const void* plan, const c64f* a, const c64f* b, c64f* d);
 
 // y = the circular convolution of x with the signal whose unordered spectrum is h: forward, product, inverse in one go,
 // faster than one by one. Plans of unordered spectra only; y may be x.

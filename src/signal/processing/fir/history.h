@@ -1,22 +1,9 @@
-// Copies of samples and of the history that a FIR filter carries from call to call.
+// The history that a FIR filter carries from call to call.
 #pragma once
-#include "frame/types.h"
-#include <cstddef>
+#include "signal/processing/sliding/memory.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
-
-inline void copy(const f64* a, f64* d, ptrdiff_t n)
-{
-#pragma GCC ivdep
-    for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
-}
-inline void copy(const c64f* a, c64f* d, ptrdiff_t n) { copy(&a->re, &d->re, 2 * n); }
-
-template <class T> void zero(T* d, ptrdiff_t n)
-{
-    for (ptrdiff_t i = 0; i < n; ++i) d[i] = T{};
-}
 
 // The history before the first input: what the caller gives, or zeros.
 template <class T> void firstHistory(const T* given, T* d, ptrdiff_t length)
@@ -29,7 +16,7 @@ template <class T> void firstHistory(const T* given, T* d, ptrdiff_t length)
 }
 
 // Forward into an array that overlaps what is copied.
-template <class T> void slide(const T* a, T* d, ptrdiff_t n)
+template <class T> [[gnu::noinline]] void slide(const T* a, T* d, ptrdiff_t n)
 {
     for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
 }

@@ -120,7 +120,7 @@ Status multiRate(const T* pSrc, T* pDst, int numIters, const void* pSpec, const 
 
 Status multiRateSize(int tapsLen, int upFactor, int downFactor, int tapsType, int* pSpecSize, int* pBufSize)
 {
-    const int e = tapBytes(tapsType);
+    const int e = elementBytes(tapsType);
     const bool same = upFactor == 1 && downFactor == 1, complex = isComplexType(tapsType);
     const FirSizes sizes = same ? SingleRateLayout(tapsLen, e, complex).sizes()
                                 : MultiRateLayout(tapsLen, upFactor, downFactor, e, complex).sizes();

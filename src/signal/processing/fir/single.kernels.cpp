@@ -1,9 +1,9 @@
 // Single-rate FIR filters: y[n] = sum over k of taps[k] * x[n - k].
 #include "frame/entry.h"
 #include "signal/processing/fft/transforms.h"
-#include "signal/processing/fir/direct.h"
 #include "signal/processing/fir/history.h"
 #include "signal/processing/fir/single.h"
+#include "signal/processing/sliding/sums.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -43,7 +43,7 @@ template <class T> void filterDirectly(const T* src, T* dst, int n, const FirSpe
         for (int i = 0; i < n; i += inPlaceBlock) {
             const int m = n - i < inPlaceBlock ? n - i : inPlaceBlock;
             copy(src + i, line + history, m);
-            direct(line, reversed, taps, dst + i, m);
+            slidingSums(line, reversed, taps, dst + i, m);
             slide(line + m, line, history);
         }
         return;
@@ -52,8 +52,8 @@ template <class T> void filterDirectly(const T* src, T* dst, int n, const FirSpe
     const int first = (history + outputsOfBlock<T> - 1) / outputsOfBlock<T> * outputsOfBlock<T>;
     const int p = n < first ? n : first;
     copy(src, line + history, p);
-    if (p > 0) direct(line, reversed, taps, dst, p);
-    if (n > p) direct(src + p - history, reversed, taps, dst + p, n - p);
+    if (p > 0) slidingSums(line, reversed, taps, dst, p);
+    if (n > p) slidingSums(src + p - history, reversed, taps, dst + p, n - p);
 }
 
 // Overlap-save: of the circular convolution of N samples, the history before them first, with the taps, all but the
@@ -107,7 +107,7 @@ template <class T> void filter(const T* src, T* dst, int n, const FirSpec* spec,
 
 Status singleRateSize(int tapsLen, int tapsType, int* pSpecSize, int* pBufSize)
 {
-    const FirSizes sizes = SingleRateLayout(tapsLen, tapBytes(tapsType), isComplexType(tapsType)).sizes();
+    const FirSizes sizes = SingleRateLayout(tapsLen, elementBytes(tapsType), isComplexType(tapsType)).sizes();
     if (!sizes.fit()) return StsSizeErr;
     sizes.store(pSpecSize, pBufSize);
     return StsNoErr;

@@ -1,8 +1,8 @@
 // The block that describes a FIR filter, and where everything lies in it and in the work buffer. The size queries and
 // the Init functions use the same layout; all sizes are computed in 64 bits and refused when they are no int.
 #pragma once
-#include "frame/types.h"
 #include "signal/processing/fft/plan.h"
+#include "signal/processing/sliding/memory.h"
 
 namespace sig5d::SIG5D_VARIANT {
 
@@ -24,17 +24,9 @@ static_assert(sizeof(FirSpec) <= 64);
 
 namespace {
 
-constexpr i64 align64(i64 bytes) { return (bytes + 63) / 64 * 64; }
-
-template <class P> P aligned(P p)
-{
-    return reinterpret_cast<P>((reinterpret_cast<uintptr_t>(p) + 63) & ~uintptr_t(63));
-}
-
 // What stands in the mark of a block: which filter it is for. A block of another kind has something else there.
 enum FirMark : u32 { singleRate64f = 0x46495213, singleRate64fc, multiRate64f, multiRate64fc };
 
-template <class T> constexpr bool isComplex = sizeof(T) == sizeof(c64f);
 template <class T> constexpr u32 singleRateMark = !isComplex<T> ? singleRate64f : singleRate64fc;
 template <class T> constexpr u32 multiRateMark = !isComplex<T> ? multiRate64f : multiRate64fc;
 
@@ -42,16 +34,6 @@ template <class T, class P> T* part(P* spec, u32 offset)
 {
     return reinterpret_cast<T*>(reinterpret_cast<uintptr_t>(spec) + offset);
 }
-
-// The element sizes of the tap types 13, 14, 19 and 20.
-constexpr int tapBytes(int tapsType)
-{
-    return tapsType == 13 ? 4 : tapsType == 14 || tapsType == 19 ? 8 : tapsType == 20 ? 16 : 0;
-}
-
-constexpr bool isComplexType(int tapsType) { return tapsType == 14 || tapsType == 20; }
-
-constexpr i64 maxInt = 0x7fffffff;
 
 struct FirSizes {
     i64 spec, work;

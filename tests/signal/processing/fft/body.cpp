@@ -10,8 +10,8 @@ using namespace sig5d::SIG5D_FFT_BODY;
 
 const support::FftBody body = {
     TEXT(SIG5D_VARIANT),
-    {fftForward, fftInverse, fftMultiply, fftMultiplyConj, fftConvolve},
-    {fftForward, fftInverse, fftMultiply, fftMultiplyConj, fftConvolve},
+    {fftForward, fftInverse, fftMultiply, fftMultiplyConj, fftMultiplyAdd, fftConvolve},
+    {fftForward, fftInverse, fftMultiply, fftMultiplyConj, fftMultiplyAdd, fftConvolve},
 };
 const struct Listed {
     Listed() { support::allFftBodies().push_back(&body); }

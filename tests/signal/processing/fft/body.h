@@ -12,6 +12,7 @@ template <class T> struct FftFunctions {
     void (*inverse)(const void* plan, const T* spectrum, T* x, void* work);
     void (*multiply)(const void* plan, const T* a, const T* b, T* d);
     void (*multiplyConj)(const void* plan, const T* a, const T* b, T* d);
+    void (*multiplyAdd)(const void* plan, const T* a, const T* b, T* d);
     void (*convolve)(const void* plan, const T* x, const T* h, T* y, void* work);
 };
 struct FftBody {

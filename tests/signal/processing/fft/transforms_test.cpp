@@ -217,6 +217,12 @@ template <class T> void expectProducts(int order, FftSpectrum kind)
     EXPECT_EQ(std::memcmp(overA.data(), product.data(), n * sizeof(T)), 0) << order;
     EXPECT_EQ(std::memcmp(overB.data(), product.data(), n * sizeof(T)), 0) << order;
 
+    std::vector<T> twice = product, added = product;
+    double* const parts = reinterpret_cast<double*>(twice.data());
+    for (size_t k = 0; k < n * sizeof(T) / sizeof(double); ++k) parts[k] += parts[k];
+    fft.multiplyAdd(p, X.data(), H.data(), added.data());
+    EXPECT_EQ(std::memcmp(added.data(), twice.data(), n * sizeof(T)), 0) << order;
+
     fft.multiplyConj(p, X.data(), H.data(), product.data());
     fft.inverse(p, product.data(), result.data(), plan.work.data);
     EXPECT_LE(distance(widened(result), exact(true)), bound) << order;

@@ -1,6 +1,6 @@
-// The direct form of a FIR filter: y[i] = sum of r[k] * x[i + k] over k = 0..taps-1, with r the taps in reversed order.
-// Each output is one running sum that starts from 0.0 and takes the oldest sample first, so the work goes in parallel
-// across outputs only and every vector width gives the same bits.
+// The loops of sliding sums, in the words of a FIR filter: y[i] = sum of r[k] * x[i + k] over k = 0..taps-1, with r the
+// taps in reversed order. Each output is one running sum that starts from 0.0 and takes the oldest sample first, so the
+// work goes in parallel across outputs only and every vector width gives the same bits.
 //
 // What bounds such a kernel is loads, half of them across cache lines: a product needs a vector of samples. A block
 // therefore works on `groups` sets of outputs at once, each set one vector behind the one before in its taps, so that
@@ -8,7 +8,7 @@
 // and add peak of a Sapphire Rapids core the AVX2 body reaches 81, 92 and 95 % at 16, 64 and 256 taps with 3 x 3, and
 // 78, 84 and 83 % with a load per product.
 #pragma once
-#include "kernel/simd.h"
+#include "signal/processing/sliding/shape.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
@@ -25,6 +25,7 @@ template <int w> struct Side<f64, w> {
     static Tap tap(const f64& h) { return broadcast<w>(&h); }
     static Signal signal(const f64* x) { return loadn<w>(x); }
     static void add(Sum& s, Tap h, Signal x) { s += h * x; }
+    static Sum get(const f64* y) { return loadn<w>(y); }
     static void put(f64* y, Sum s) { storen<w>(y, s); }
 };
 
@@ -47,6 +48,7 @@ template <int w> struct Side<c64f, w> {
         return {x, swapped(x)};
     }
     static void add(Sum& s, const Tap& h, const Signal& x) { s += h.re * x.x + h.im * x.crossed; }
+    static Sum get(const c64f* y) { return loadn<2 * w>(&y->re); }
     static void put(c64f* y, Sum s) { storen<2 * w>(&y->re, s); }
 };
 
@@ -71,6 +73,7 @@ template <> struct Side<c64f, 1> {
         s.re += h.re * x.re + h.minusIm * x.im;
         s.im += h.re * x.im + h.im * x.re;
     }
+    static Sum get(const c64f* y) { return *y; }
     static void put(c64f* y, const Sum& s) { *y = s; }
 };
 #endif
@@ -105,9 +108,9 @@ template <class S, int lo, int hi, int groups, int columns, class T>
 }
 
 // groups * columns vectors of outputs, from at least (groups - 1) * width taps. The last column stands at output
-// `last`, so that it may overlap the one before where there are not enough outputs.
+// `last`, so that it may overlap the one before where there are not enough outputs. `more`: sums that go on from y.
 template <class S, int groups, int columns, class T>
-[[gnu::always_inline]] inline void block(const T* x, const T* r, int taps, T* y, int last)
+[[gnu::always_inline]] inline void block(const T* x, const T* r, int taps, T* y, int last, bool more)
 {
     constexpr int w = S::width;
     static_assert(groups <= 4);
@@ -115,7 +118,8 @@ template <class S, int groups, int columns, class T>
 #pragma GCC unroll 4
     for (int i = 0; i < groups; ++i)
 #pragma GCC unroll 16
-        for (int j = 0; j < columns; ++j) sum[i][j] = S::zero();
+        for (int j = 0; j < columns; ++j)
+            sum[i][j] = more ? S::get(y + at<groups * w, columns>(j, last) + i * w) : S::zero();
     if constexpr (groups > 1) steps<S, 0, 1>(sum, x, r, 0, w, last);
     if constexpr (groups > 2) steps<S, 0, 2>(sum, x, r, w, 2 * w, last);
     if constexpr (groups > 3) steps<S, 0, 3>(sum, x, r, 2 * w, 3 * w, last);
@@ -132,48 +136,37 @@ template <class S, int groups, int columns, class T>
 }
 
 // n outputs, n <= columns * width: the smallest block that holds them.
-template <class S, int columns, class T> inline void few(const T* x, const T* r, int taps, T* y, int n)
+template <class S, int columns, class T> inline void few(const T* x, const T* r, int taps, T* y, int n, bool more)
 {
     constexpr int w = S::width;
     if constexpr (columns == 1 && w > 1) {
-        if (n < w) return few<Side<T, w / 2>, 2>(x, r, taps, y, n);
+        if (n < w) return few<Side<T, w / 2>, 2>(x, r, taps, y, n, more);
     }
     if constexpr (columns > 1) {
-        if (n <= (columns - 1) * w) return few<S, columns - 1>(x, r, taps, y, n);
+        if (n <= (columns - 1) * w) return few<S, columns - 1>(x, r, taps, y, n, more);
     }
-    block<S, 1, columns>(x, r, taps, y, n - w);
+    block<S, 1, columns>(x, r, taps, y, n - w, more);
 }
 
-// The shape of a block, measured: sums, taps and samples of a step fill the registers. Rows that lie 64 bytes apart are
-// avoided in real signals, since all their loads would cross cache lines in the same steps.
-constexpr bool manyRegisters = sizeof(void*) == 8;
-template <class T> constexpr int groups = 0;
-template <> constexpr int groups<f64> = manyRegisters ? (vectorBytes == 64 ? 4 : vectorBytes == 32 ? 3 : 2) : 1;
-template <> constexpr int groups<c64f> = manyRegisters ? 2 : 1;
-template <class T> constexpr int columns = 0;
-template <> constexpr int columns<f64> = manyRegisters ? (vectorBytes == 64 ? 4 : vectorBytes == 32 ? 3 : 5) : 6;
-template <> constexpr int columns<c64f> = 5;
+template <class T> using Widest = Side<T, widest<T>>;
 
-template <class T>
-constexpr int widest = vectorBytes > static_cast<int>(sizeof(T)) ? vectorBytes / static_cast<int>(sizeof(T)) : 1;
-template <class T> constexpr int outputsOfBlock = groups<T>* columns<T>* widest<T>;
-
-// y[i] = sum of r[k] * x[i + k], i = 0..n-1. x holds n + taps - 1 samples and does not overlap y.
-template <class T> void direct(const T* x, const T* r, int taps, T* y, int n)
+// y[i] = sum of r[k] * x[i + k], i = 0..n-1, or that on top of y[i]. x holds n + taps - 1 samples and does not overlap
+// y.
+template <class T> void blocks(const T* x, const T* r, int taps, T* y, int n, bool more)
 {
     constexpr int w = widest<T>, rows = groups<T>, all = groups<T> * columns<T>;
-    using S = Side<T, w>;
+    using S = Widest<T>;
     int i = 0;
     if (taps < (rows - 1) * w) {
-        for (; n - i >= all * w; i += all * w) block<S, 1, all>(x + i, r, taps, y + i, (all - 1) * w);
+        for (; n - i >= all * w; i += all * w) block<S, 1, all>(x + i, r, taps, y + i, (all - 1) * w, more);
     } else {
         for (; n - i >= all * w; i += all * w) {
-            block<S, rows, columns<T>>(x + i, r, taps, y + i, (columns<T> - 1) * rows * w);
+            block<S, rows, columns<T>>(x + i, r, taps, y + i, (columns<T> - 1) * rows * w, more);
         }
     }
     if (i < n) {
-        if (i > 0) i = n - (n - i + w - 1) / w * w; // whole vectors, the first of them again
-        few<S, all>(x + i, r, taps, y + i, n - i);
+        if (!more && i > 0) i = n - (n - i + w - 1) / w * w; // whole vectors, the first of them again
+        few<S, all>(x + i, r, taps, y + i, n - i, more);
     }
 }
 
