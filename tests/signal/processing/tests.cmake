@@ -4,6 +4,7 @@ sig5d_test(fir signal/processing/fir/single_test.cpp signal/processing/fir/multi
 sig5d_test(companding signal/processing/companding/companding_test.cpp)
 sig5d_test(random signal/processing/generators/random_test.cpp)
 sig5d_test(iir signal/processing/iir/filter_test.cpp signal/processing/iir/state_test.cpp)
+sig5d_test(sorting signal/processing/sorting/sorting_test.cpp)
 sig5d_test(statistics signal/processing/statistics/sums_test.cpp signal/processing/statistics/deviation_test.cpp
            signal/processing/statistics/extremes_test.cpp signal/processing/statistics/integers_test.cpp)
 
