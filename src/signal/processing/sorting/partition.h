@@ -111,9 +111,10 @@ template <class A> struct Divider {
         }
         const size_t left = aside + (end - begin);
         for (size_t i = 0; i < block; i += L) store(rest.from(aside + i), load(a.from(begin + i)));
+        // Single ones first: the room is then one of whole vectors, of which the last one fills all that is left.
         size_t i = 0;
-        for (; left - i >= L; i += L) put(load(rest.from(i)));
-        for (; i < left; ++i) put(rest.from(i));
+        for (; i < left % L; ++i) put(rest.from(i));
+        for (; i < left; i += L) put(load(rest.from(i)));
         return n - above;
     }
 };
