@@ -12,14 +12,14 @@ template <class T> [[gnu::noinline]] void sort_by_counting(T* a, size_t n, u32 l
     for (u32 c = 0; c < 256; ++c) counts[0][c] = counts[1][c] = 0;
     const auto counter = [=](T x) { return ((static_cast<u32>(x) ^ flip) - low) & 255; };
     size_t i = 0;
-    for (; n - i >= 2; i += 2) {
-        ++counts[0][counter(a[i])];
-        ++counts[1][counter(a[i + 1])];
-    }
-    if (i < n) ++counts[0][counter(a[i])];
+    for (; n - i >= 8; i += 8)
+#pragma GCC unroll 8
+        for (size_t k = 0; k < 8; ++k) ++counts[k % 2][counter(a[i + k])];
+    for (; i < n; ++i) ++counts[0][counter(a[i])];
     for (u32 c = 0; c < 256; ++c) {
-        const T x = static_cast<T>((low + c) ^ flip);
-        for (u32 k = counts[0][c] + counts[1][c]; k > 0; --k) *a++ = x;
+        const u32 count = counts[0][c] + counts[1][c];
+        if (count > 0) fill(a, count, static_cast<T>((low + c) ^ flip));
+        a += count;
     }
 }
 

@@ -1,10 +1,14 @@
 // What is sorted: arrays of keys, alone or with the places where they were. All keys are signed integers: doubles are
 // turned into such as stand in the same order, and back; for descending order all keys are turned around.
 #pragma once
-#include "kernel/map.h"
+#include "kernel/simd/lane_orders.h"
+#include "kernel/simd/parted.h"
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
+
+// Elements in a vector of integers; 1 where the body sorts them one by one.
+template <class T> constexpr int integerLanes = lanesParted<8> == 1 ? 1 : integerBytes / static_cast<int>(sizeof(T));
 
 template <class K> constexpr K highestKey = static_cast<K>(std::make_unsigned_t<K>(-1) >> 1);
 template <class K> constexpr K lowestKey = static_cast<K>(-highestKey<K> - 1);
@@ -70,12 +74,48 @@ struct DoublesOfKeys {
     }
 };
 struct Flipped {
-    template <class V> V operator()(V key) const { return ~key; }
+    i64 flip;
+    template <class V> V operator()(V key) const { return key ^ static_cast<Lane<V>>(flip); }
 };
 
-template <class A> inline void flip_keys(A a, size_t n)
+// a[i] = op(a[i]). Here and below loops are simpler than those of kernel/map.h: what they take is little beside the
+// sorting, and their size would not be.
+template <class T, class Op> inline void change(T* a, size_t n, Op op)
 {
-    map(n, a.key, Flipped{}, static_cast<const typename A::Key*>(a.key));
+    constexpr int L = integerLanes<T>;
+    size_t i = 0;
+    if constexpr (L > 1)
+        for (; n - i >= L; i += L) storen<L>(a + i, op(loadn<L>(a + i)));
+    for (; i < n; ++i) a[i] = op(a[i]);
+}
+// Whether test<lanes>(i) holds for no element.
+template <class T, class Test> inline bool nowhere(size_t n, Test test)
+{
+    constexpr int L = integerLanes<T>;
+    size_t i = 0;
+    if constexpr (L > 1)
+        for (; n - i >= 2 * L; i += 2 * L)
+            if (any(test.template operator()<L>(i) | test.template operator()<L>(i + L))) return false;
+    for (; i < n; ++i)
+        if (test.template operator()<1>(i)) return false;
+    return true;
+}
+// Whether no key, as op makes them of elements, is below the one before it, or above it.
+template <class K, class Op> inline bool rising(const K* k, size_t n, Op op)
+{
+    return nowhere<K>(n - 1, [=]<int L>(size_t i) { return op(loadn<L>(k + i)) > op(loadn<L>(k + i + 1)); });
+}
+template <class K, class Op> inline bool falling(const K* k, size_t n, Op op)
+{
+    return nowhere<K>(n - 1, [=]<int L>(size_t i) { return op(loadn<L>(k + i)) < op(loadn<L>(k + i + 1)); });
+}
+template <class K> inline bool all_equal(const K* k, size_t n, K key)
+{
+    return nowhere<K>(n, [=]<int L>(size_t i) { return loadn<L>(k + i) != splatn<L>(key); });
+}
+template <class T> [[gnu::noinline]] void fill(T* p, size_t n, T x)
+{
+    change(p, n, [x](auto v) { return all_lanes<decltype(v)>(x); });
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 // applications, 1968), as vqsort does (Blacher, Giesen and Kuehne, Vectorized and performance-portable quicksort,
 // 2021).
 #pragma once
-#include "kernel/simd/lane_orders.h"
 #include "signal/processing/sorting/partition.h"
 
 namespace sig5d::SIG5D_VARIANT {

@@ -1,6 +1,5 @@
 // The division of an array: keys up to the pivot first, then those above it.
 #pragma once
-#include "kernel/simd/parted.h"
 #include "signal/processing/sorting/keys.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -30,102 +29,107 @@ template <class A> inline size_t partition_singly(A a, size_t n, typename A::Key
 template <class A> struct Divider {
     using K = typename A::Key;
     static constexpr int L = lanesParted<sizeof(K)>;
-    static constexpr size_t vectors = 4, block = vectors * L, aside = 3 * block;
+    static constexpr size_t vectors = A::paired ? 4 : 8, block = vectors * L, aside = 3 * block;
     using V = Vec<K, L>;
-    using P = Vec<i32, L>;
-
-    A a;
-    size_t n;
-    K pivot;
-    V pivots = splatn<L>(pivot);
-    size_t done = 0, above = 0; // stored in all, and of them the upper ones
 
     struct Room {
         K key[4 * block];
         i32 place[A::paired ? 4 * block : 1];
-        A array() { return of(key, place); }
         static Keys<K> of(K* k, i32*) requires(!A::paired) { return {k}; }
         static Pairs<K> of(K* k, i32* p) requires(A::paired) { return {k, p}; }
     };
     struct Loaded {
         V key;
-        P place;
+        Vec<i32, L> place;
     };
-    static Loaded load(A from)
+
+    V pivots;
+    A low, high;     // where the next vector would go if all before it were of the other side
+    size_t back = 0; // so many elements before that: those above the pivot, with the other sign
+
+    [[gnu::always_inline]] static Loaded load(A from)
     {
         Loaded v{};
         v.key = loadn<L>(from.key);
         if constexpr (A::paired) v.place = loadn<L>(from.place);
         return v;
     }
-    static void store(A to, Loaded v)
+    [[gnu::always_inline]] static void store(A to, Loaded v)
     {
         storen<L>(to.key, v.key);
         if constexpr (A::paired) storen<L>(to.place, v.place);
     }
-    void put(Loaded v)
+    [[gnu::always_inline]] static void copy(A from, A to, size_t n)
+    {
+        for (size_t i = 0; i < n; i += L) store(to.from(i), load(from.from(i)));
+    }
+    [[gnu::always_inline]] void put(Loaded v, size_t number)
     {
         const u32 set = lanes_above(v.key, pivots);
         v.key = parted(v.key, set);
         if constexpr (A::paired) v.place = parted(v.place, set);
-        store(a.from(done - above), v);
-        store(a.from(n - above - L), v);
-        above += bit_count(set);
-        done += L;
+        store(low.from(number * L + back), v);
+        store(high.from(back), v);
+        back -= bit_count(set);
     }
-    void put(A from)
+    [[gnu::always_inline]] void put(A from, K pivot)
     {
         const auto key = from.key[0];
-        const size_t low = done - above, high = n - 1 - above;
-        a.key[low] = a.key[high] = key;
-        if constexpr (A::paired) a.place[low] = a.place[high] = from.place[0];
-        above += key > pivot;
-        ++done;
+        const A first = low.from(back), last = high.from(L - 1 + back);
+        first.key[0] = last.key[0] = key;
+        if constexpr (A::paired) first.place[0] = last.place[0] = from.place[0];
+        back -= key > pivot;
+        low = low.from(1);
     }
 
-    // At least four blocks.
-    size_t divide()
+    // At least three blocks.
+    [[gnu::always_inline]] static size_t divide(A a, size_t n, K pivot)
     {
         Room room;
-        const A rest = room.array();
-        size_t begin = 2 * block, end = n - block;
-        for (size_t i = 0; i < begin; i += L) store(rest.from(i), load(a.from(i)));
-        for (size_t i = 0; i < block; i += L) store(rest.from(begin + i), load(a.from(end + i)));
-        if (end - begin >= block) {
-            size_t now = end -= block;
+        const A rest = Room::of(room.key, room.place);
+        Divider d{splatn<L>(pivot), a, a.from(n - L)};
+        copy(a, rest, 2 * block);
+        copy(a.from(n - block), rest.from(2 * block), block);
+        // What has not been loaded: "left" elements from "next" on, of which "room" lie before it.
+        A next = a.from(2 * block);
+        size_t left = n - aside;
+        if (left >= block) {
+            A now = next.from(left -= block);
             for (;;) {
                 Loaded v[vectors];
-#pragma GCC unroll 4
-                for (size_t i = 0; i < vectors; ++i) v[i] = load(a.from(now + i * L));
-                const bool more = end - begin >= block;
-                const size_t taken = more ? block : 0;
-                const size_t first =
-                    0 - static_cast<size_t>(begin - (done - above) <= n - above - end); // all bits or none
-                end -= taken & ~first;
-                now = (begin & first) | (end & ~first);
-                begin += taken & first;
-#pragma GCC unroll 4
-                for (size_t i = 0; i < vectors; ++i) put(v[i]);
+#pragma GCC unroll 8
+                for (size_t i = 0; i < vectors; ++i) v[i] = load(now.from(i * L));
+                const bool more = left >= block;
+                if (more) {
+                    const size_t free = static_cast<size_t>(next.key - d.low.key) - d.back;
+                    const size_t first = 0 - static_cast<size_t>(free <= 2 * block); // all bits or none
+                    left -= block;
+                    now = next.from(left & ~first);
+                    next = next.from(block & first);
+                }
+#pragma GCC unroll 8
+                for (size_t i = 0; i < vectors; ++i) d.put(v[i], i);
+                d.low = d.low.from(block);
                 if (!more) break;
             }
         }
-        const size_t left = aside + (end - begin);
-        for (size_t i = 0; i < block; i += L) store(rest.from(aside + i), load(a.from(begin + i)));
+        copy(next, rest.from(aside), block);
+        left += aside;
         // Single ones first: the room is then one of whole vectors, of which the last one fills all that is left.
         size_t i = 0;
-        for (; i < left % L; ++i) put(rest.from(i));
-        for (; i < left; i += L) put(load(rest.from(i)));
-        return n - above;
+        for (; i < left % L; ++i) d.put(rest.from(i), pivot);
+        for (; i < left; i += L, d.low = d.low.from(L)) d.put(load(rest.from(i)), 0);
+        return n + d.back;
     }
 };
 
 template <class A> [[gnu::noinline]] size_t partition(A a, size_t n, typename A::Key pivot)
 {
     constexpr int L = lanesParted<sizeof(typename A::Key)>;
-    if constexpr (L == 1 || (A::paired && sizeof(typename A::Key) == 2)) {
+    if constexpr (L == 1) {
         return partition_singly(a, n, pivot);
     } else {
-        return Divider<A>{a, n, pivot}.divide();
+        return Divider<A>::divide(a, n, pivot);
     }
 }
 

@@ -1,5 +1,6 @@
 // Quicksort of keys, alone or with their places: any input in time len * log(len), on a stack of a fixed size.
 #pragma once
+#include "signal/processing/sorting/counting.h"
 #include "signal/processing/sorting/partition.h"
 #include "signal/processing/sorting/small.h"
 
@@ -38,13 +39,6 @@ template <class A> inline typename A::Key sampled(A a, size_t n)
     return sample[count / 2 - 1];
 }
 
-template <class K> inline bool all_equal(const K* k, size_t n)
-{
-    for (size_t i = 1; i < n; ++i)
-        if (k[i] != k[0]) return false;
-    return true;
-}
-
 // The key in the middle of the range; at most as many times as a key has bits can a part be divided there.
 template <class K> inline K middle(K low, K high)
 {
@@ -60,10 +54,21 @@ template <class A> inline void sort_equal([[maybe_unused]] A a, [[maybe_unused]]
     if constexpr (A::paired) quicksort(Keys<i32>{a.place}, n);
 }
 
+// Many keys within a range of 256, as 16-bit keys soon are, are counted.
+template <class A> inline bool count_keys(Part<A>& part)
+{
+    if constexpr (sizeof(typename A::Key) == 2 && !A::paired) {
+        if (part.high - part.low > 255 || part.n < 2048) return false;
+        sort_by_counting(part.a.key, part.n, static_cast<u32>(part.low), 0);
+        return true;
+    }
+    return false;
+}
+
 template <class A> [[gnu::noinline]] void quicksort(A a, size_t n)
 {
     using K = typename A::Key;
-    Part<A> waiting[32]; // the larger part waits, so that there are never more than the length has bits
+    Part<A> waiting[28]; // the larger part waits, so that they are fewer than the bits of the length, and none is short
     int count = 0;
     Part<A> part = {a, n, lowestKey<K>, highestKey<K>, 8};
     for (;;) {
@@ -72,11 +77,12 @@ template <class A> [[gnu::noinline]] void quicksort(A a, size_t n)
             sort_equal(part.a, part.n);
         } else if (part.n <= mostSmall<A>) {
             sort_small(part.a, part.n);
+        } else if (count_keys(part)) {
         } else {
             sorted = false;
             K pivot = part.trust > 0 ? sampled(part.a, part.n) : middle(part.low, part.high);
             if (pivot == part.high) {
-                if (all_equal(part.a.key, part.n)) {
+                if (all_equal(part.a.key, part.n, pivot)) {
                     part.low = part.high;
                     continue;
                 }
