@@ -49,7 +49,7 @@ inline Vec<i64, 2> parted(Vec<i64, 2> x, u32 set)
 {
     return as<Vec<i64, 2>>(bytes_at(bits(x), row_of_parting(partingOf2.of[set])));
 }
-inline Vec<i32, 2> parted(Vec<i32, 2> x, u32 set) { return set == 1 ? Vec<i32, 2>{x[1], x[0]} : x; }
+constexpr Parting<2, 4> partingOfLow2;
 
 #else
 
@@ -82,6 +82,15 @@ inline Vec<i64, 8> parted(Vec<i64, 8> x, u32 set)
 }
 #endif
 #endif
+
+// The same of the low n lanes.
+template <int n, class V> inline V parted_low(V x, u32 set)
+{
+#if SIG5D_LEVEL < 5
+    if constexpr (n == 2) return as<V>(bytes_at(bits(x), row_of_eight(partingOfLow2.of[set])));
+#endif
+    return parted(x, set);
+}
 
 // The lanes of x that are above those of y.
 template <class V> inline u32 lanes_above(V x, V y)

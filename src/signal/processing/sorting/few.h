@@ -25,12 +25,11 @@ template <class K> [[gnu::noinline]] size_t count_equal(const K* a, size_t n, K 
 template <class K> [[gnu::noinline]] void tell_places(const K* a, size_t n, K key, i32* d, size_t room)
 {
     constexpr int L = lanesParted<sizeof(K)>;
-    auto places = first_numbers<i32, L>();
+    auto places = first_numbers < i32, L == 2 ? 4 : L > ();
     size_t i = 0, count = 0;
     for (; n - i >= L && room - count >= L; i += L, places += L) {
-        const auto is = loadn<L>(a + i) != splatn<L>(key);
-        const u32 others = static_cast<u32>(lanes_set(is));
-        storen<L>(d + count, parted(places, others));
+        const u32 others = static_cast<u32>(lanes_set(loadn<L>(a + i) != splatn<L>(key)));
+        store_part<4 * L>(d + count, parted_low<L>(places, others));
         count += L - bit_count(others);
     }
     for (; i < n && count < room; ++i) {
@@ -40,9 +39,8 @@ template <class K> [[gnu::noinline]] void tell_places(const K* a, size_t n, K ke
 }
 
 // Sorts the array if a sample, and then all, have no more than 16 different keys. Places are 0, 1, ... n - 1.
-template <class A> inline bool sort_few(A a, size_t n)
+template <class K> [[gnu::noinline]] bool sort_few(Array<K> a, size_t n)
 {
-    using K = typename A::Key;
     constexpr size_t samples = keysOfSample<K>, most = 16, block = 4096 / sizeof(K);
     if (n < 1000) return false;
     K key[samples];
@@ -62,7 +60,7 @@ template <class A> inline bool sort_few(A a, size_t n)
         }
         if (found != m) return false;
     }
-    if constexpr (A::paired)
+    if (a.place)
         for (size_t k = 0, i = 0; k < different; i += count[k++]) tell_places(a.key, n, key[k], a.place + i, n - i);
     for (size_t k = 0, i = 0; k < different; i += count[k++]) fill(a.key + i, count[k], key[k]);
     return true;
@@ -70,7 +68,7 @@ template <class A> inline bool sort_few(A a, size_t n)
 
 #else
 
-template <class A> inline bool sort_few(A, size_t) { return false; }
+template <class K> inline bool sort_few(Array<K>, size_t) { return false; }
 
 #endif
 

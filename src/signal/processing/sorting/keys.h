@@ -26,17 +26,24 @@ template <class T> struct Pairs {
     i32* place;
     Pairs from(size_t i) const { return {key + i, place + i}; }
 };
+// Either, as call(a) gets them: without places where there are none. What takes little time is compiled once for both.
+template <class T> struct Array {
+    T* key;
+    i32* place;
+    Array from(size_t i) const { return {key + i, place ? place + i : nullptr}; }
+    template <class Call> [[gnu::always_inline]] auto hand_to(Call call) const
+    {
+        if constexpr (sizeof(T) > 2)
+            if (place) return call(Pairs<T>{key, place});
+        return call(Keys<T>{key});
+    }
+};
 
 template <class T> inline void exchange(T& x, T& y)
 {
     const T before = x;
     x = y;
     y = before;
-}
-template <class A> inline void exchange(A a, size_t i, size_t j)
-{
-    exchange(a.key[i], a.key[j]);
-    if constexpr (A::paired) exchange(a.place[i], a.place[j]);
 }
 
 template <class V, class W> inline V as_bits(W x) { return __builtin_bit_cast(V, x); }
@@ -100,16 +107,12 @@ template <class T, class Test> inline bool nowhere(size_t n, Test test)
         if (test.template operator()<1>(i)) return false;
     return true;
 }
-// Whether no key, as op makes them of elements, is below the one before it, or above it.
-template <class K, class Op> inline bool rising(const K* k, size_t n, Op op)
+// Whether no key, as op makes them of elements, is below the one before it.
+template <class K, class Op> [[gnu::noinline]] bool rising(const K* k, size_t n, Op op)
 {
     return nowhere<K>(n - 1, [=]<int L>(size_t i) { return op(loadn<L>(k + i)) > op(loadn<L>(k + i + 1)); });
 }
-template <class K, class Op> inline bool falling(const K* k, size_t n, Op op)
-{
-    return nowhere<K>(n - 1, [=]<int L>(size_t i) { return op(loadn<L>(k + i)) < op(loadn<L>(k + i + 1)); });
-}
-template <class K> inline bool all_equal(const K* k, size_t n, K key)
+template <class K> [[gnu::noinline]] bool all_equal(const K* k, size_t n, K key)
 {
     return nowhere<K>(n, [=]<int L>(size_t i) { return loadn<L>(k + i) != splatn<L>(key); });
 }

@@ -1,5 +1,6 @@
 // The division of an array: keys up to the pivot first, then those above it.
 #pragma once
+#include "kernel/partial.h"
 #include "signal/processing/sorting/keys.h"
 
 namespace sig5d::SIG5D_VARIANT {
@@ -26,10 +27,12 @@ template <class A> inline size_t partition_singly(A a, size_t n, typename A::Key
 // waits to be stored, so that loads never wait for counts: three blocks set aside are enough for it. With one in hand
 // four are free: at least one at either end, and at most two at that which the next is taken from. A stored block takes
 // one at most of an end, and the next one gives one back where less than two were.
-template <class A> struct Divider {
+// least: elements of the shortest array.
+template <class A, size_t least> struct Divider {
     using K = typename A::Key;
     static constexpr int L = lanesParted<sizeof(K)>;
-    static constexpr size_t vectors = A::paired ? 4 : 8, block = vectors * L, aside = 3 * block;
+    static constexpr size_t most = A::paired ? 4 : 8, vectors = least < 3 * most * L ? least / (3 * L) : most;
+    static constexpr size_t block = vectors * L, aside = 3 * block;
     using V = Vec<K, L>;
 
     struct Room {
@@ -40,7 +43,7 @@ template <class A> struct Divider {
     };
     struct Loaded {
         V key;
-        Vec<i32, L> place;
+        Vec<i32, L == 2 ? 4 : L> place;
     };
 
     V pivots;
@@ -51,13 +54,13 @@ template <class A> struct Divider {
     {
         Loaded v{};
         v.key = loadn<L>(from.key);
-        if constexpr (A::paired) v.place = loadn<L>(from.place);
+        if constexpr (A::paired) v.place = load_lanes<L>(from.place);
         return v;
     }
     [[gnu::always_inline]] static void store(A to, Loaded v)
     {
         storen<L>(to.key, v.key);
-        if constexpr (A::paired) storen<L>(to.place, v.place);
+        if constexpr (A::paired) store_part<4 * L>(to.place, v.place);
     }
     [[gnu::always_inline]] static void copy(A from, A to, size_t n)
     {
@@ -67,7 +70,7 @@ template <class A> struct Divider {
     {
         const u32 set = lanes_above(v.key, pivots);
         v.key = parted(v.key, set);
-        if constexpr (A::paired) v.place = parted(v.place, set);
+        if constexpr (A::paired) v.place = parted_low<L>(v.place, set);
         store(low.from(number * L + back), v);
         store(high.from(back), v);
         back -= bit_count(set);
@@ -82,7 +85,6 @@ template <class A> struct Divider {
         low = low.from(1);
     }
 
-    // At least three blocks.
     [[gnu::always_inline]] static size_t divide(A a, size_t n, K pivot)
     {
         Room room;
@@ -123,13 +125,13 @@ template <class A> struct Divider {
     }
 };
 
-template <class A> [[gnu::noinline]] size_t partition(A a, size_t n, typename A::Key pivot)
+template <size_t least, class A> [[gnu::noinline]] size_t partition(A a, size_t n, typename A::Key pivot)
 {
     constexpr int L = lanesParted<sizeof(typename A::Key)>;
     if constexpr (L == 1) {
         return partition_singly(a, n, pivot);
     } else {
-        return Divider<A>::divide(a, n, pivot);
+        return Divider<A, least>::divide(a, n, pivot);
     }
 }
 

@@ -10,23 +10,25 @@ namespace {
 
 constexpr size_t fewBytes = 128; // so few are sorted faster than counted
 
-template <class A> inline void reverse(A a, size_t n)
+template <class T> [[gnu::noinline]] void reverse(T* p, size_t n)
 {
-    for (size_t i = 0, j = n - 1; i < j; ++i, --j) exchange(a, i, j);
+    for (size_t i = 0, j = n - 1; i < j; ++i, --j) exchange(p[i], p[j]);
 }
 
-// Arrays that are sorted, or the other way round, are found so in one pass. Equal keys keep their order. "key" makes
-// keys of elements, which are not changed before that.
-template <class A, class Op> [[gnu::noinline]] bool sorted_already(A a, size_t n, Op key)
+// Arrays that are sorted, or the other way round, are found so in one pass. Equal keys keep their order. Key makes keys
+// of elements, which are not changed before that.
+template <class Key, class K> [[gnu::noinline]] bool sorted_already(Array<K> a, size_t n, i64 flip)
 {
-    if (rising(a.key, n, key)) return true;
-    if (!falling(a.key, n, key)) return false;
-    reverse(a, n);
-    if constexpr (A::paired)
+    if (rising(a.key, n, Key{flip})) return true;
+    if (!rising(a.key, n, Key{~flip})) return false;
+    reverse(a.key, n);
+    if (a.place) {
+        reverse(a.place, n);
         for (size_t i = 0, end; i < n; i = end) {
             for (end = i + 1; end < n && a.key[end] == a.key[i];) ++end;
-            reverse(Keys<i32>{a.place + i}, end - i);
+            reverse(a.place + i, end - i);
         }
+    }
     return true;
 }
 
@@ -45,70 +47,60 @@ template <class A, class Op> [[gnu::noinline]] bool sorted_already(A a, size_t n
     if (flip) change(p, bytes, Flipped{flip});
 }
 
-template <class A> inline void sort_keys(A a, size_t n)
+template <class K> inline void sort_keys(Array<K> a, size_t n)
 {
-    if constexpr (sizeof(typename A::Key) > 2) // which are counted soon
+    if constexpr (sizeof(K) > 2) // shorter ones are counted soon
         if (sort_few(a, n)) return;
     quicksort(a, n);
 }
-template <class A> inline void sort_flipped(i64 flip, A a, size_t n)
+
+// In ascending order, or in descending order where all bits of flip are set. Without places where there are none.
+[[gnu::noinline]] void sort_in_order(i64 flip, f64* p, i32* place, size_t n)
 {
-    if (sorted_already(a, n, Flipped{flip})) return;
-    u8* const bytes = reinterpret_cast<u8*>(a.key);
-    flip_all(bytes, n * sizeof(typename A::Key), flip);
-    sort_keys(a, n);
-    flip_all(bytes, n * sizeof(typename A::Key), flip);
-}
-template <class A> inline void sort_doubles(i64 flip, A a, size_t n)
-{
-    if (sorted_already(a, n, KeysOfDoubles{flip})) return;
+    const Array<i64> a = {reinterpret_cast<i64*>(p), place};
+    if (place) number(place, n);
+    if (sorted_already<KeysOfDoubles>(a, n, flip)) return;
     turn_into_keys(a.key, n, flip);
     sort_keys(a, n);
     turn_into_doubles(a.key, n, flip);
 }
-
-// In ascending order, or in descending order where all bits of flip are set.
-template <class T> [[gnu::noinline]] void sort_in_order(i64 flip, T* p, size_t n)
+template <class T> [[gnu::noinline]] void sort_integers(i64 flip, Array<T> a, size_t n)
 {
-    if constexpr (std::is_floating_point_v<T>)
-        sort_doubles(flip, Keys<i64>{reinterpret_cast<i64*>(p)}, n);
-    else if constexpr (sizeof(T) == 1)
-        sort_by_counting(p, n, 0, static_cast<u8>(flip));
-    else
-        sort_flipped(flip, Keys<T>{p}, n);
+    if (a.place) number(a.place, n);
+    if (sorted_already<Flipped>(a, n, flip)) return;
+    flip_all(reinterpret_cast<u8*>(a.key), n * sizeof(T), flip);
+    sort_keys(a, n);
+    flip_all(reinterpret_cast<u8*>(a.key), n * sizeof(T), flip);
 }
-template <class T> [[gnu::noinline]] void sort_in_order(i64 flip, T* p, size_t n, i32* place)
+inline void sort_in_order(i64 flip, i32* p, i32* place, size_t n) { sort_integers(flip, Array<i32>{p, place}, n); }
+inline void sort_in_order(i64 flip, i16* p, i32* place, size_t n)
 {
-    if constexpr (sizeof(T) == 1) {
-        if (n > fewBytes) return sort_places_by_counting(p, place, n, static_cast<u8>(flip));
-        i16 wide[fewBytes];
-        for (size_t i = 0; i < n; ++i) wide[i] = p[i];
-        sort_as_words(wide, place, n, static_cast<u16>(flip));
-        for (size_t i = 0; i < n; ++i) p[i] = static_cast<u8>(wide[i]);
-    } else if constexpr (sizeof(T) == 2) {
-        if (n <= mostInWords) return sort_as_words(p, place, n, static_cast<u16>(flip));
-        number(place, n);
-        flip_all(reinterpret_cast<u8*>(p), n * sizeof(T), flip);
-        sort_from_middle({p, place}, n, lowestKey<i16>, highestKey<i16>);
-        flip_all(reinterpret_cast<u8*>(p), n * sizeof(T), flip);
-    } else {
-        number(place, n);
-        if constexpr (std::is_floating_point_v<T>)
-            sort_doubles(flip, Pairs<i64>{reinterpret_cast<i64*>(p), place}, n);
-        else
-            sort_flipped(flip, Pairs<T>{p, place}, n);
-    }
+    if (!place) return sort_integers(flip, Array<i16>{p, nullptr}, n);
+    if (n <= mostInWords) return sort_as_words(p, place, n, static_cast<u16>(flip));
+    number(place, n);
+    flip_all(reinterpret_cast<u8*>(p), n * sizeof *p, flip);
+    sort_from_middle({p, place}, n, lowestKey<i16>, highestKey<i16>);
+    flip_all(reinterpret_cast<u8*>(p), n * sizeof *p, flip);
+}
+[[gnu::noinline]] void sort_in_order(i64 flip, u8* p, i32* place, size_t n)
+{
+    if (!place) return sort_by_counting(p, n, 0, static_cast<u8>(flip));
+    if (n > fewBytes) return sort_places_by_counting(p, place, n, static_cast<u8>(flip));
+    i16 wide[fewBytes];
+    for (size_t i = 0; i < n; ++i) wide[i] = p[i];
+    sort_as_words(wide, place, n, static_cast<u16>(flip));
+    for (size_t i = 0; i < n; ++i) p[i] = static_cast<u8>(wide[i]);
 }
 
-template <class T> void sort_ascending(T* p, int n) { sort_in_order(0, p, static_cast<size_t>(n)); }
-template <class T> void sort_descending(T* p, int n) { sort_in_order(-1, p, static_cast<size_t>(n)); }
+template <class T> void sort_ascending(T* p, int n) { sort_in_order(0, p, nullptr, static_cast<size_t>(n)); }
+template <class T> void sort_descending(T* p, int n) { sort_in_order(-1, p, nullptr, static_cast<size_t>(n)); }
 template <class T> void sort_index_ascending(T* p, i32* place, int n)
 {
-    sort_in_order(0, p, static_cast<size_t>(n), place);
+    sort_in_order(0, p, place, static_cast<size_t>(n));
 }
 template <class T> void sort_index_descending(T* p, i32* place, int n)
 {
-    sort_in_order(-1, p, static_cast<size_t>(n), place);
+    sort_in_order(-1, p, place, static_cast<size_t>(n));
 }
 
 } // namespace
