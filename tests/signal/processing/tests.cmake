@@ -9,6 +9,17 @@ sig5d_test(goertzel signal/processing/goertzel/goertzel_test.cpp)
 sig5d_test(median signal/processing/median/median_test.cpp frame/median_handles_test.cpp support/heap.cpp)
 sig5d_test(sampling signal/processing/sampling/sampling_test.cpp)
 sig5d_test(iir signal/processing/iir/filter_test.cpp signal/processing/iir/state_test.cpp)
+sig5d_test(sorting signal/processing/sorting/sorting_test.cpp)
+# The sorting of each body, to play against it.
+sig5d_test(misleading_keys signal/processing/sorting/misleading_test.cpp)
+foreach(body ${SIG5D_BODIES_signal_processing_sorting_sort.kernels.cpp})
+    list(FIND SIG5D_VARIANTS ${body} level)
+    add_library(sig5d_misleading_${body} OBJECT signal/processing/sorting/misleading.cpp)
+    target_include_directories(sig5d_misleading_${body} PRIVATE . ${CMAKE_SOURCE_DIR}/src ${SIG5D_GENERATED})
+    target_compile_definitions(sig5d_misleading_${body} PRIVATE SIG5D_VARIANT=${body} SIG5D_LEVEL=${level})
+    target_compile_options(sig5d_misleading_${body} PRIVATE -O2 ${SIG5D_FLAGS_${body}})
+    target_link_libraries(misleading_keys_test PRIVATE sig5d_misleading_${body})
+endforeach()
 sig5d_test(statistics signal/processing/statistics/sums_test.cpp signal/processing/statistics/deviation_test.cpp
            signal/processing/statistics/extremes_test.cpp signal/processing/statistics/integers_test.cpp)
 
