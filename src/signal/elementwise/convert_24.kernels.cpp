@@ -98,7 +98,7 @@ template <class D, class S, class Op>
     }
     store_triples(d + 3 * (n - W), op.template to<W>(a + (n - W)));
     // So many elements reach an aligned address: 3 * 11 is 1 modulo the vector's size.
-    const size_t skip = -reinterpret_cast<uintptr_t>(d) * 11 % vectorBytes;
+    const size_t skip = -reinterpret_cast<uintptr_t>(d) * 11 % (W * sizeof(i32));
     if (n >= skip + 4 * W) {
         for (size_t i = 0; i < skip; i += W) store_triples(d + 3 * i, op.template to<W>(a + i));
         const bool streaming = streamingPays(3 * n);
