@@ -1482,15 +1482,6 @@ IppStatus SIG5D_STDCALL ippSetDenormAreZeros(int value);
 IppStatus SIG5D_STDCALL ippiFilterGetBufSize_64f_C1R(IppiSize kernelSize, int roiWidth, int* pSize);
 IppStatus SIG5D_CDECL ippiFilterGetBufSize_64f_C1R_Idx(IppiSize kernelSize, int roiWidth, int* pSize);
 
-/* pDst(x, y) = sum over i, j of pKernel(i, j) * pSrc(x + anchor.x - i, y + anchor.y - j). Two-dimensional
-   convolution of an image with a kernel. (x, y) is column x of row y, kernel rows lie one behind the other. The
-   pixels around the region that the kernel reaches are read from memory. */
-IppStatus SIG5D_STDCALL ippiFilter_64f_C1R(const Ipp64f* pSrc, int srcStep, Ipp64f* pDst, int dstStep, IppiSize
-        dstRoiSize, const Ipp64f* pKernel, IppiSize kernelSize, IppiPoint anchor, Ipp8u* pBuffer);
-IppStatus SIG5D_CDECL ippiFilter_64f_C1R_Idx(const Ipp64f* pSrc, int srcIdx, int srcStep, Ipp64f* pDst, int dstIdx,
-        int dstStep, IppiSize dstRoiSize, const Ipp64f* pKernel, int kernelIdx, IppiSize kernelSize, IppiPoint anchor,
-        Ipp8u* pBuffer, int bufferIdx);
-
 /* The bytes of a specification for a kernel of that size, and of a work buffer for regions up to that width and
    height. Both types are 13 (32f). */
 IppStatus SIG5D_STDCALL ippiFilterBorderGetSize(IppiSize kernelSize, IppiSize dstRoiSize, int dataType, int
@@ -1508,6 +1499,15 @@ IppStatus SIG5D_CDECL ippiFilterBorderInit_32f_Idx(const Ipp32f* pKernel, int ke
 /* How a specification filters from now on: hint 0 (as after Init) and 1 sum in single precision, 2 sums in double
    precision and rounds once. The offset is one of integer images: 0. */
 IppStatus SIG5D_STDCALL ippiFilterBorderSetMode(int hint, int offset, IppiFilterBorderSpec* pSpec);
+
+/* pDst(x, y) = sum over i, j of pKernel(i, j) * pSrc(x + anchor.x - i, y + anchor.y - j). Two-dimensional
+   convolution of an image with a kernel. (x, y) is column x of row y, kernel rows lie one behind the other. The
+   pixels around the region that the kernel reaches are read from memory. */
+IppStatus SIG5D_STDCALL ippiFilter_64f_C1R(const Ipp64f* pSrc, int srcStep, Ipp64f* pDst, int dstStep, IppiSize
+        dstRoiSize, const Ipp64f* pKernel, IppiSize kernelSize, IppiPoint anchor, Ipp8u* pBuffer);
+IppStatus SIG5D_CDECL ippiFilter_64f_C1R_Idx(const Ipp64f* pSrc, int srcIdx, int srcStep, Ipp64f* pDst, int dstIdx,
+        int dstStep, IppiSize dstRoiSize, const Ipp64f* pKernel, int kernelIdx, IppiSize kernelSize, IppiPoint anchor,
+        Ipp8u* pBuffer, int bufferIdx);
 
 /* pDst(x, y) = sum over i, j of kernel(i, j) * pSrc(x + (width-1)/2 - i, y + (height-1)/2 - j). The convolution of
    ippiFilter_64f_C1R with the kernel of a specification, width by height, its anchor in the middle, and with a
