@@ -108,16 +108,20 @@ template <int w, int groups, int columns, class T>
         block<w, groups, columns>(rows, x < width - wide ? x : width - wide, taps, dst, dstStep);
 }
 
-// The same with a block of one vector for what is left, where that will do.
+// Several rows of results, at least as wide as a block of one vector, which does for what little is left behind whole
+// blocks; blocks of two vectors overlap instead.
+constexpr int narrowest = columnsAtOnce > 2 ? 1 : columnsAtOnce;
 template <class T>
 inline void fill_groups(const T* const* rows, const Taps<T>& taps, T* dst, ptrdiff_t dstStep, int width)
 {
     constexpr int w = lanes<T>, wide = columnsAtOnce * w;
-    const int rest = width % wide;
-    const bool one = width < wide || (rest > 0 && rest <= w);
-    const int whole = width < wide ? 0 : one ? width - rest : width;
-    fill_rows<w, groupsAtOnce, columnsAtOnce>(rows, taps, dst, dstStep, 0, whole);
-    if (one) fill_rows<w, groupsAtOnce, 1>(rows, taps, dst, dstStep, whole, width);
+    const int rest = width % wide, whole = rest <= narrowest * w || width < wide ? width - rest : width;
+    if constexpr (narrowest < columnsAtOnce) {
+        fill_rows<w, groupsAtOnce, columnsAtOnce>(rows, taps, dst, dstStep, 0, whole);
+        fill_rows<w, groupsAtOnce, narrowest>(rows, taps, dst, dstStep, whole, width);
+    } else {
+        fill_rows<w, groupsAtOnce, columnsAtOnce>(rows, taps, dst, dstStep, 0, width);
+    }
 }
 
 // One row of any width.
@@ -137,7 +141,7 @@ template <class T>
                                    int height)
 {
     if constexpr (groupsAtOnce > 1)
-        if (height > 1 && taps.height >= groupsAtOnce - 1 && width >= lanes<T>)
+        if (height > 1 && taps.height >= groupsAtOnce - 1 && width >= narrowest * lanes<T>)
             return fill_groups(rows, taps, dst, dstStep, width);
     for (int y = 0; y < height; ++y) fill_row(rows + y, taps, at<T>(dst, y * dstStep), width);
 }
