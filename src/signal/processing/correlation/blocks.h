@@ -1,6 +1,5 @@
 // Sums for many lags by Fourier transforms: of the circular convolution of a block of samples with the row those values
-// are results that no wrapped product has reached (overlap-save). The work is done by functions that are called; what
-// stands here is "cold", that is, compiled for size.
+// are results that no wrapped product has reached (overlap-save).
 #pragma once
 #include "signal/processing/correlation/layout.h"
 #include "signal/processing/fft/transforms.h"
@@ -48,7 +47,7 @@ template <class T> struct Transforms {
 
 // Samples x[from] to x[from + points - 1], zeros where there are none: where they stand, or else copied to d.
 template <class T>
-[[gnu::cold, gnu::noinline]] const T* samplesOf(const Range& lags, const T* x, ptrdiff_t from, ptrdiff_t points, T* d)
+[[gnu::noinline]] const T* samplesOf(const Range& lags, const T* x, ptrdiff_t from, ptrdiff_t points, T* d)
 {
     if (from >= 0 && lags.samples - from >= points) return x + from;
     const ptrdiff_t before = from < 0 ? -from : 0, left = lags.samples - from;
@@ -61,7 +60,7 @@ template <class T>
 
 // Where all samples are in the block, only zeros are wrapped around, and they begin it: so that results that the first
 // samples have part in need no room for zeros before.
-template <class T> [[gnu::cold]] void sumByBlocks(const Range& lags, const Transforms<T>& t, const T* x, T* y)
+template <class T> void sumByBlocks(const Range& lags, const Transforms<T>& t, const T* x, T* y)
 {
     const ptrdiff_t end = lags.first + lags.count;
     for (ptrdiff_t lag = lags.first; lag < end;) {
@@ -78,8 +77,7 @@ template <class T> [[gnu::cold]] void sumByBlocks(const Range& lags, const Trans
 
 // The row in parts of half a block. Part i meets, for the results of block b, the samples of block b - i: all
 // transforms are made once, and of the products' sum one goes back.
-template <class T>
-[[gnu::cold]] void sumByParts(const Range& lags, const Transforms<T>& t, ptrdiff_t parts, const T* x, T* y)
+template <class T> void sumByParts(const Range& lags, const Transforms<T>& t, ptrdiff_t parts, const T* x, T* y)
 {
     const ptrdiff_t part = t.points / 2;
     auto start = [&](ptrdiff_t block) { return lags.first + lags.row - 1 + (block - 1) * part; };
@@ -116,8 +114,8 @@ template <class T>
 }
 
 template <class T>
-[[gnu::cold]] void sumByTransform(const Range& lags, const CorrelationWork& work, bool convolution, const T* row,
-                                  const T* x, T* y, u8* buffer)
+void sumByTransform(const Range& lags, const CorrelationWork& work, bool convolution, const T* row, const T* x, T* y,
+                    u8* buffer)
 {
     const Transforms<T> t(work, buffer);
     const ptrdiff_t part = work.parts > 1 ? t.points / 2 : lags.row;
@@ -139,8 +137,7 @@ template <class T>
 }
 
 template <class T>
-[[gnu::cold]] void autoCorrelateByTransform(const T* x, ptrdiff_t n, T* y, ptrdiff_t count, const CorrelationWork& work,
-                                            u8* buffer)
+void autoCorrelateByTransform(const T* x, ptrdiff_t n, T* y, ptrdiff_t count, const CorrelationWork& work, u8* buffer)
 {
     const Transforms<T> t(work, buffer);
     copy(x, t.block, n);
