@@ -20,7 +20,6 @@ struct Range {
     }
 };
 
-// Rows only: small code.
 template <class T> [[gnu::cold]] void copyConjugate(const T* a, T* d, ptrdiff_t n)
 {
     for (ptrdiff_t i = 0; i < n; ++i) d[i] = conjugate(a[i]);

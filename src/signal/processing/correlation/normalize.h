@@ -12,11 +12,11 @@ namespace {
 inline void scale(c64f* y, ptrdiff_t n, f64 factor) { scale(&y->re, 2 * n, factor); }
 
 // y[i] / (first + i * step)
-[[gnu::noinline]] inline void divide(f64* y, int n, int first, int step)
+[[gnu::noinline, gnu::noclone]] inline void divide(f64* y, int n, int first, int step)
 {
     for (int i = 0; i < n; ++i) y[i] /= static_cast<f64>(first + i * step);
 }
-[[gnu::noinline]] inline void divide(c64f* y, int n, int first, int step)
+[[gnu::noinline, gnu::noclone]] inline void divide(c64f* y, int n, int first, int step)
 {
     for (int i = 0; i < n; ++i) {
         const f64 products = static_cast<f64>(first + i * step);
