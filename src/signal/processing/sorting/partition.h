@@ -103,8 +103,8 @@ template <class A, size_t least> struct Divider {
                 for (size_t i = 0; i < vectors; ++i) v[i] = load(now.from(i * L));
                 const bool more = left >= block;
                 if (more) {
-                    const size_t free = static_cast<size_t>(next.key - d.low.key) - d.back;
-                    const size_t first = 0 - static_cast<size_t>(free <= 2 * block); // all bits or none
+                    const size_t spare = static_cast<size_t>(next.key - d.low.key) - d.back;
+                    const size_t first = 0 - static_cast<size_t>(spare <= 2 * block); // all bits or none
                     left -= block;
                     now = next.from(left & ~first);
                     next = next.from(block & first);
