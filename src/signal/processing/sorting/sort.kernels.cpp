@@ -40,9 +40,9 @@ template <class Key, class K> [[gnu::noinline]] bool sorted_already(Array<K> a, 
     for (; n - i >= L; i += L, next += L) storen<L>(place + i, next);
     for (; i < n; ++i) place[i] = static_cast<i32>(i);
 }
-inline void flip_all(u8* p, size_t bytes, i64 flip)
+template <class T> inline void flip_all(T* p, size_t n, i64 flip)
 {
-    if (flip) change(p, bytes, Flipped{flip});
+    if (flip) change(p, n, Flipped{flip});
 }
 
 // In ascending order, or in descending order where all bits of flip are set. Without places where there are none.
@@ -62,9 +62,9 @@ template <class T> [[gnu::noinline]] void sort_integers(i64 flip, Array<T> a, si
     if (sorted_already<Flipped>(a, n, flip)) return;
     if constexpr (sizeof(T) > 2) // shorter ones are counted soon
         if (sort_few<Flipped, Flipped>(a, n, flip)) return;
-    flip_all(reinterpret_cast<u8*>(a.key), n * sizeof(T), flip);
+    flip_all(a.key, n, flip);
     quicksort(a, n);
-    flip_all(reinterpret_cast<u8*>(a.key), n * sizeof(T), flip);
+    flip_all(a.key, n, flip);
 }
 inline void sort_in_order(i64 flip, i32* p, i32* place, size_t n) { sort_integers(flip, Array<i32>{p, place}, n); }
 inline void sort_in_order(i64 flip, i16* p, i32* place, size_t n)
@@ -72,9 +72,9 @@ inline void sort_in_order(i64 flip, i16* p, i32* place, size_t n)
     if (!place) return sort_integers(flip, Array<i16>{p, nullptr}, n);
     if (n <= mostInWords) return sort_as_words(p, place, n, static_cast<u16>(flip));
     number(place, n);
-    flip_all(reinterpret_cast<u8*>(p), n * sizeof *p, flip);
+    flip_all(p, n, flip);
     sort_from_middle({p, place}, n, lowestKey<i16>, highestKey<i16>);
-    flip_all(reinterpret_cast<u8*>(p), n * sizeof *p, flip);
+    flip_all(p, n, flip);
 }
 [[gnu::noinline]] void sort_in_order(i64 flip, u8* p, i32* place, size_t n)
 {
