@@ -2521,11 +2521,11 @@ IppStatus SIG5D_CDECL ippsWTHaarInv_64f_Idx(const Ipp64f* pSrcLow, int srcLowIdx
 
 /* ---- Sorting ---- */
 
-/* in place pSrcDst[0] <= pSrcDst[1] <= ... <= pSrcDst[len-1]. */
+/* pSrcDst[0] <= pSrcDst[1] <= ... <= pSrcDst[len-1]. */
 IppStatus SIG5D_STDCALL ippsSortAscend_64f_I(Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSortAscend_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
 
-/* in place pSrcDst[0] <= pSrcDst[1] <= ... <= pSrcDst[len-1]. */
+/* pSrcDst[0] <= pSrcDst[1] <= ... <= pSrcDst[len-1]. */
 IppStatus SIG5D_STDCALL ippsSortAscend_32s_I(Ipp32s* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSortAscend_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSortAscend_16s_I(Ipp16s* pSrcDst, int len);
@@ -2533,11 +2533,11 @@ IppStatus SIG5D_CDECL ippsSortAscend_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, i
 IppStatus SIG5D_STDCALL ippsSortAscend_8u_I(Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSortAscend_8u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
 
-/* in place pSrcDst[0] >= pSrcDst[1] >= ... >= pSrcDst[len-1]. */
+/* pSrcDst[0] >= pSrcDst[1] >= ... >= pSrcDst[len-1]. */
 IppStatus SIG5D_STDCALL ippsSortDescend_64f_I(Ipp64f* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSortDescend_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, int len);
 
-/* in place pSrcDst[0] >= pSrcDst[1] >= ... >= pSrcDst[len-1]. */
+/* pSrcDst[0] >= pSrcDst[1] >= ... >= pSrcDst[len-1]. */
 IppStatus SIG5D_STDCALL ippsSortDescend_32s_I(Ipp32s* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSortDescend_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, int len);
 IppStatus SIG5D_STDCALL ippsSortDescend_16s_I(Ipp16s* pSrcDst, int len);
@@ -2545,14 +2545,14 @@ IppStatus SIG5D_CDECL ippsSortDescend_16s_I_Idx(Ipp16s* pSrcDst, int srcDstIdx, 
 IppStatus SIG5D_STDCALL ippsSortDescend_8u_I(Ipp8u* pSrcDst, int len);
 IppStatus SIG5D_CDECL ippsSortDescend_8u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, int len);
 
-/* in place pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] <= ... <= pSrcDst[len-1]. The
-   indices from 0 to len-1 are sorted with their elements; those of equal elements increase. */
+/* pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] <= ... <= pSrcDst[len-1]. The indices
+   from 0 to len-1 are sorted with their elements; those of equal elements increase. */
 IppStatus SIG5D_STDCALL ippsSortIndexAscend_64f_I(Ipp64f* pSrcDst, Ipp32s* pDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSortIndexAscend_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, Ipp32s* pDstIdx, int dstIdxIdx,
         int len);
 
-/* in place pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] <= ... <= pSrcDst[len-1]. The
-   indices from 0 to len-1 are sorted with their elements; those of equal elements increase. */
+/* pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] <= ... <= pSrcDst[len-1]. The indices
+   from 0 to len-1 are sorted with their elements; those of equal elements increase. */
 IppStatus SIG5D_STDCALL ippsSortIndexAscend_32s_I(Ipp32s* pSrcDst, Ipp32s* pDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSortIndexAscend_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, Ipp32s* pDstIdx, int dstIdxIdx,
         int len);
@@ -2563,14 +2563,14 @@ IppStatus SIG5D_STDCALL ippsSortIndexAscend_8u_I(Ipp8u* pSrcDst, Ipp32s* pDstIdx
 IppStatus SIG5D_CDECL ippsSortIndexAscend_8u_I_Idx(Ipp8u* pSrcDst, int srcDstIdx, Ipp32s* pDstIdx, int dstIdxIdx, int
         len);
 
-/* in place pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] >= ... >= pSrcDst[len-1]. The
-   indices from 0 to len-1 are sorted with their elements; those of equal elements increase. */
+/* pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] >= ... >= pSrcDst[len-1]. The indices
+   from 0 to len-1 are sorted with their elements; those of equal elements increase. */
 IppStatus SIG5D_STDCALL ippsSortIndexDescend_64f_I(Ipp64f* pSrcDst, Ipp32s* pDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSortIndexDescend_64f_I_Idx(Ipp64f* pSrcDst, int srcDstIdx, Ipp32s* pDstIdx, int dstIdxIdx,
         int len);
 
-/* in place pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] >= ... >= pSrcDst[len-1]. The
-   indices from 0 to len-1 are sorted with their elements; those of equal elements increase. */
+/* pSrcDst[i] = pSrcDst[pDstIdx[i]], as it was before the call; pSrcDst[0] >= ... >= pSrcDst[len-1]. The indices
+   from 0 to len-1 are sorted with their elements; those of equal elements increase. */
 IppStatus SIG5D_STDCALL ippsSortIndexDescend_32s_I(Ipp32s* pSrcDst, Ipp32s* pDstIdx, int len);
 IppStatus SIG5D_CDECL ippsSortIndexDescend_32s_I_Idx(Ipp32s* pSrcDst, int srcDstIdx, Ipp32s* pDstIdx, int dstIdxIdx,
         int len);

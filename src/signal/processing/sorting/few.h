@@ -1,4 +1,4 @@
-// Arrays of few different keys.
+// Arrays of few different elements.
 #pragma once
 #include "signal/processing/sorting/small.h"
 
@@ -38,15 +38,18 @@ template <class K> [[gnu::noinline]] void tell_places(const K* a, size_t n, K ke
     }
 }
 
-// Sorts the array if a sample, and then all, have no more than 16 different keys. Places are 0, 1, ... n - 1.
-template <class K> [[gnu::noinline]] bool sort_few(Array<K> a, size_t n)
+// Sorts the array if a sample, and then all, have no more than 16 different elements, of which Key makes keys, and Back
+// elements again. Places are 0, 1, ... n - 1.
+template <class Key, class Back, class K> [[gnu::noinline]] bool sort_few(Array<K> a, size_t n, i64 flip)
 {
-    constexpr size_t samples = keysOfSample<K>, most = 16, block = 4096 / sizeof(K);
+    constexpr size_t samples = keysOfSample<K>, most = 16, block = 16384 / sizeof(K);
     if (n < 1000) return false;
     K key[samples];
     size_t count[most] = {}, different = 0;
     for (size_t i = 0; i < samples; ++i) key[i] = a.key[n / samples * i];
+    change(key, samples, Key{flip});
     sort_small(Keys<K>{key}, samples);
+    change(key, samples, Back{flip});
     for (size_t i = 0; i < samples; ++i)
         if (i == 0 || key[i] != key[different - 1]) key[different++] = key[i];
     if (different > most) return false;
@@ -68,7 +71,7 @@ template <class K> [[gnu::noinline]] bool sort_few(Array<K> a, size_t n)
 
 #else
 
-template <class K> inline bool sort_few(Array<K>, size_t) { return false; }
+template <class Key, class Back, class K> inline bool sort_few(Array<K>, size_t, i64) { return false; }
 
 #endif
 

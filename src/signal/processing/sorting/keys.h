@@ -87,12 +87,12 @@ struct Flipped {
 
 // a[i] = op(a[i]). Here and below loops are simpler than those of kernel/map.h: what they take is little beside the
 // sorting, and their size would not be.
-template <class T, class Op> inline void change(T* a, size_t n, Op op)
+template <class T, class Op> [[gnu::noinline, gnu::noclone]] void change(T* a, size_t n, Op op)
 {
     constexpr int L = integerLanes<T>;
     size_t i = 0;
     if constexpr (L > 1)
-        for (; n - i >= L; i += L) storen<L>(a + i, op(loadn<L>(a + i)));
+        for (; i + L <= n; i += L) storen<L>(a + i, op(loadn<L>(a + i)));
     for (; i < n; ++i) a[i] = op(a[i]);
 }
 // Whether test<lanes>(i) holds for no element.
@@ -116,7 +116,7 @@ template <class K> [[gnu::noinline]] bool all_equal(const K* k, size_t n, K key)
 {
     return nowhere<K>(n, [=]<int L>(size_t i) { return loadn<L>(k + i) != splatn<L>(key); });
 }
-template <class T> [[gnu::noinline]] void fill(T* p, size_t n, T x)
+template <class T> inline void fill(T* p, size_t n, T x)
 {
     change(p, n, [x](auto v) { return all_lanes<decltype(v)>(x); });
 }

@@ -27,7 +27,7 @@ template <class A> inline size_t partition_singly(A a, size_t n, typename A::Key
 // waits to be stored, so that loads never wait for counts: three blocks set aside are enough for it. With one in hand
 // four are free: at least one at either end, and at most two at that which the next is taken from. A stored block takes
 // one at most of an end, and the next one gives one back where less than two were.
-// least: elements of the shortest array.
+// "least" are the elements of the shortest array: three blocks at least.
 template <class A, size_t least> struct Divider {
     using K = typename A::Key;
     static constexpr int L = lanesParted<sizeof(K)>;
@@ -92,7 +92,7 @@ template <class A, size_t least> struct Divider {
         Divider d{splatn<L>(pivot), a, a.from(n - L)};
         copy(a, rest, 2 * block);
         copy(a.from(n - block), rest.from(2 * block), block);
-        // What has not been loaded: "left" elements from "next" on, of which "room" lie before it.
+        // What has not been loaded: "left" elements from "next" on, with "spare" places before them.
         A next = a.from(2 * block);
         size_t left = n - aside;
         if (left >= block) {
@@ -103,8 +103,8 @@ template <class A, size_t least> struct Divider {
                 for (size_t i = 0; i < vectors; ++i) v[i] = load(now.from(i * L));
                 const bool more = left >= block;
                 if (more) {
-                    const size_t free = static_cast<size_t>(next.key - d.low.key) - d.back;
-                    const size_t first = 0 - static_cast<size_t>(free <= 2 * block); // all bits or none
+                    const size_t spare = static_cast<size_t>(next.key - d.low.key) - d.back;
+                    const size_t first = 0 - static_cast<size_t>(spare <= 2 * block); // all bits or none
                     left -= block;
                     now = next.from(left & ~first);
                     next = next.from(block & first);
@@ -128,11 +128,10 @@ template <class A, size_t least> struct Divider {
 template <size_t least, class A> [[gnu::noinline]] size_t partition(A a, size_t n, typename A::Key pivot)
 {
     constexpr int L = lanesParted<sizeof(typename A::Key)>;
-    if constexpr (L == 1) {
+    if constexpr (L == 1)
         return partition_singly(a, n, pivot);
-    } else {
+    else
         return Divider<A, least>::divide(a, n, pivot);
-    }
 }
 
 } // namespace

@@ -40,18 +40,9 @@ template <class Key, class K> [[gnu::noinline]] bool sorted_already(Array<K> a, 
     for (; n - i >= L; i += L, next += L) storen<L>(place + i, next);
     for (; i < n; ++i) place[i] = static_cast<i32>(i);
 }
-[[gnu::noinline]] void turn_into_keys(i64* p, size_t n, i64 flip) { change(p, n, KeysOfDoubles{flip}); }
-[[gnu::noinline]] void turn_into_doubles(i64* p, size_t n, i64 flip) { change(p, n, DoublesOfKeys{flip}); }
-[[gnu::noinline]] void flip_all(u8* p, size_t bytes, i64 flip)
+template <class T> inline void flip_all(T* p, size_t n, i64 flip)
 {
-    if (flip) change(p, bytes, Flipped{flip});
-}
-
-template <class K> inline void sort_keys(Array<K> a, size_t n)
-{
-    if constexpr (sizeof(K) > 2) // shorter ones are counted soon
-        if (sort_few(a, n)) return;
-    quicksort(a, n);
+    if (flip) change(p, n, Flipped{flip});
 }
 
 // In ascending order, or in descending order where all bits of flip are set. Without places where there are none.
@@ -60,17 +51,20 @@ template <class K> inline void sort_keys(Array<K> a, size_t n)
     const Array<i64> a = {reinterpret_cast<i64*>(p), place};
     if (place) number(place, n);
     if (sorted_already<KeysOfDoubles>(a, n, flip)) return;
-    turn_into_keys(a.key, n, flip);
-    sort_keys(a, n);
-    turn_into_doubles(a.key, n, flip);
+    if (sort_few<KeysOfDoubles, DoublesOfKeys>(a, n, flip)) return;
+    change(a.key, n, KeysOfDoubles{flip});
+    quicksort(a, n);
+    change(a.key, n, DoublesOfKeys{flip});
 }
 template <class T> [[gnu::noinline]] void sort_integers(i64 flip, Array<T> a, size_t n)
 {
     if (a.place) number(a.place, n);
     if (sorted_already<Flipped>(a, n, flip)) return;
-    flip_all(reinterpret_cast<u8*>(a.key), n * sizeof(T), flip);
-    sort_keys(a, n);
-    flip_all(reinterpret_cast<u8*>(a.key), n * sizeof(T), flip);
+    if constexpr (sizeof(T) > 2) // shorter ones are counted soon
+        if (sort_few<Flipped, Flipped>(a, n, flip)) return;
+    flip_all(a.key, n, flip);
+    quicksort(a, n);
+    flip_all(a.key, n, flip);
 }
 inline void sort_in_order(i64 flip, i32* p, i32* place, size_t n) { sort_integers(flip, Array<i32>{p, place}, n); }
 inline void sort_in_order(i64 flip, i16* p, i32* place, size_t n)
@@ -78,9 +72,9 @@ inline void sort_in_order(i64 flip, i16* p, i32* place, size_t n)
     if (!place) return sort_integers(flip, Array<i16>{p, nullptr}, n);
     if (n <= mostInWords) return sort_as_words(p, place, n, static_cast<u16>(flip));
     number(place, n);
-    flip_all(reinterpret_cast<u8*>(p), n * sizeof *p, flip);
+    flip_all(p, n, flip);
     sort_from_middle({p, place}, n, lowestKey<i16>, highestKey<i16>);
-    flip_all(reinterpret_cast<u8*>(p), n * sizeof *p, flip);
+    flip_all(p, n, flip);
 }
 [[gnu::noinline]] void sort_in_order(i64 flip, u8* p, i32* place, size_t n)
 {

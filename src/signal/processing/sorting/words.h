@@ -1,4 +1,4 @@
-// Keys of up to 16 bits with their places: both in one word of 32 bits, which is sorted alone.
+// Keys of 16 bits with their places: both in one word of 32 bits, which is sorted alone.
 #pragma once
 #include "signal/processing/sorting/quick.h"
 

@@ -197,3 +197,23 @@ TEST(Sorting, ZerosInfinitiesAndNaN)
             }
     });
 }
+
+// More elements than fit a word of 32 bits beside a key of 16.
+TEST(Sorting, PlacesOfManyShortElements)
+{
+    const size_t n = (1 << 24) + 12345;
+    std::mt19937 random(8);
+    std::vector<Ipp16s> x(n);
+    for (Ipp16s& v : x) v = static_cast<Ipp16s>(random());
+    std::vector<size_t> next(65537);
+    for (Ipp16s v : x) ++next[static_cast<size_t>(v + 32769)];
+    std::partial_sum(next.begin(), next.end(), next.begin());
+    std::vector<Ipp32s> right(n), places(n);
+    for (size_t i = 0; i < n; ++i) right[next[static_cast<size_t>(x[i] + 32768)]++] = static_cast<Ipp32s>(i);
+    force(supported().back());
+    std::vector<Ipp16s> sorted = x;
+    EXPECT_EQ(call("ippsSortIndexAscend_16s_I", (void*)sorted.data(), (void*)places.data(), static_cast<int>(n)),
+              ippStsNoErr);
+    EXPECT_TRUE(places == right);
+    EXPECT_TRUE(std::is_sorted(sorted.begin(), sorted.end()));
+}
