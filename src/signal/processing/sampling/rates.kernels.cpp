@@ -8,9 +8,12 @@ namespace {
 // One element, and two beside each other: in a register each.
 template <class T> constexpr int parts = sizeof(T) / sizeof(f64);
 
-template <class T> [[gnu::noinline, gnu::cold]] void zeros(T* d, size_t n)
+template <class T> [[gnu::noinline]] void zeros(T* d, size_t n)
 {
-    for (size_t i = 0; i < n; ++i) d[i] = T{};
+    for (size_t i = 0; i < n; ++i) {
+        d[i] = T{};
+        asm volatile("" : : : "memory"); // few, as a rule
+    }
 }
 
 #if SIG5D_LEVEL == 0
@@ -42,7 +45,7 @@ inline Vec<f64> with_zeros(const c64f* p)
 
 // Each sample and the zeros behind it. Whole vectors are stored, as far as the last one ends within the array; what one
 // stores too much the next sample stores again.
-template <class T> void spread(const T* a, size_t n, T* d, size_t factor)
+template <class T> [[gnu::noinline]] void spread(const T* a, size_t n, T* d, size_t factor)
 {
     constexpr size_t L = static_cast<size_t>(lanes<f64> / parts<T>);
     const size_t vectors = (factor + L - 1) / L;
@@ -62,7 +65,7 @@ template <class T> void spread(const T* a, size_t n, T* d, size_t factor)
 struct BeforeZero {
     template <class V> Complex<V> operator()(V x) const { return {x, V{}}; }
 };
-inline void spread_by_two(const f64* a, size_t n, f64* d)
+[[gnu::noinline]] void spread_by_two(const f64* a, size_t n, f64* d)
 {
     map<Medium>(n, complex(reinterpret_cast<c64f*>(d)), BeforeZero{}, a);
 }
