@@ -28,16 +28,17 @@ template <class T> void spread(const T* a, size_t n, T* d, size_t factor)
 
 #else
 
-// A vector that begins with an element, the rest of it zeros.
-inline Vec<f64> with_zeros(const f64* p)
+// A vector of 16 bytes that begins with an element, the rest of it zeros. Not a longer one: of those whose upper half
+// is known to be zero the compiler leaves the halves of registers in use.
+inline Vec<f64, 2> with_zeros(const f64* p)
 {
-    Vec<f64> v{};
+    Vec<f64, 2> v{};
     v[0] = *p;
     return v;
 }
-inline Vec<f64> with_zeros(const c64f* p)
+inline Vec<f64, 2> with_zeros(const c64f* p)
 {
-    Vec<f64> v{};
+    Vec<f64, 2> v{};
     v[0] = p->re;
     v[1] = p->im;
     return v;
@@ -47,12 +48,12 @@ inline Vec<f64> with_zeros(const c64f* p)
 // stores too much the next sample stores again.
 template <class T> [[gnu::noinline]] void spread(const T* a, size_t n, T* d, size_t factor)
 {
-    constexpr size_t L = static_cast<size_t>(lanes<f64> / parts<T>);
+    constexpr size_t L = static_cast<size_t>(2 / parts<T>);
     const size_t vectors = (factor + L - 1) / L;
     size_t i = 0;
     for (size_t left = n * factor; left >= vectors * L && i < n; left -= factor, ++i, d += factor) {
         store_at(d, with_zeros(a + i));
-        for (size_t k = 1; k < vectors; ++k) store_at(d + k * L, Vec<f64>{});
+        for (size_t k = 1; k < vectors; ++k) store_at(d + k * L, Vec<f64, 2>{});
     }
     for (; i < n; ++i, d += factor) {
         *d = a[i];
