@@ -19,25 +19,23 @@ struct Handle {
     intptr_t length; // of the delay arrays
 };
 
+constexpr int typeOf64f = 19; // the size of the buffer is the same for all
+
 // What is called for a type.
 template <class T> struct Functions;
 template <> struct Functions<Ipp64f> {
-    static constexpr int type = 19;
     static constexpr auto copy = ippsCopy_64f;
     static constexpr auto filter = ippsFilterMedian_64f;
 };
 template <> struct Functions<Ipp32s> {
-    static constexpr int type = 11;
     static constexpr auto copy = ippsCopy_32s;
     static constexpr auto filter = ippsFilterMedian_32s;
 };
 template <> struct Functions<Ipp16s> {
-    static constexpr int type = 7;
     static constexpr auto copy = ippsCopy_16s;
     static constexpr auto filter = ippsFilterMedian_16s;
 };
 template <> struct Functions<Ipp8u> {
-    static constexpr int type = 1;
     static constexpr auto copy = ippsCopy_8u;
     static constexpr auto filter = ippsFilterMedian_8u;
 };
@@ -57,19 +55,23 @@ void freeHandle(void* pHandle)
 void* zeros(int bytes)
 {
     auto* block = static_cast<Ipp8u*>(allocateAligned(bytes));
-    for (int i = 0; block && i < bytes; ++i) block[i] = 0;
+    for (int i = 0; block && i < bytes; ++i) {
+        block[i] = 0;
+        asm volatile("" : : : "memory"); // made for size
+    }
     return block;
 }
 
-template <class T> Status initAlloc(int maskSize, void** ppHandle)
+// For samples of so many bytes.
+[[gnu::noinline]] Status initAlloc(int maskSize, int elementBytes, void** ppHandle)
 {
     *ppHandle = nullptr;
     int bytes = 0;
-    const Status status = ippsFilterMedianGetBufferSize(maskSize, Functions<T>::type, &bytes);
+    const Status status = ippsFilterMedianGetBufferSize(maskSize, typeOf64f, &bytes);
     if (status < 0) return status;
     auto* h = static_cast<Handle*>(malloc(sizeof(Handle)));
     if (!h) return StsNoMemErr;
-    const int length = bytes / 16, line = length * static_cast<int>(sizeof(T));
+    const int length = bytes / 16, line = length * elementBytes;
     *h = {maskSize, zeros(line), zeros(line), static_cast<Ipp8u*>(allocateAligned(bytes)), length};
     if (!h->dlySrc || !h->dlyDst || !h->buf) {
         release(h);
@@ -80,19 +82,19 @@ template <class T> Status initAlloc(int maskSize, void** ppHandle)
 }
 Status alloc(int maskSize, IppsFilterMedianHandle_64f** ppHandle)
 {
-    return initAlloc<Ipp64f>(maskSize, reinterpret_cast<void**>(ppHandle));
+    return initAlloc(maskSize, 8, reinterpret_cast<void**>(ppHandle));
 }
 Status alloc(int maskSize, IppsFilterMedianHandle_32s** ppHandle)
 {
-    return initAlloc<Ipp32s>(maskSize, reinterpret_cast<void**>(ppHandle));
+    return initAlloc(maskSize, 4, reinterpret_cast<void**>(ppHandle));
 }
 Status alloc(int maskSize, IppsFilterMedianHandle_16s** ppHandle)
 {
-    return initAlloc<Ipp16s>(maskSize, reinterpret_cast<void**>(ppHandle));
+    return initAlloc(maskSize, 2, reinterpret_cast<void**>(ppHandle));
 }
 Status alloc(int maskSize, IppsFilterMedianHandle_8u** ppHandle)
 {
-    return initAlloc<Ipp8u>(maskSize, reinterpret_cast<void**>(ppHandle));
+    return initAlloc(maskSize, 1, reinterpret_cast<void**>(ppHandle));
 }
 
 // The next stretch of the handle's stream. The history that the last call left becomes that of this one.

@@ -47,10 +47,8 @@ template <class T> Status median(const T* src, T* d, int n, int maskSize, const 
     const Stream<T> x{src, history, mask - 1, n, *src};
     if (mask == 1) {
         if (src != d) move(src, d, n);
-    } else if (mask == 3) {
-        small_median<3>(x, d, next);
-    } else if (mask == 5) {
-        small_median<5>(x, d, next);
+    } else if (mask <= 5) {
+        small_median(x, d, next, mask == 3 ? networks<3, T> : networks<5, T>);
     } else {
         long_median(x, d, next, buffer);
     }

@@ -58,7 +58,7 @@ template <int mask, int vectors, class T> [[gnu::always_inline]] inline void net
 template <int mask, class T> [[gnu::noinline]] void networks(const T* a, T* d, ptrdiff_t n)
 {
 #if SIG5D_LEVEL > 0
-    constexpr int L = lanes<T>, group = 4;
+    constexpr int L = lanes<T>, group = std::is_same_v<T, f64> ? 4 : 2;
     while (n >= group * L) {
         n -= group * L;
         network_of<mask, group>(a + n, d + n);
@@ -74,18 +74,18 @@ template <int mask, class T> [[gnu::noinline]] void networks(const T* a, T* d, p
     }
 }
 
-// The first results, which have history in their window, and the others.
-template <int mask, class T> [[gnu::noinline]] void small_median(const Stream<T>& x, T* d, T* next)
+// The first results, which have history in their window, and the others; run is what does networks of this mask.
+template <class T>
+[[gnu::noinline]] void small_median(const Stream<T>& x, T* d, T* next, void (*run)(const T*, T*, ptrdiff_t))
 {
-    constexpr ptrdiff_t delay = mask - 1;
-    T begin[2 * delay], tail[delay];
-    const ptrdiff_t some = x.length < delay ? x.length : delay;
-    copy_stream(x, -delay, begin, delay + some);
+    T begin[8], tail[4];
+    const ptrdiff_t some = x.length < x.delay ? x.length : x.delay;
+    copy_stream(x, -x.delay, begin, x.delay + some);
     copy_tail(x, tail);
-    networks<mask>(x.src + some, d + some, x.length - some);
-    networks<mask>(begin + delay, begin + delay, some);
-    copy_few(begin + delay, d, some);
-    if (next) copy_few(tail, next, delay);
+    run(x.src + some, d + some, x.length - some);
+    run(begin + x.delay, begin + x.delay, some);
+    copy_few(begin + x.delay, d, some);
+    if (next) copy_few(tail, next, x.delay);
 }
 
 } // namespace

@@ -13,18 +13,22 @@ template <class T> struct Stream {
     ptrdiff_t delay, length;
     T first;
 
-    T operator[](ptrdiff_t t) const { return t >= 0 ? src[t] : history ? history[delay + t] : first; }
+    [[gnu::always_inline]] T operator[](ptrdiff_t t) const
+    {
+        return t >= 0 ? src[t] : history ? history[delay + t] : first;
+    }
 };
 
 // Copies for the ends of streams, one by one: made for size.
-template <class T> [[gnu::noinline, gnu::cold]] void copy_few(const T* a, T* d, ptrdiff_t n)
+inline void one_by_one() { asm volatile("" : : : "memory"); }
+template <class T> [[gnu::noinline]] void copy_few(const T* a, T* d, ptrdiff_t n)
 {
-    for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
+    for (ptrdiff_t i = 0; i < n; ++i, one_by_one()) d[i] = a[i];
 }
 // n samples from the t-th on; before the history anything.
-template <class T> [[gnu::noinline, gnu::cold]] void copy_stream(const Stream<T>& x, ptrdiff_t t, T* d, ptrdiff_t n)
+template <class T> [[gnu::noinline]] void copy_stream(const Stream<T>& x, ptrdiff_t t, T* d, ptrdiff_t n)
 {
-    for (; n > 0; ++t, --n) *d++ = x[t < -x.delay ? -x.delay : t];
+    for (; n > 0; ++t, --n, one_by_one()) *d++ = x[t < -x.delay ? -x.delay : t];
 }
 // The history for the next block.
 template <class T> inline void copy_tail(const Stream<T>& x, T* d) { copy_stream(x, x.length - x.delay, d, x.delay); }

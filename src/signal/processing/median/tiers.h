@@ -11,7 +11,7 @@ namespace sig5d::SIG5D_VARIANT {
 namespace {
 
 // In place, without recursion.
-[[gnu::noinline, gnu::cold]] inline void sort(i64* a, size_t n)
+[[gnu::noinline]] inline void sort(i64* a, size_t n)
 {
     const auto sift = [a](i64 x, size_t i, size_t end) { // x goes down from i to its place
         for (size_t child; (child = 2 * i + 1) < end; i = child) {

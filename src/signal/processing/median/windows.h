@@ -25,7 +25,8 @@ template <class K> struct Rows {
     int mask, shift, block, blocks;
     explicit Rows(int m) : mask(m), shift(block_shift(m)), block(1 << shift), blocks(L + ((m + block - 2) >> shift)) {}
 
-    Vec<K> operator[](int k) const { return load(of + (k & (block - 1)) * blocks + (k >> shift)); }
+    const K* at(int k) const { return of + (k & (block - 1)) * blocks + (k >> shift); }
+    Vec<K> operator[](int k) const { return load(at(k)); }
 
     // sample(i): the i-th of the first window and of those behind it.
     template <class Sample> [[gnu::always_inline]] inline void fill(Sample sample)
@@ -67,9 +68,12 @@ template <class V> [[gnu::noinline]] void sort_lanes(V* list, int n)
         }
 }
 
-// n elements in order and two more, without the two lowest and the two highest: n - 2 elements. d may be the list.
-template <class V> [[gnu::noinline]] void insert_two(const V* list, int n, V x, V y, V* d)
+// n elements in order and two more, without the two lowest and the two highest: n - 2 elements. d may be the list. By
+// address, since vectors of 32 bytes as arguments would leave the upper halves of registers in use.
+template <class V, class K>
+[[gnu::noinline]] void insert_two(const V* list, int n, const K* first, const K* second, V* d)
 {
+    const V x = load(first), y = load(second);
     V low = list[0], here = list[1], next = between(low, x, here);
 #pragma GCC unroll 4
     for (int i = 0; i + 2 < n; ++i) {
@@ -94,7 +98,8 @@ template <class V, class K> [[gnu::noinline]] void divide(V* list, int n, const 
         const int from = k == 0 ? first + half - 1 : first + x.mask, start = first + k * half;
         V* const part = list + n;
         const V* source = list;
-        for (int i = 0; i < half; i += 2, source = part) insert_two(source, n - i, x[from + i], x[from + i + 1], part);
+        for (int i = 0; i < half; i += 2, source = part)
+            insert_two(source, n - i, x.at(from + i), x.at(from + i + 1), part);
         if (half == 2)
             divide_two(part[0], part[1], x[start], x[start + x.mask], out + start * lanes<K>);
         else
@@ -117,7 +122,7 @@ template <class K> [[gnu::noinline]] void medians(const Rows<K>& x, K* out)
         ++list;
         n -= 2;
     }
-    for (; n > x.block; n -= 2, k += 2) insert_two(list, n, x[k], x[k + 1], list);
+    for (; n > x.block; n -= 2, k += 2) insert_two(list, n, x.at(k), x.at(k + 1), list);
     divide(list, n, x, 0, out);
 }
 
@@ -128,8 +133,7 @@ template <class K> struct Compared {
 template <> struct Compared<i64> {
     i64 operator()(f64 x) const { return key_of(x); }
 };
-template <class K, class T>
-[[gnu::noinline, gnu::cold]] void fill_from_history(Rows<K>& rows, const Stream<T>& x, ptrdiff_t t)
+template <class K, class T> [[gnu::noinline]] void fill_from_history(Rows<K>& rows, const Stream<T>& x, ptrdiff_t t)
 {
     rows.fill([&x, t](int i) { return Compared<K>{}(x[t + i < -x.delay ? -x.delay : t + i]); });
 }

@@ -8,9 +8,12 @@ namespace {
 // One element, and two beside each other: in a register each.
 template <class T> constexpr int parts = sizeof(T) / sizeof(f64);
 
-template <class T> [[gnu::noinline, gnu::cold]] void zeros(T* d, size_t n)
+template <class T> [[gnu::noinline]] void zeros(T* d, size_t n)
 {
-    for (size_t i = 0; i < n; ++i) d[i] = T{};
+    for (size_t i = 0; i < n; ++i) {
+        d[i] = T{};
+        asm volatile("" : : : "memory"); // few, as a rule
+    }
 }
 
 #if SIG5D_LEVEL == 0
@@ -25,16 +28,17 @@ template <class T> void spread(const T* a, size_t n, T* d, size_t factor)
 
 #else
 
-// A vector that begins with an element, the rest of it zeros.
-inline Vec<f64> with_zeros(const f64* p)
+// A vector of 16 bytes that begins with an element, the rest of it zeros. Not a longer one: of those whose upper half
+// is known to be zero the compiler leaves the halves of registers in use.
+inline Vec<f64, 2> with_zeros(const f64* p)
 {
-    Vec<f64> v{};
+    Vec<f64, 2> v{};
     v[0] = *p;
     return v;
 }
-inline Vec<f64> with_zeros(const c64f* p)
+inline Vec<f64, 2> with_zeros(const c64f* p)
 {
-    Vec<f64> v{};
+    Vec<f64, 2> v{};
     v[0] = p->re;
     v[1] = p->im;
     return v;
@@ -42,14 +46,14 @@ inline Vec<f64> with_zeros(const c64f* p)
 
 // Each sample and the zeros behind it. Whole vectors are stored, as far as the last one ends within the array; what one
 // stores too much the next sample stores again.
-template <class T> void spread(const T* a, size_t n, T* d, size_t factor)
+template <class T> [[gnu::noinline]] void spread(const T* a, size_t n, T* d, size_t factor)
 {
-    constexpr size_t L = static_cast<size_t>(lanes<f64> / parts<T>);
+    constexpr size_t L = static_cast<size_t>(2 / parts<T>);
     const size_t vectors = (factor + L - 1) / L;
     size_t i = 0;
     for (size_t left = n * factor; left >= vectors * L && i < n; left -= factor, ++i, d += factor) {
         store_at(d, with_zeros(a + i));
-        for (size_t k = 1; k < vectors; ++k) store_at(d + k * L, Vec<f64>{});
+        for (size_t k = 1; k < vectors; ++k) store_at(d + k * L, Vec<f64, 2>{});
     }
     for (; i < n; ++i, d += factor) {
         *d = a[i];
@@ -62,7 +66,7 @@ template <class T> void spread(const T* a, size_t n, T* d, size_t factor)
 struct BeforeZero {
     template <class V> Complex<V> operator()(V x) const { return {x, V{}}; }
 };
-inline void spread_by_two(const f64* a, size_t n, f64* d)
+[[gnu::noinline]] void spread_by_two(const f64* a, size_t n, f64* d)
 {
     map<Medium>(n, complex(reinterpret_cast<c64f*>(d)), BeforeZero{}, a);
 }
