@@ -27,7 +27,6 @@
 #include "kernel/saturate.h"
 #include "kernel/scale.h"
 #include "kernel/simd.h"
-#include "kernel/simd/triples.h"
 #include "kernel/sincos.h"
 #include "kernel/sources.h"
 #include "kernel/stream.h"

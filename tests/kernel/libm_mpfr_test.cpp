@@ -66,12 +66,6 @@ bool turns(const char* kind, long points, bool powersOfTwo)
     return report(kind, sine, cosine);
 }
 
-double fromBits(uint64_t bits)
-{
-    double x;
-    std::memcpy(&x, &bits, sizeof x);
-    return x;
-}
 double unit(uint64_t r) { return double(r >> 11) * 0x1p-53; }
 
 } // namespace
