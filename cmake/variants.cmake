@@ -7,11 +7,8 @@
 # line, without which the same store loop ran at 50 or at 62 bytes per cycle, as chance had it. px is to be small, since
 # beside it there are faster bodies; but with -Os GCC 12 loses the upper half of a magnitude in 32-bit code. Loops over
 # single elements are what kernels leave to the ends of arrays, and are not worth a vectorised copy each, which made the
-# library 3 % larger; in a few files such a loop does the work. (Of find_indexes GCC 12 otherwise makes AVX2 code that
-# returns with the upper halves of registers in use.)
+# library 3 % larger; where single elements are copied or converted by the thousand, they are.
 set(optimise -O3 -fno-tree-loop-vectorize -falign-loops=64)
-set(vectorised matrix/find_indexes.kernels.cpp matrix/find_mask.kernels.cpp signal/processing/iir/filter.kernels.cpp
-    vector/product.kernels.cpp)
 if(SIG5D_SANITIZE) # whose checks in every loop took ten times as long to optimise as the loops
     set(optimise -O1 -fexpensive-optimizations -falign-loops=64) # the latter clears the upper halves of vector registers
 endif()
@@ -19,17 +16,20 @@ set(optimise_small -O2 -falign-functions=1 -falign-jumps=1 -falign-loops=1)
 set(SIG5D_COMMON_FLAGS "$<IF:$<BOOL:$<TARGET_PROPERTY:SIG5D_SMALL>>,${optimise_small},${optimise}>"
     -msse2 -mfpmath=sse -ffp-contract=off -fno-math-errno -mstackrealign)
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang) # which builds for fuzzing only, and has no such option
-    list(APPEND SIG5D_COMMON_FLAGS -fno-tree-loop-distribute-patterns)
+    # Records are copied in registers of 16 bytes: GCC 12 clears the upper halves of longer ones only in functions that
+    # have vectors of their own.
+    list(APPEND SIG5D_COMMON_FLAGS -fno-tree-loop-distribute-patterns -mmove-max=128 -mstore-max=128)
 endif()
 
 # sig5d_add_variants(<list>): an object library per variant, each file of SIG5D_KERNEL_SOURCES in each of its bodies;
 # their objects are added to the list.
 function(sig5d_add_variants list)
-    foreach(source ${vectorised})
-        set_source_files_properties(${CMAKE_SOURCE_DIR}/src/${source} PROPERTIES COMPILE_OPTIONS
-            "$<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:NAME>,sig5d_px>>:-ftree-loop-vectorize>")
-    endforeach()
     if(NOT SIG5D_SANITIZE)
+        set(vectorised ${SIG5D_KERNEL_SOURCES})
+        list(FILTER vectorised INCLUDE REGEX "^signal/processing/|/find_mask|/product")
+        list(TRANSFORM vectorised PREPEND ${CMAKE_SOURCE_DIR}/src/)
+        set_source_files_properties(${vectorised} PROPERTIES COMPILE_OPTIONS
+            "$<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:NAME>,sig5d_px>>:-ftree-loop-vectorize>")
         # Its loops are written in vectors, and most of its code is beside them: half the size and as fast.
         set_source_files_properties(${CMAKE_SOURCE_DIR}/src/signal/processing/sorting/sort.kernels.cpp
                                     PROPERTIES COMPILE_OPTIONS "-O2;-fno-tree-vectorize;-falign-loops=32")
