@@ -14,7 +14,7 @@ Status bufferSize(int kernelWidth, int kernelHeight, int roiWidth, int* pSize)
     return StsNoErr;
 }
 
-// In a specification, from its head; no number of taps is too large for 64 bits that a buffer has.
+// In a specification, from its head; so many taps as a buffer has room for are not too many for 64 bits.
 struct SpecLayout {
     i64 doubles, bytes;
     explicit SpecLayout(i64 taps) : doubles(headBytes + ((4 * taps + 63) & ~i64(63))), bytes(63 + doubles + 8 * taps) {}
@@ -23,8 +23,9 @@ struct SpecLayout {
 Status borderSize(int kernelWidth, int kernelHeight, int width, int, int, int, int, int* pSpecSize, int* pBufferSize)
 {
     const BufferLayout buffer(kernelWidth, kernelHeight, width, true);
+    if (!buffer.fits()) return StsSizeErr;
     const SpecLayout spec(i64(kernelWidth) * kernelHeight);
-    if (!buffer.fits() || spec.bytes > maxInt) return StsSizeErr;
+    if (spec.bytes > maxInt) return StsSizeErr;
     *pSpecSize = static_cast<int>(spec.bytes);
     *pBufferSize = static_cast<int>(buffer.bytes);
     return StsNoErr;
