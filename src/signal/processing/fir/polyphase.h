@@ -33,6 +33,14 @@ inline void putTap(c64f h, f64* row, int width)
     row[2 * width + 1] = h.re;
 }
 
+// The taps of an output. Apart from the divisions of buildGroup, which are calls in 32-bit code: GCC 12 would keep a
+// vector over them, where the stack has no place for one.
+template <class T>
+[[gnu::noinline]] void putColumn(const T* tap, i64 up, i32 from, i32 to, f64* rows, int rowDoubles, int width)
+{
+    for (i32 e = from; e < to; ++e) putTap(tap[-e * up], rows + e * rowDoubles, width);
+}
+
 template <class T> void buildGroup(const MultiRateLayout& at, const T* taps, i64 phase, i64 output, Group* g, f64* rows)
 {
     constexpr int parts = sizeof(T) / sizeof(f64);
@@ -46,9 +54,7 @@ template <class T> void buildGroup(const MultiRateLayout& at, const T* taps, i64
         if (l == 0) g->first = static_cast<i32>(oldest);
         g->from[l] = static_cast<i32>(oldest - g->first);
         g->to[l] = g->rows = static_cast<i32>(newest + 1 - g->first);
-        for (i32 e = g->from[l]; e < g->to[l]; ++e) {
-            putTap(taps[q - (g->first + e) * at.up], rows + e * rowDoubles + l * parts, width);
-        }
+        putColumn(taps + (q - g->first * at.up), at.up, g->from[l], g->to[l], rows + l * parts, rowDoubles, width);
     }
 }
 
