@@ -47,7 +47,7 @@ template <class T> void buildGroup(const MultiRateLayout& at, const T* taps, i64
     const int width = static_cast<int>(at.width), rowDoubles = static_cast<int>(at.rowBytes()) / 8;
     *g = {};
     g->output = static_cast<i32>(output);
-    for (int i = 0; i < at.rows * rowDoubles; ++i) rows[i] = 0.0;
+    zero(rows, at.rows * rowDoubles);
     for (int l = 0; l < width; ++l) {
         const i64 q = (output + l) * at.down + phase;
         const i64 oldest = -floorDivide(at.tapsLen - 1 - q, at.up), newest = floorDivide(q, at.up);
