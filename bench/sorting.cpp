@@ -5,6 +5,10 @@
 #include <memory>
 #include <numeric>
 #include <random>
+#ifdef SIG5D_HIGHWAY
+#include <hwy/contrib/sort/vqsort.h>
+#include <hwy/targets.h>
+#endif
 
 namespace {
 
@@ -48,6 +52,31 @@ private:
     size_t turn_ = 0;
 };
 
+#ifdef SIG5D_HIGHWAY
+// Highway's, with AVX2 and with the best that the processor has.
+void disable(int64_t targets)
+{
+    static int64_t disabled = -1;
+    if (disabled != targets) hwy::DisableTargets(disabled = targets);
+}
+template <class T> void addVqsort(Setup& s, T* x, size_t n)
+{
+    if constexpr (sizeof(T) > 1) {
+        const auto without = [=](int64_t targets) {
+            return [=] {
+                static const hwy::Sorter sort; // which allocates memory
+                disable(targets);
+                sort(x, n, hwy::SortAscending());
+            };
+        };
+        s.peer("vqsort, AVX2", without(HWY_AVX3 | HWY_AVX3_DL));
+        s.peer("vqsort", without(0));
+    }
+}
+#else
+template <class T> void addVqsort(Setup&, T*, size_t) {}
+#endif
+
 template <class T>
 void addSort(const std::string& name, const std::string& kind, IppStatus(SIG5D_STDCALL* sort)(T*, int))
 {
@@ -59,6 +88,7 @@ void addSort(const std::string& name, const std::string& kind, IppStatus(SIG5D_S
         s.restore([=] { inputs->next(x); });
         s.run([=] { sort(x, static_cast<int>(n)); });
         s.peer("std::sort", [=] { std::sort(x, x + n); });
+        addVqsort(s, x, n);
     });
 }
 template <class T>
