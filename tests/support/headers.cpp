@@ -1,1 +1,0 @@
-// What the precompiled header of the tests belongs to.
