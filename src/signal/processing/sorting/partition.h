@@ -57,7 +57,7 @@ template <class A, size_t least> struct Divider {
         if constexpr (A::paired) v.place = load_lanes<L>(from.place);
         return v;
     }
-    [[gnu::always_inline]] static void store(A to, Loaded v)
+    [[gnu::always_inline]] static void store(A to, const Loaded& v)
     {
         storen<L>(to.key, v.key);
         if constexpr (A::paired) store_part<4 * L>(to.place, v.place);
@@ -66,11 +66,12 @@ template <class A, size_t least> struct Divider {
     {
         for (size_t i = 0; i < n; i += L) store(to.from(i), load(from.from(i)));
     }
-    [[gnu::always_inline]] void put(Loaded v, size_t number)
+    [[gnu::always_inline]] void put(const Loaded& loaded, size_t number)
     {
-        const u32 set = lanes_above(v.key, pivots);
-        v.key = parted(v.key, set);
-        if constexpr (A::paired) v.place = parted_low<L>(v.place, set);
+        const u32 set = lanes_above(loaded.key, pivots);
+        Loaded v{};
+        v.key = parted(loaded.key, set);
+        if constexpr (A::paired) v.place = parted_low<L>(loaded.place, set);
         store(low.from(number * L + back), v);
         store(high.from(back), v);
         back -= bit_count(set);
