@@ -264,9 +264,12 @@ std::string Stage::strayWrite(const registry::Arguments& a) const
         if (!s.own || (a.f.args[i].isConst && s.made.empty())) continue;
         for (const uint8_t* p = s.low; p < s.high; ++p) {
             const auto k = static_cast<size_t>(p - s.own);
-            if (p >= s.own && k < s.bytes && !s.gaps.have(k)) continue;
-            const bool source = s.longer && p >= s.own && k < s.longer->size();
-            if (*p != (source ? (*s.longer)[k] : canary)) return a.f.args[i].name;
+            const bool inside = p >= s.own && k < s.bytes;
+            if (inside && !s.gaps.have(k)) continue;
+            // Where steps were spoilt after the rows had been filled, what counts as between them has elements.
+            const auto& filled = s.longer ? *s.longer : a.content[i];
+            const bool known = p >= s.own && k < filled.size() && (inside || s.longer);
+            if (*p != (known ? filled[k] : canary)) return a.f.args[i].name;
         }
     }
     return "";

@@ -219,8 +219,9 @@ size_t Arguments::bytes(int i) const
 
 size_t Arguments::lead(int i) const
 {
-    const bool any = f.args[i].rows && extent[i] > 0;
-    return any ? static_cast<size_t>(f.args[i].rows->lead(values.data())) : 0;
+    if (!f.args[i].rows || extent[i] <= 0) return 0;
+    const auto lead = static_cast<size_t>(f.args[i].rows->lead(values.data()));
+    return lead < content[i].size() ? lead : 0; // scalars that were spoilt since may lead anywhere
 }
 
 bool Arguments::valid() const
