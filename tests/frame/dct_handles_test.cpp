@@ -53,19 +53,11 @@ TEST(DctHandles, NoMemoryLeavesNothingBehind)
     for (int len : {4, 30, 64, 100, 89, 206})
         for (const auto create : {ippsDCTFwdInitAlloc_64f_Idx, ippsDCTInvInitAlloc_64f_Idx}) {
             Handle* handle = nullptr;
-            int failing = 1, status = ippStsNoMemErr, held = 0;
-            for (; status; ++failing) {
-                handle = reinterpret_cast<Handle*>(8);
-                const auto use = support::onCountedHeap([&] { status = create(len, 0, &handle); }, failing);
-                EXPECT_EQ(use.strange, 0);
-                held = use.held;
-                if (!status) break;
-                ASSERT_EQ(status, ippStsNoMemErr);
-                EXPECT_EQ(handle, nullptr);
-                EXPECT_EQ(use.held, 0) << failing;
-            }
-            EXPECT_EQ(held, len == 4 ? 2 : 3) << len; // handle, specification, buffer
-            EXPECT_EQ(failing - 1, len == 89 || len == 206 ? 4 : held) << len;
+            int status = 0;
+            const auto made = support::failingEachAllocation(handle, [&] { return create(len, 0, &handle); });
+            ASSERT_EQ(made.status, 0);
+            EXPECT_EQ(made.held, len == 4 ? 2 : 3) << len; // handle, specification, buffer
+            EXPECT_EQ(made.failures, len == 89 || len == 206 ? 4 : made.held) << len;
             std::vector<double> x(size_t(len), 1.0);
             EXPECT_EQ(support::onCountedHeap([&] { status = ippsDCTFwd_64f_I_Idx(x.data(), 0, handle); }).allocations,
                       0);

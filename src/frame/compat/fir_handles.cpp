@@ -1,29 +1,18 @@
 // FIR filters by handle, as an older interface has them: one call allocates and initialises, the handle carries the
 // stream from call to call, and one call releases everything.
-#include "sig5d.h"
+#include "frame/compat/filter_handle.h"
 #include "frame/index.h"
-#include "frame/memory.h"
-#include "frame/types.h"
-#include <stdlib.h>
 
 namespace sig5d {
 namespace {
 
-// The words of a handle. Both delay arrays hold tapsLen samples, more than a filter reads: hosts rely on that length.
-struct Handle {
-    void* spec;
-    void* dlySrc;
-    void* dlyDst;
-    Ipp8u* buf;
-    intptr_t tapsLen;
-};
+using Handle = FilterHandle<void*>; // the specification
 
 // What is called for a type.
 template <class T> struct Functions;
 template <> struct Functions<Ipp64f> {
     using Spec = IppsFIRSpec_64f;
     static constexpr int type = 19;
-    static constexpr auto copy = ippsCopy_64f;
     static constexpr auto singleInit = ippsFIRSRInit_64f;
     static constexpr auto single = ippsFIRSR_64f;
     static constexpr auto multiInit = ippsFIRMRInit_64f;
@@ -32,32 +21,15 @@ template <> struct Functions<Ipp64f> {
 template <> struct Functions<Ipp64fc> {
     using Spec = IppsFIRSpec_64fc;
     static constexpr int type = 20;
-    static constexpr auto copy = ippsCopy_64fc;
     static constexpr auto singleInit = ippsFIRSRInit_64fc;
     static constexpr auto single = ippsFIRSR_64fc;
     static constexpr auto multiInit = ippsFIRMRInit_64fc;
     static constexpr auto multi = ippsFIRMR_64fc;
 };
 
-void release(Handle* h)
-{
-    freeAligned(h->dlySrc);
-    freeAligned(h->dlyDst);
-    freeAligned(h->buf);
-    freeAligned(h->spec);
-    free(h);
-}
-
 void freeHandle(void* pHandle)
 {
     if (pHandle) release(static_cast<Handle*>(pHandle));
-}
-
-template <class T> void* delayLine(int n)
-{
-    T* line = static_cast<T*>(allocateAligned(n * static_cast<int>(sizeof(T))));
-    for (int i = 0; line && i < n; ++i) line[i] = T{};
-    return line;
 }
 
 // sizes(&specSize, &bufSize) and init(taps, spec) are the filter's own functions. The status is that of init, and
@@ -76,10 +48,10 @@ Status initAlloc(const T* pTaps, int tapsIdx, int tapsLen, H** ppHandle, Sizes s
     auto* h = static_cast<Handle*>(malloc(sizeof(Handle)));
     if (!h) return StsNoMemErr;
     // Below 2^31 bytes each: the block, whose size was accepted, is larger than a delay line.
-    *h = {allocateAligned(specSize), delayLine<T>(tapsLen), delayLine<T>(tapsLen),
-          static_cast<Ipp8u*>(allocateAligned(bufSize)), tapsLen};
-    const bool complete = h->spec && h->dlySrc && h->dlyDst && h->buf;
-    const Status status = complete ? init(taps, static_cast<typename Functions<T>::Spec*>(h->spec)) : StsNoMemErr;
+    const int line = tapsLen * static_cast<int>(sizeof(T));
+    *h = {allocateAligned(specSize), zeros(line), zeros(line), static_cast<Ipp8u*>(allocateAligned(bufSize)), tapsLen};
+    const bool complete = h->first && h->complete();
+    const Status status = complete ? init(taps, static_cast<typename Functions<T>::Spec*>(h->first)) : StsNoMemErr;
     if (status) {
         release(h);
     } else {
@@ -110,14 +82,12 @@ Status multiInitAlloc(const T* pTaps, int tapsIdx, int tapsLen, int up, int upPh
         });
 }
 
-// The next stretch of the handle's stream. The history that the last call left becomes that of this one.
 template <auto filter, class T, class H> Status next(const T* src, T* dst, int numIters, H* pHandle)
 {
-    using F = Functions<T>;
-    auto* h = reinterpret_cast<Handle*>(pHandle);
-    T *in = static_cast<T*>(h->dlySrc), *out = static_cast<T*>(h->dlyDst);
-    F::copy(out, in, static_cast<int>(h->tapsLen));
-    return filter(src, dst, numIters, static_cast<typename F::Spec*>(h->spec), in, out, h->buf);
+    auto& h = *reinterpret_cast<Handle*>(pHandle);
+    return goOn<T>(h, [&](T* in, T* out) {
+        return filter(src, dst, numIters, static_cast<typename Functions<T>::Spec*>(h.first), in, out, h.buf);
+    });
 }
 
 template <class T, class H> Status single(const T* pSrc, int srcIdx, T* pDst, int dstIdx, int numIters, H* pHandle)

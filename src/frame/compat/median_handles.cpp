@@ -1,65 +1,23 @@
 // Median filters by handle, as an older interface has them: one call allocates, the handle carries the stream from call
 // to call, and one call releases everything.
-#include "sig5d.h"
+#include "frame/compat/filter_handle.h"
 #include "frame/index.h"
-#include "frame/memory.h"
-#include "frame/types.h"
-#include <stdlib.h>
 
 namespace sig5d {
 namespace {
 
-// The words of a handle. Both delay arrays hold as many samples as the mask, one more than the filter reads. The first
-// word is that of filters with a specification; hosts know the order of the others.
-struct Handle {
-    intptr_t maskSize;
-    void* dlySrc;
-    void* dlyDst;
-    Ipp8u* buf;
-    intptr_t length; // of the delay arrays
-};
+using Handle = FilterHandle<intptr_t>; // the mask size
 
 constexpr int typeOf64f = 19; // the size of the buffer is the same for all
 
-// What is called for a type.
-template <class T> struct Functions;
-template <> struct Functions<Ipp64f> {
-    static constexpr auto copy = ippsCopy_64f;
-    static constexpr auto filter = ippsFilterMedian_64f;
-};
-template <> struct Functions<Ipp32s> {
-    static constexpr auto copy = ippsCopy_32s;
-    static constexpr auto filter = ippsFilterMedian_32s;
-};
-template <> struct Functions<Ipp16s> {
-    static constexpr auto copy = ippsCopy_16s;
-    static constexpr auto filter = ippsFilterMedian_16s;
-};
-template <> struct Functions<Ipp8u> {
-    static constexpr auto copy = ippsCopy_8u;
-    static constexpr auto filter = ippsFilterMedian_8u;
-};
+template <class T> constexpr auto filterOf = ippsFilterMedian_64f;
+template <> constexpr auto filterOf<Ipp32s> = ippsFilterMedian_32s;
+template <> constexpr auto filterOf<Ipp16s> = ippsFilterMedian_16s;
+template <> constexpr auto filterOf<Ipp8u> = ippsFilterMedian_8u;
 
-void release(Handle* h)
-{
-    freeAligned(h->dlySrc);
-    freeAligned(h->dlyDst);
-    freeAligned(h->buf);
-    free(h);
-}
 void freeHandle(void* pHandle)
 {
     if (pHandle) release(static_cast<Handle*>(pHandle));
-}
-
-void* zeros(int bytes)
-{
-    auto* block = static_cast<Ipp8u*>(allocateAligned(bytes));
-    for (int i = 0; block && i < bytes; ++i) {
-        block[i] = 0;
-        asm volatile("" : : : "memory"); // made for size
-    }
-    return block;
 }
 
 // For samples of so many bytes.
@@ -73,7 +31,7 @@ void* zeros(int bytes)
     if (!h) return StsNoMemErr;
     const int length = bytes / 16, line = length * elementBytes;
     *h = {maskSize, zeros(line), zeros(line), static_cast<Ipp8u*>(allocateAligned(bytes)), length};
-    if (!h->dlySrc || !h->dlyDst || !h->buf) {
+    if (!h->complete()) {
         release(h);
         return StsNoMemErr;
     }
@@ -97,15 +55,13 @@ Status alloc(int maskSize, IppsFilterMedianHandle_8u** ppHandle)
     return initAlloc(maskSize, 1, reinterpret_cast<void**>(ppHandle));
 }
 
-// The next stretch of the handle's stream. The history that the last call left becomes that of this one.
 template <class T, class H> Status filter(const T* pSrc, int srcIdx, T* pDst, int dstIdx, int len, H* pHandle)
 {
-    using F = Functions<T>;
-    auto* h = reinterpret_cast<Handle*>(pHandle);
-    T *in = static_cast<T*>(h->dlySrc), *out = static_cast<T*>(h->dlyDst);
-    F::copy(out, in, static_cast<int>(h->length));
-    return F::filter(element<sizeof(T)>(pSrc, srcIdx), element<sizeof(T)>(pDst, dstIdx), len,
-                     static_cast<int>(h->maskSize), in, out, h->buf);
+    auto& h = *reinterpret_cast<Handle*>(pHandle);
+    return goOn<T>(h, [&](T* in, T* out) {
+        return filterOf<T>(element<sizeof(T)>(pSrc, srcIdx), element<sizeof(T)>(pDst, dstIdx), len,
+                           static_cast<int>(h.first), in, out, h.buf);
+    });
 }
 
 } // namespace
