@@ -1,35 +1,10 @@
 // Correlation and convolution by definition: each sum one product after the other. Computed in T itself, in the order
 // that the interface names, or in a wider type.
 #pragma once
-#include "sig5d_types.h"
+#include "oracle/numbers.h"
 #include <algorithm>
-#include <vector>
 
 namespace oracle {
-
-template <class Real> struct Parts {
-    Real re, im;
-};
-
-inline double conjugateProduct(double a, double b) { return a * b; }
-inline long double conjugateProduct(long double a, long double b) { return a * b; }
-template <class C> C conjugateProduct(C a, C b) { return {a.re * b.re + a.im * b.im, a.re * b.im - a.im * b.re}; }
-inline void addTo(double& s, double p) { s += p; }
-inline void addTo(long double& s, long double p) { s += p; }
-template <class C> void addTo(C& s, C p)
-{
-    s.re += p.re;
-    s.im += p.im;
-}
-
-inline long double widened(double x) { return x; }
-inline Parts<long double> widened(Ipp64fc x) { return {x.re, x.im}; }
-template <class T> auto widened(const std::vector<T>& v)
-{
-    std::vector<decltype(widened(T{}))> result;
-    for (const T& x : v) result.push_back(widened(x));
-    return result;
-}
 
 // The indexes into a that meet b[n + lag].
 struct Meeting {
@@ -51,7 +26,7 @@ std::vector<T> correlation(const std::vector<T>& a, const std::vector<T>& b, lon
         const Meeting m(static_cast<long long>(a.size()), static_cast<long long>(b.size()), lag);
         T sum{};
         for (long long n = m.from; n < m.to; ++n)
-            addTo(sum, conjugateProduct(a[static_cast<size_t>(n)], b[static_cast<size_t>(n + lag)]));
+            add(sum, product(conjugate(a[static_cast<size_t>(n)]), b[static_cast<size_t>(n + lag)]));
         y[static_cast<size_t>(k)] = sum;
     }
     return y;

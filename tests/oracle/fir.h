@@ -1,33 +1,8 @@
 // FIR filters by definition, one product after the other, oldest input first.
 #pragma once
-#include "sig5d_types.h"
-#include <vector>
+#include "oracle/numbers.h"
 
 namespace oracle {
-
-// Numbers that the filters are defined on: double, long double, and complex ones of both.
-struct LongComplex {
-    long double re, im;
-};
-inline double product(double h, double x) { return h * x; }
-inline long double product(long double h, long double x) { return h * x; }
-template <class C> C product(C h, C x) { return {h.re * x.re - h.im * x.im, h.re * x.im + h.im * x.re}; }
-inline void add(double& s, double p) { s += p; }
-inline void add(long double& s, long double p) { s += p; }
-template <class C> void add(C& s, C p)
-{
-    s.re += p.re;
-    s.im += p.im;
-}
-
-inline long double wide(double x) { return x; }
-inline LongComplex wide(Ipp64fc x) { return {x.re, x.im}; }
-template <class T> auto wide(const std::vector<T>& v)
-{
-    std::vector<decltype(wide(T{}))> result;
-    for (const T& x : v) result.push_back(wide(x));
-    return result;
-}
 
 // y[n] = sum of taps[k] * x[n-k]; history holds the inputs before x[0], the last of them at its end.
 template <class T>

@@ -38,7 +38,7 @@ TEST(Convolution, ByTransformIsWithinItsBound)
                                {513, 512},
                                {3000, 2900}}) {
         const auto a = noise<Ipp64f>(g, n), b = noise<Ipp64f>(g, m);
-        const auto exact = oracle::convolution(oracle::widened(a), oracle::widened(b));
+        const auto exact = oracle::convolution(oracle::wide(a), oracle::wide(b));
         double aSum = 0, bSum = 0;
         for (const double x : a) aSum += x * x;
         for (const double x : b) bSum += x * x;

@@ -85,7 +85,7 @@ double magnitude(double x) { return std::abs(x); }
 double magnitude(long double x) { return static_cast<double>(std::abs(x)); }
 template <class C> double magnitude(C x) { return static_cast<double>(std::hypot(x.re, x.im)); }
 long double apart(double x, long double y) { return x - y; }
-oracle::Parts<long double> apart(Ipp64fc x, oracle::Parts<long double> y) { return {x.re - y.re, x.im - y.im}; }
+oracle::LongComplex apart(Ipp64fc x, oracle::LongComplex y) { return {x.re - y.re, x.im - y.im}; }
 
 template <class T> double norm(const std::vector<T>& v)
 {
@@ -127,7 +127,7 @@ TYPED_TEST(Correlation, ByTransformIsWithinItsBound)
                           {3000, 2000, 45, -1500}}; // in parts
     for (const Case& c : cases) {
         const auto a = noise<T>(this->g, c.a), b = noise<T>(this->g, c.b);
-        const auto exact = oracle::correlation(oracle::widened(a), oracle::widened(b), c.lags, c.lowLag);
+        const auto exact = oracle::correlation(oracle::wide(a), oracle::wide(b), c.lags, c.lowLag);
         std::vector<T> plain;
         for (const auto& v : support::supported()) {
             support::force(v);
@@ -143,7 +143,7 @@ TYPED_TEST(Correlation, ByTransformIsWithinItsBound)
     for (const int n : {1, 2, 3, 15, 16, 17, 600, 1025})
         for (const int lags : {1, n / 2 + 1, n, n + 9}) {
             const auto x = noise<T>(this->g, n);
-            const auto exact = oracle::correlation(oracle::widened(x), oracle::widened(x), lags, 0);
+            const auto exact = oracle::correlation(oracle::wide(x), oracle::wide(x), lags, 0);
             for (const auto& v : support::supported()) {
                 support::force(v);
                 auto y = filled<T>(lags);
