@@ -7,23 +7,7 @@ namespace {
 
 using bench::Setup;
 
-template <class T> struct Calls;
-template <> struct Calls<Ipp64f> {
-    static constexpr const char* name = "ippsFilterMedian_64f";
-    static constexpr auto run = ippsFilterMedian_64f;
-};
-template <> struct Calls<Ipp32s> {
-    static constexpr const char* name = "ippsFilterMedian_32s";
-    static constexpr auto run = ippsFilterMedian_32s;
-};
-template <> struct Calls<Ipp16s> {
-    static constexpr const char* name = "ippsFilterMedian_16s";
-    static constexpr auto run = ippsFilterMedian_16s;
-};
-template <> struct Calls<Ipp8u> {
-    static constexpr const char* name = "ippsFilterMedian_8u";
-    static constexpr auto run = ippsFilterMedian_8u;
-};
+template <class T> using Median = IppStatus(SIG5D_STDCALL*)(const T*, T*, int, int, const T*, T*, Ipp8u*);
 
 // A heap of the samples below the median and one of those above it, which know their samples' places.
 template <class T> class TwoHeaps
@@ -92,10 +76,9 @@ private:
     int next_ = 0;
 };
 
-template <class T> void filter(int mask, std::vector<bench::Size> sizes)
+template <class T> void add(const std::string& name, Median<T> filter, int mask, std::vector<bench::Size> sizes)
 {
-    using C = Calls<T>;
-    bench::addCase(std::string(C::name) + " mask " + std::to_string(mask), std::move(sizes), [=](Setup& s) {
+    bench::addCase(name + " mask " + std::to_string(mask), std::move(sizes), [=](Setup& s) {
         const int n = static_cast<int>(s.size);
         T* x = s.input<T>(static_cast<size_t>(n));
         T* y = s.output<T>(static_cast<size_t>(n));
@@ -105,7 +88,7 @@ template <class T> void filter(int mask, std::vector<bench::Size> sizes)
         auto* buffer = s.scratch(16 * static_cast<size_t>(mask));
         s.elements = n;
         if (sizeof(T) == sizeof(double) && mask <= 5) s.flops = (mask == 3 ? 4.0 : 10.0) * n; // minima and maxima
-        s.run([=] { C::run(x, y, n, mask, nullptr, nullptr, buffer); });
+        s.run([=] { filter(x, y, n, mask, nullptr, nullptr, buffer); });
         const auto heaps = std::make_shared<TwoHeaps<T>>(mask);
         s.peer("two heaps", [=] { heaps->run(x, y, n); });
     });
@@ -113,13 +96,13 @@ template <class T> void filter(int mask, std::vector<bench::Size> sizes)
 
 const bench::Cases median([] {
     for (const int mask : {3, 5, 7, 15, 31, 63, 127, 255, 1023, 4095}) {
-        filter<Ipp64f>(mask, {1024, 4096});
-        filter<Ipp32s>(mask, {4096});
-        filter<Ipp16s>(mask, {4096});
-        filter<Ipp8u>(mask, {4096});
+        add("ippsFilterMedian_64f", ippsFilterMedian_64f, mask, {1024, 4096});
+        add("ippsFilterMedian_32s", ippsFilterMedian_32s, mask, {4096});
+        add("ippsFilterMedian_16s", ippsFilterMedian_16s, mask, {4096});
+        add("ippsFilterMedian_8u", ippsFilterMedian_8u, mask, {4096});
     }
-    filter<Ipp64f>(16383, {65536});
-    filter<Ipp64f>(65535, {262144});
+    add("ippsFilterMedian_64f", ippsFilterMedian_64f, 16383, {65536});
+    add("ippsFilterMedian_64f", ippsFilterMedian_64f, 65535, {262144});
 });
 
 } // namespace
