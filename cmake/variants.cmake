@@ -28,6 +28,7 @@ function(sig5d_add_variants list)
         # (Of find_indexes GCC 12 otherwise makes AVX2 code that returns with the upper halves of registers in use.)
         set(vectorised ${SIG5D_KERNEL_SOURCES})
         list(FILTER vectorised INCLUDE REGEX "^signal/processing/|/find_|/product")
+        list(FILTER vectorised EXCLUDE REGEX "/median/|/sampling/|/sorting/") # vectors of their own, and ends of arrays
         list(TRANSFORM vectorised PREPEND ${CMAKE_SOURCE_DIR}/src/)
         set_source_files_properties(${vectorised} PROPERTIES COMPILE_OPTIONS
             "$<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:NAME>,sig5d_px>>:-ftree-loop-vectorize>")

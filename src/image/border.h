@@ -45,7 +45,7 @@ struct BorderedImage {
         const int place = y.source(i, type), end = x.n + x.behind;
         d += x.before;
         if (place == nowhere) {
-            for (int j = -x.before; j < end; ++j, one_at_a_time()) d[j] = static_cast<T>(value);
+            for (int j = -x.before; j < end; ++j) d[j] = static_cast<T>(value);
             return;
         }
         const f32* const from = row(place);

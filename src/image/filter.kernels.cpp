@@ -23,7 +23,7 @@ Status filter(const f64* pSrc, int srcStep, f64* pDst, int dstStep, int width, i
         at<const f64>(pSrc, (anchorY - kernelHeight + 1) * static_cast<ptrdiff_t>(srcStep)) + anchorX - kernelWidth + 1;
     for (int y = 0, n; y < height; y += n) {
         n = step_rows(height - y);
-        for (int i = 0; i < kernelHeight + n - 1; ++i, one_at_a_time())
+        for (int i = 0; i < kernelHeight + n - 1; ++i)
             rows[i] = at<const f64>(first, i * static_cast<ptrdiff_t>(srcStep));
         filter_rows(rows, Taps<f64>{taps, kernelWidth, kernelHeight}, pDst, dstStep, width, n);
         first = at<const f64>(first, n * static_cast<ptrdiff_t>(srcStep));
@@ -58,8 +58,7 @@ private:
             free_ = after(free_);
         }
         int k = free_ < count ? free_ - count + slots_ : free_ - count;
-        for (int i = 0; i < count; ++i, k = after(k), one_at_a_time())
-            rows_[i] = inPlace(first + i) ? placeOf(first + i) : slot(k);
+        for (int i = 0; i < count; ++i, k = after(k)) rows_[i] = inPlace(first + i) ? placeOf(first + i) : slot(k);
     }
     void copy(int i, void* d) const
     {

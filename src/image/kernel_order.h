@@ -9,8 +9,7 @@ namespace {
 template <class T, class U> void arrange(const T* kernel, int width, int height, U* taps)
 {
     for (int s = width - 1; s >= 0; --s)
-        for (int t = height - 1; t >= 0; --t, one_at_a_time())
-            *taps++ = static_cast<U>(kernel[static_cast<ptrdiff_t>(t) * width + s]);
+        for (int t = height - 1; t >= 0; --t) *taps++ = static_cast<U>(kernel[static_cast<ptrdiff_t>(t) * width + s]);
 }
 
 } // namespace

@@ -1,25 +1,17 @@
 // What a border filter's specification and the work buffers of image filters consist of. The size queries, Init and the
 // filters use the same layout; all sizes are computed in 64 bits and refused when they are no int.
 #pragma once
-#include "frame/types.h"
+#include "kernel/layout.h"
 #include <cstddef>
 
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-constexpr i64 maxInt = 0x7fffffff;
-template <class P> P aligned(P p)
-{
-    return reinterpret_cast<P>((reinterpret_cast<uintptr_t>(p) + 63) & ~uintptr_t(63));
-}
 // What lies so many bytes from p.
 template <class T, class P> T* at(P p, ptrdiff_t bytes)
 {
     return reinterpret_cast<T*>(reinterpret_cast<uintptr_t>(p) + static_cast<uintptr_t>(bytes));
 }
-
-// In a loop: no vectors. They would be much code for what is done once for a row or a kernel.
-[[gnu::always_inline]] inline void one_at_a_time() { asm volatile("" ::: "memory"); }
 
 // Rows of pixels that are computed at once, at most, whatever the body: buffers may change hands.
 constexpr int mostGroups = 4;
@@ -36,7 +28,7 @@ struct BufferLayout {
     {
         const i64 rows = i64(kernelHeight) + mostGroups - 1, taps = i64(kernelWidth) * kernelHeight;
         // An odd number of cache lines from one row to the next lets them lie beside each other in every cache.
-        const i64 row = (8 * (i64(width) + kernelWidth) & ~i64(127)) + 192, addresses = (8 * rows + 63) & ~i64(63);
+        const i64 row = (8 * (i64(width) + kernelWidth) & ~i64(127)) + 192, addresses = align64(8 * rows);
         window = static_cast<int>(rows);
         behindAddresses = static_cast<int>(addresses);
         rowBytes = static_cast<int>(row);

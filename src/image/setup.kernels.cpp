@@ -17,7 +17,7 @@ Status bufferSize(int kernelWidth, int kernelHeight, int roiWidth, int* pSize)
 // In a specification, from its head; so many taps as a buffer has room for are not too many for 64 bits.
 struct SpecLayout {
     i64 doubles, bytes;
-    explicit SpecLayout(i64 taps) : doubles(headBytes + ((4 * taps + 63) & ~i64(63))), bytes(63 + doubles + 8 * taps) {}
+    explicit SpecLayout(i64 taps) : doubles(headBytes + align64(4 * taps)), bytes(63 + doubles + 8 * taps) {}
 };
 
 Status borderSize(int kernelWidth, int kernelHeight, int width, int, int, int, int, int* pSpecSize, int* pBufferSize)

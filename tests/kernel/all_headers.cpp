@@ -9,6 +9,7 @@
 #include "kernel/indexes.h"
 #include "kernel/lane_shifts.h"
 #include "kernel/lanes.h"
+#include "kernel/layout.h"
 #include "kernel/libm.h"
 #include "kernel/libm_exp.h"
 #include "kernel/log.h"

@@ -1,5 +1,6 @@
 // Which method a length has, and the sizes that follow.
 #include "signal/processing/dct/spec.h"
+#include "kernel/layout.h"
 #include "signal/processing/fft/mixed.h"
 #include "signal/processing/fft/plan.h"
 
@@ -104,7 +105,6 @@ private:
 
 DctSizes dctSizes(int len)
 {
-    constexpr i64 maxInt = 0x7fffffff;
     const Layout layout(len);
     const i64 own = layout.end - i64(sizeof(DctSpec));
     DctSizes sizes = {own + 192, layout.init ? layout.init + 64 : 0, layout.work + 64, false};

@@ -16,10 +16,7 @@ template <class T> [[gnu::noinline]] void move(const T* a, T* d, ptrdiff_t n)
 #if SIG5D_LEVEL > 0
     for (; i + lanes<T> <= n; i += lanes<T>) store(d + i, load(a + i));
 #endif
-    for (; i < n; ++i) {
-        d[i] = a[i];
-        asm volatile("" : : : "memory"); // no vectors again
-    }
+    for (; i < n; ++i) d[i] = a[i];
 }
 
 // The first address from p on that a double may have.

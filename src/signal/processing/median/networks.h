@@ -68,10 +68,7 @@ template <int mask, class T> [[gnu::noinline]] void networks(const T* a, T* d, p
         network_of<mask, 1>(a + n, d + n);
     }
 #endif
-    while (n-- > 0) {
-        set_element(d[n], middle_at<mask>(a + n, [](const T* p) { return key_of(*p); }));
-        asm volatile("" : : : "memory"); // no vectors again for what is left
-    }
+    while (n-- > 0) set_element(d[n], middle_at<mask>(a + n, [](const T* p) { return key_of(*p); }));
 }
 
 // The first results, which have history in their window, and the others; run is what does networks of this mask.

@@ -19,16 +19,15 @@ template <class T> struct Stream {
     }
 };
 
-// Copies for the ends of streams, one by one: made for size.
-inline void one_by_one() { asm volatile("" : : : "memory"); }
+// Copies for the ends of streams.
 template <class T> [[gnu::noinline]] void copy_few(const T* a, T* d, ptrdiff_t n)
 {
-    for (ptrdiff_t i = 0; i < n; ++i, one_by_one()) d[i] = a[i];
+    for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
 }
 // n samples from the t-th on; before the history anything.
 template <class T> [[gnu::noinline]] void copy_stream(const Stream<T>& x, ptrdiff_t t, T* d, ptrdiff_t n)
 {
-    for (; n > 0; ++t, --n, one_by_one()) *d++ = x[t < -x.delay ? -x.delay : t];
+    for (; n > 0; ++t, --n) *d++ = x[t < -x.delay ? -x.delay : t];
 }
 // The history for the next block.
 template <class T> inline void copy_tail(const Stream<T>& x, T* d) { copy_stream(x, x.length - x.delay, d, x.delay); }

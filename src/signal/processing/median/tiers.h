@@ -149,10 +149,7 @@ private:
 template <class T> [[gnu::noinline]] void tiered(const Stream<T>& x, T* d, i64* keys)
 {
     const ptrdiff_t mask = x.delay + 1;
-    for (ptrdiff_t i = 0; i < mask; ++i) {
-        keys[i] = key_of(x[x.length - mask + i]);
-        asm volatile("" : : : "memory"); // one by one
-    }
+    for (ptrdiff_t i = 0; i < mask; ++i) keys[i] = key_of(x[x.length - mask + i]);
     Tiers window(keys, static_cast<size_t>(mask));
     for (ptrdiff_t t = x.length - 1;; --t) {
         const i64 old = key_of(x.src[t]);

@@ -113,10 +113,7 @@ template <class K> [[gnu::noinline]] void medians(const Rows<K>& x, K* out)
     Vec<K> room[longestBlock * 5 / 2], *list = room;
     const int from = x.block - 1, half = (x.mask + 1) / 2, odd = (half - x.block) & 1;
     int n = half + odd, k = from + n;
-    for (int i = 0; i < n; ++i) {
-        list[i] = x[from + i];
-        asm volatile("" : : : "memory");
-    }
+    for (int i = 0; i < n; ++i) list[i] = x[from + i];
     sort_lanes(list, n);
     if (odd) { // the lowest and the highest one drop out already
         ++list;

@@ -10,10 +10,7 @@ template <class T> constexpr int parts = sizeof(T) / sizeof(f64);
 
 template <class T> [[gnu::noinline]] void zeros(T* d, size_t n)
 {
-    for (size_t i = 0; i < n; ++i) {
-        d[i] = T{};
-        asm volatile("" : : : "memory"); // few, as a rule
-    }
+    for (size_t i = 0; i < n; ++i) d[i] = T{};
 }
 
 #if SIG5D_LEVEL == 0

@@ -1,17 +1,10 @@
-// Copies, and how filters and correlations lay out the memory that they are given.
+// Copies, and the elements of filters and correlations.
 #pragma once
-#include "frame/types.h"
+#include "kernel/layout.h"
 #include <cstddef>
 
 namespace sig5d {
 namespace {
-
-constexpr i64 align64(i64 bytes) { return (bytes + 63) / 64 * 64; }
-
-template <class P> P aligned(P p)
-{
-    return reinterpret_cast<P>((reinterpret_cast<uintptr_t>(p) + 63) & ~uintptr_t(63));
-}
 
 template <class T> constexpr bool isComplex = sizeof(T) == sizeof(c64f);
 
@@ -22,8 +15,6 @@ constexpr int elementBytes(int dataType)
 }
 
 constexpr bool isComplexType(int dataType) { return dataType == 14 || dataType == 20; }
-
-constexpr i64 maxInt = 0x7fffffff;
 
 // Not inlined, since each of them is called from many places and takes a few hundred bytes.
 [[gnu::noinline]] inline void copy(const f64* a, f64* d, ptrdiff_t n)
