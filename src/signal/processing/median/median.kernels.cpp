@@ -10,15 +10,6 @@
 namespace sig5d::SIG5D_VARIANT {
 namespace {
 
-template <class T> [[gnu::noinline]] void move(const T* a, T* d, ptrdiff_t n)
-{
-    ptrdiff_t i = 0;
-#if SIG5D_LEVEL > 0
-    for (; i + lanes<T> <= n; i += lanes<T>) store(d + i, load(a + i));
-#endif
-    for (; i < n; ++i) d[i] = a[i];
-}
-
 // The first address from p on that a double may have.
 inline u8* aligned_to_doubles(u8* p) { return p + (-reinterpret_cast<uintptr_t>(p) & 7); }
 
@@ -43,7 +34,7 @@ template <class T> Status median(const T* src, T* d, int n, int maskSize, const 
     const int mask = oddMask(maskSize);
     const Stream<T> x{src, history, mask - 1, n, *src};
     if (mask == 1) {
-        if (src != d) move(src, d, n);
+        if (src != d) copy_few(src, d, n);
     } else if (mask <= 5) {
         small_median(x, d, next, mask == 3 ? networks<3, T> : networks<5, T>);
     } else {

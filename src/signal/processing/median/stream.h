@@ -19,7 +19,7 @@ template <class T> struct Stream {
     }
 };
 
-// Copies for the ends of streams.
+// Copies for the ends of streams, and of whole ones for the mask of 1.
 template <class T> [[gnu::noinline]] void copy_few(const T* a, T* d, ptrdiff_t n)
 {
     for (ptrdiff_t i = 0; i < n; ++i) d[i] = a[i];
